@@ -1,0 +1,10 @@
+// Drawing: surface, primitives, resources, renderers, hit tests.
+#pragma once
+
+#include "Types.h"
+#include "render/HitTest.h"
+#include "render/Layout.h"
+#include "render/Pictures.h"
+#include "render/Primitives.h"
+#include "render/Surface.h"
+#include "support/Resource.h"

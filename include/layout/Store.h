@@ -1,0 +1,44 @@
+// The items of the open layout and the layout file.
+#pragma once
+
+#include "layout/Records.h"
+
+// Header of the open layout, and the working copy of the settings dialog.
+extern PTRNHEDR PtrnHedr;
+extern PTRNHEDR EditHedr;
+// The item in hand: written by mouse and tool box, reaches the store through the commit alone.
+extern PTRNDATA PtrnData;
+// Name of the open layout, the base name of its file.
+extern gchar PtrnName[82];
+// 0 no layout open, 1 open and saved, 2 open with unsaved changes.
+extern gint PtrnFlag;
+
+// Empties the store and makes room for items.
+void IntPtrnData();
+// Releases the store.
+void ExtPtrnData();
+gint GetPtrnCount();
+// Copy an item out of or into place `no`; 0 when there is no such item.
+gint GetPtrnData(gint no, PTRNDATA* out);
+gint SetPtrnData(gint no, const PTRNDATA* in);
+void AddPtrnData(const PTRNDATA* in);
+// Removes an item, the later ones move down.
+void DelPtrnData(gint no);
+// The item itself, for reading without a copy; null outside the store. Gone with the next change.
+const PTRNDATA* ViewPtrnData(gint no);
+
+// Reads "<path>/<name>.ptn" into PtrnHedr and appends its items. 0 = unreadable, not whole, or
+// without texts (a layout without items reports 0, too, with its header loaded).
+gint PtrnFileRead(const gchar* path, const gchar* name);
+// Writes PtrnHedr and the store, items grouped by type in painting order. Failure is silent and
+// keeps the old file.
+void PtrnFileWrite(const gchar* path, const gchar* name);
+// Fills EditHedr for a new layout: 0 parent window, 1 child window, else other.
+void PtrnFileInit(gint type);
+
+// How whole a layout file is.
+enum class LayoutFileState { Whole, Missing, Broken };
+// Looks at the file's size and counts alone; reads nothing into the store.
+LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name);
+// As PtrnFileWrite, and tells whether the file was written.
+bool WritePtrnFile(const gchar* path, const gchar* name);

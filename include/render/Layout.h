@@ -1,0 +1,55 @@
+// A whole layout: frame, items, grid, overlay.
+#pragma once
+
+#include <ctime>
+
+#include "layout/Records.h"
+#include "render/Surface.h"
+
+// The layout's picture in layout dots.
+void DrawWindow1(Drawable* drawable, DrawGc* gc);
+// The editing overlay and the grid in zoomed pixels.
+void DrawWindow2(Drawable* drawable, DrawGc* gc);
+void DrawGridData(Drawable* drawable, DrawGc* gc);
+
+void DrawPageData(Drawable* drawable, DrawGc* gc);
+void DrawPageData1(Drawable* drawable, DrawGc* gc);
+void DrawPageData2(Drawable* drawable, DrawGc* gc);
+void DrawPageData3(Drawable* drawable, DrawGc* gc);
+void DrawPageData4(Drawable* drawable, DrawGc* gc);
+// All items of a layer (0 or 1); writes the sizes found while painting back into the store.
+void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer);
+void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom);
+
+// The renderers, by type code. One-point types write the item's Size.
+void DrawPtrnData01(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData02(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData03(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData04(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData05(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData06(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData07(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData08(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData09(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData10(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData11(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData12(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData13(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData14(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+void DrawPtrnData15(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
+
+// Outline and handles of an item at `zoom` percent. `undefined` 1: red, without handles.
+void DrawMoveData(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint zoom);
+void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData02(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData04(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+
+// The clock of the title area: a fixed local time for pictures that must repeat; null = now.
+void SetPictureTime(const std::tm* time);
+// Sample text of a numeric item, at most 99 characters.
+void NumericSample(const PTRNDATA* item, gchar* text, gsize size);

@@ -1,0 +1,66 @@
+// The program's drawing surface: 32-bit RGB memory that covers a rectangle of a larger plane.
+#pragma once
+
+#include <memory>
+
+#include "Types.h"
+
+typedef struct _cairo_surface cairo_surface_t;
+typedef struct _GdkPixbuf GdkPixbuf;
+
+// Pixels are 0xffRRGGBB. Drawing positions are plane positions: pixel (x, y) of the plane lies at
+// (x - X(), y - Y()) of the memory. Everything outside is clipped.
+class Drawable {
+ public:
+  // A black surface; width or height below 1 give a surface of 1 x 1. `x`, `y`: its place on the
+  // plane.
+  Drawable(gint width, gint height, gint x = 0, gint y = 0);
+  ~Drawable();
+  Drawable(const Drawable&) = delete;
+  Drawable& operator=(const Drawable&) = delete;
+
+  gint X() const { return x_; }
+  gint Y() const { return y_; }
+  gint Width() const { return width_; }
+  gint Height() const { return height_; }
+  // First pixel of memory row `row` (0..Height()-1).
+  guint32* Row(gint row) { return pixels_ + static_cast<gsize>(row) * stride_; }
+  const guint32* Row(gint row) const { return pixels_ + static_cast<gsize>(row) * stride_; }
+  // Colour at a plane position as 0xRRGGBB; 0 outside.
+  guint32 At(gint x, gint y) const;
+  // The same memory for cairo (CAIRO_FORMAT_RGB24); owned by the surface.
+  cairo_surface_t* Cairo();
+  // Whether the memory could be had. Without it every drawing is clipped away.
+  bool Valid() const { return pixels_ != nullptr; }
+
+ private:
+  gint x_;
+  gint y_;
+  gint width_;
+  gint height_;
+  gsize stride_ = 0;  // in pixels
+  guint32* pixels_ = nullptr;
+  cairo_surface_t* cairo_ = nullptr;
+};
+
+// How lines are drawn.
+struct DrawGc {
+  guint32 Foreground = 0;         // 0xRRGGBB
+  const gint8* Dashes = nullptr;  // on and off lengths in pixels, null = solid
+};
+
+// A finished picture as gdk-pixbuf takes it for scaling (three bytes a pixel).
+struct PixbufRelease {
+  void operator()(GdkPixbuf* pixbuf) const;
+};
+using PixbufPtr = std::unique_ptr<GdkPixbuf, PixbufRelease>;
+// Copies the surface; null when the memory cannot be had.
+PixbufPtr PixbufFromSurface(const Drawable& surface);
+
+// Paints the part of `picture` (scaled to width x height zoomed pixels, tiles interpolation) that
+// the target covers: the target's plane is the zoomed picture. Same pixels as scaling the whole.
+// `image` is the picture's PixbufFromSurface and may be null when the sizes are equal.
+void PaintZoomed(Drawable& target, const Drawable& picture, GdkPixbuf* image, gint width,
+                 gint height);
+// Writes a PNG, all or nothing. False = failed.
+bool WritePng(const Drawable& surface, const gchar* path);

@@ -1,0 +1,23 @@
+// What the file functions are made of, for code that holds whole files in memory.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Replaces the file by `content`, all or nothing: a temporary file ".…" beside it, flushed,
+// renamed. Where the folder refuses a new entry but the file itself can be written, it is written
+// in place. False = failed, the old content stands (in-place writing excepted, where the device
+// decides).
+bool ReplaceFile(const std::string& path, std::string_view content);
+// The whole regular file, nothing when it cannot be read. A file larger than `limit` bytes counts
+// as unreadable.
+std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t limit = 1u << 30);
+// Calls `visit` with the name of every regular file of `folder` that matches the shell pattern, in
+// the folder's own order; names that begin with "." are passed over. False when it cannot be
+// opened.
+bool VisitFiles(const std::string& folder, const char* pattern,
+                const std::function<void(const std::string& name)>& visit);
+// MakePath without a limit on the length.
+std::string JoinPath(std::string_view path, std::string_view name, std::string_view ext);

@@ -1,0 +1,5 @@
+#include "PtrnMisc.h"
+
+gchar PathName[258];
+gint Version = 1001;
+gint Language;
