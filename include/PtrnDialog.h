@@ -1,0 +1,7 @@
+// Dialogs: table-driven kit, message box, choosers, editors, tool box.
+#pragma once
+
+#include "dialogs/Choosers.h"
+#include "dialogs/Editors.h"
+#include "dialogs/Kit.h"
+#include "layout/Screen.h"
