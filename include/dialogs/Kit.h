@@ -1,6 +1,6 @@
-// Dialog controls built from tables. A row places one control in columns culm1..culm2 of row `line` of
-// a grid and binds it to a variable, which the control writes on every change. A table ends with a
-// row whose line is negative; a row whose culm1 is -1 is left out. Labels and captions are UTF-8;
+// Dialog controls built from tables. A row places one control in columns culm1..culm2 of row `line`
+// of a grid and binds it to a variable, which the control writes on every change. A table ends with
+// a row whose line is negative; a row whose culm1 is -1 is left out. Labels and captions are UTF-8;
 // bound texts are record fields (EUC-JP).
 #pragma once
 
