@@ -1,0 +1,33 @@
+#include "dialogs/Cells.h"
+
+void PlaceControl(GtkWidget* table, GtkWidget* control, gint line, gint culm1, gint culm2) {
+  gtk_widget_set_hexpand(control, TRUE);
+  gtk_widget_set_vexpand(control, TRUE);
+  gtk_widget_set_halign(control, GTK_ALIGN_FILL);
+  gtk_widget_set_valign(control, GTK_ALIGN_FILL);
+  gtk_grid_attach(GTK_GRID(table), control, culm1, line, MAX(culm2 - culm1 + 1, 1), 1);
+  gtk_widget_show(control);
+}
+
+GtkWidget* NewLabel(const gchar* text, bool right) {
+  GtkWidget* label = gtk_label_new(text);
+  gtk_label_set_xalign(GTK_LABEL(label), right ? 1.0F : 0.0F);
+  gtk_label_set_yalign(GTK_LABEL(label), 0.5F);
+  gtk_widget_show(label);
+  return label;
+}
+
+GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding) {
+  GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, spacing);
+  if (caption != nullptr && *caption != '\0')
+    gtk_box_pack_start(GTK_BOX(box), NewLabel(caption), FALSE, FALSE, padding);
+  return box;
+}
+
+void KeepWidget(GtkWidget** slot, GtkWidget* widget) {
+  if (*slot != nullptr)
+    g_object_remove_weak_pointer(G_OBJECT(*slot), reinterpret_cast<gpointer*>(slot));
+  *slot = widget;
+  if (widget != nullptr)
+    g_object_add_weak_pointer(G_OBJECT(widget), reinterpret_cast<gpointer*>(slot));
+}

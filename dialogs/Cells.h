@@ -1,0 +1,39 @@
+// What the builders share: walking a table's rows, cells of the grid, captions, bound integers.
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <cstring>
+
+#include "Types.h"
+
+// Calls `build` for each row that shows a control.
+template <class Row, class Build>
+void ForEachRow(Row* rows, Build build) {
+  for (Row* row = rows; row != nullptr && row->line >= 0; ++row)
+    if (row->culm1 != -1) build(*row);
+}
+
+// Places and shows a control in columns culm1..culm2 of row `line`.
+void PlaceControl(GtkWidget* table, GtkWidget* control, gint line, gint culm1, gint culm2);
+template <class Row>
+void PlaceControl(GtkWidget* table, GtkWidget* control, const Row& row) {
+  PlaceControl(table, control, row.line, row.culm1, row.culm2);
+}
+// A shown, left- or right-aligned label.
+GtkWidget* NewLabel(const gchar* text, bool right = false);
+// A shown horizontal box, begun with the caption unless that is empty; `padding` stands on both
+// sides of the caption.
+GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding);
+// Keeps `*slot` pointing at the widget for as long as the widget lives, then null.
+void KeepWidget(GtkWidget** slot, GtkWidget* widget);
+
+// Bound integers may lie at odd addresses of a packed record.
+inline gint LoadInt(const gint* bound) {
+  gint value;
+  std::memcpy(&value, static_cast<const void*>(bound), sizeof value);
+  return value;
+}
+inline void StoreInt(gint* bound, gint value) {
+  std::memcpy(static_cast<void*>(bound), &value, sizeof value);
+}

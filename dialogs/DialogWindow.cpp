@@ -1,0 +1,57 @@
+#include "dialogs/DialogWindow.h"
+
+namespace {
+
+gboolean CloseOnEscape(GtkWidget* window, const GdkEventKey* event, gpointer /*data*/) {
+  if (event->keyval != GDK_KEY_Escape) return FALSE;
+  gtk_window_close(GTK_WINDOW(window));
+  return TRUE;
+}
+
+}  // namespace
+
+DialogWindow NewDialogWindow(const gchar* title) {
+  DialogWindow dialog;
+  dialog.Window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+  gtk_window_set_title(GTK_WINDOW(dialog.Window), title);
+  gtk_window_set_type_hint(GTK_WINDOW(dialog.Window), GDK_WINDOW_TYPE_HINT_DIALOG);
+  gtk_window_set_destroy_with_parent(GTK_WINDOW(dialog.Window), TRUE);
+  g_signal_connect(dialog.Window, "key-press-event", G_CALLBACK(CloseOnEscape), nullptr);
+
+  GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  dialog.Content = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  dialog.Actions = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Actions), 10);
+  gtk_box_pack_start(GTK_BOX(box), dialog.Content, TRUE, TRUE, 0);
+  gtk_box_pack_end(GTK_BOX(box), dialog.Actions, FALSE, FALSE, 0);
+  gtk_box_pack_end(GTK_BOX(box), gtk_separator_new(GTK_ORIENTATION_HORIZONTAL), FALSE, FALSE, 0);
+  gtk_container_add(GTK_CONTAINER(dialog.Window), box);
+  gtk_widget_show_all(box);
+  return dialog;
+}
+
+GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCallback clicked,
+                           gpointer data) {
+  GtkWidget* button = gtk_button_new_with_label(label);
+  g_signal_connect(button, "clicked", clicked, data);
+  gtk_box_pack_start(GTK_BOX(dialog.Actions), button, FALSE, FALSE, 0);
+  gtk_widget_show(button);
+  return button;
+}
+
+void SetDialogParent(GtkWidget* window, GtkWidget* parent) {
+  if (parent == nullptr) return;
+  GtkWidget* top = gtk_widget_get_toplevel(parent);
+  if (GTK_IS_WINDOW(top) && top != window)
+    gtk_window_set_transient_for(GTK_WINDOW(window), GTK_WINDOW(top));
+}
+
+void RunModal(GtkWidget* window, GtkWidget* parent) {
+  SetDialogParent(window, parent);
+  gtk_window_set_modal(GTK_WINDOW(window), TRUE);
+  GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
+  g_signal_connect_swapped(window, "destroy", G_CALLBACK(g_main_loop_quit), loop);
+  gtk_widget_show(window);
+  g_main_loop_run(loop);
+  g_main_loop_unref(loop);
+}

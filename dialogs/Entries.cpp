@@ -1,0 +1,74 @@
+// Text entries. What the user types must be held by EUC-JP and fit into the record's field;
+// anything else is refused before it shows, so that entry and record never differ.
+#include <cstring>
+#include <string>
+
+#include "dialogs/Cells.h"
+#include "dialogs/Kit.h"
+#include "support/Text.h"
+
+GtkWidget* Dlg_EditBox_Parent = nullptr;
+
+namespace {
+
+constexpr const gchar* WarningIcon = "dialog-warning-symbolic";
+constexpr const gchar* NotEncodable = "日本語 EUC にない文字は入力できません。";
+constexpr const gchar* TooLong = "文字数の上限を超えるため入力できません。";
+
+// Says at the entry why the text was refused; the next accepted change takes it away.
+void ShowRefusal(GtkWidget* entry, const gchar* reason) {
+  gtk_style_context_add_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
+  gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, WarningIcon);
+  gtk_entry_set_icon_tooltip_text(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, reason);
+  gtk_widget_set_tooltip_text(entry, reason);
+  gtk_widget_error_bell(entry);
+}
+
+void ClearRefusal(GtkWidget* entry) {
+  if (gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) == nullptr) return;
+  gtk_style_context_remove_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
+  gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, nullptr);
+  gtk_widget_set_tooltip_text(entry, nullptr);
+}
+
+// Why the entry cannot take `text`, null when it can.
+const gchar* ReasonToRefuse(const std::string& text, gint size) {
+  const auto euc = EucFromUtf8(text);
+  if (!euc) return NotEncodable;
+  return euc->size() > static_cast<gsize>(MAX(size, 0)) ? TooLong : nullptr;
+}
+
+void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, const gint* position,
+                        const DLG_EDITBOX* row) {
+  std::string whole = gtk_entry_get_text(GTK_ENTRY(entry));
+  const auto at = g_utf8_offset_to_pointer(whole.c_str(), *position) - whole.c_str();
+  const gsize bytes = length < 0 ? std::strlen(text) : static_cast<gsize>(length);
+  whole.insert(static_cast<gsize>(at), text, bytes);
+  if (const gchar* reason = ReasonToRefuse(whole, row->size)) {
+    g_signal_stop_emission_by_name(entry, "insert-text");
+    ShowRefusal(GTK_WIDGET(entry), reason);
+  }
+}
+
+void Dlg_EditBox_Entry(GtkEditable* entry, const DLG_EDITBOX* row) {
+  ClearRefusal(GTK_WIDGET(entry));
+  if (const auto euc = EucFromUtf8(gtk_entry_get_text(GTK_ENTRY(entry))))
+    CopyText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1, *euc);
+}
+
+}  // namespace
+
+void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
+  Dlg_EditBox_Parent = parent;
+  ForEachRow(rows, [table](DLG_EDITBOX& row) {
+    GtkWidget* entry = gtk_entry_new();
+    const gsize size = static_cast<gsize>(MAX(row.size, 0));
+    gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(FieldText(row.text, size + 1)).c_str());
+    gtk_editable_set_position(GTK_EDITABLE(entry), 0);
+    gtk_editable_set_editable(GTK_EDITABLE(entry), row.edit == 0);
+    g_signal_connect(entry, "insert-text", G_CALLBACK(Dlg_EditBox_Insert), &row);
+    g_signal_connect(entry, "changed", G_CALLBACK(Dlg_EditBox_Entry), &row);
+    KeepWidget(&row.entry, entry);
+    PlaceControl(table, entry, row);
+  });
+}

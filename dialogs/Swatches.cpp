@@ -1,0 +1,139 @@
+// Colour and mark swatches: their pictures, and the choice of another number with a click.
+#include <algorithm>
+
+#include "dialogs/Cells.h"
+#include "dialogs/Editors.h"
+#include "dialogs/Kit.h"
+#include "render/Primitives.h"
+#include "render/Surface.h"
+
+GtkWidget* Dlg_ColrData_Parent = nullptr;
+GtkWidget* Dlg_MarkData_Parent = nullptr;
+
+namespace {
+
+constexpr gint Baseline = 15;
+constexpr SIZE NumberArea = {24, 20};
+
+// The number at the left of a swatch. Multiplying lets the background show through around it.
+void PaintNumber(cairo_t* cairo, gint number) {
+  gchar text[16];
+  g_snprintf(text, sizeof text, "%2d", number);
+  const SIZE size = GetTextSize(SmallFont, text);
+  Drawable picture(NumberArea.cx, NumberArea.cy);
+  FillPixels(&picture, 0, 0, NumberArea.cx, NumberArea.cy, 0xffffff);
+  DrawGc gc;
+  DrawText(&picture, &gc, 0, std::max(Baseline - size.cy, 0), SmallFont, ColourBlack, -1, text);
+  cairo_save(cairo);
+  cairo_set_operator(cairo, CAIRO_OPERATOR_MULTIPLY);
+  cairo_set_source_surface(cairo, picture.Cairo(), 0, 0);
+  cairo_rectangle(cairo, 0, 0, NumberArea.cx, NumberArea.cy);
+  cairo_fill(cairo);
+  cairo_restore(cairo);
+}
+
+// Outline through the pixel centres: w + 1 x h + 1 pixels.
+void PaintOutline(cairo_t* cairo, gint x, gint y, gint width, gint height) {
+  cairo_set_source_rgb(cairo, 0, 0, 0);
+  cairo_set_line_width(cairo, 1);
+  cairo_set_line_join(cairo, CAIRO_LINE_JOIN_MITER);
+  cairo_rectangle(cairo, x + 0.5, y + 0.5, width, height);
+  cairo_stroke(cairo);
+}
+
+// How a row's kind of swatch shows and chooses its number.
+void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_COLRDATA& row) {
+  const gint number = LoadInt(row.colr);
+  if (number >= 0 && number < ColrCount)
+    DrawColrData(box, cairo, number, ColrData[number]);
+  else
+    PaintNumber(cairo, number);
+}
+void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_MARKDATA& row) {
+  const gint number = LoadInt(row.mark);
+  if (number >= 0 && number < MarkCount)
+    DrawMarkData(box, cairo, number, MarkData[number]);
+  else
+    PaintNumber(cairo, number);
+}
+gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
+  *number = Dlg_ColrSelect(Dlg_ColrData_Parent);
+  return row.colr;
+}
+gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
+  *number = Dlg_MarkSelect(Dlg_MarkData_Parent);
+  return row.mark;
+}
+
+template <class Row>
+gboolean DrawSwatch(GtkWidget* box, cairo_t* cairo, const Row* row) {
+  PaintSwatch(box, cairo, *row);
+  return TRUE;
+}
+
+template <class Row>
+gboolean PressSwatch(GtkWidget* box, const GdkEventButton* event, const Row* row) {
+  if (event->type != GDK_BUTTON_PRESS || event->button != 1) return TRUE;
+  gint number = -1;
+  gint* bound = ChooseNumber(*row, &number);
+  if (number != -1) {
+    StoreInt(bound, number);
+    gtk_widget_queue_draw(box);
+  }
+  return TRUE;
+}
+
+template <class Row>
+GtkWidget* NewSwatch(gint width, gint height, const Row& row) {
+  GtkWidget* box = gtk_drawing_area_new();
+  gtk_widget_set_size_request(box, width, height);
+  gtk_widget_add_events(box, GDK_BUTTON_PRESS_MASK);
+  auto* data = const_cast<Row*>(&row);
+  g_signal_connect(box, "draw", G_CALLBACK(DrawSwatch<Row>), data);
+  g_signal_connect(box, "button-press-event", G_CALLBACK(PressSwatch<Row>), data);
+  gtk_widget_show(box);
+  return box;
+}
+
+}  // namespace
+
+void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colrdata) {
+  gtk_render_background(gtk_widget_get_style_context(colrbox), cairo, 0, 0, 60, 16);
+  PaintNumber(cairo, colrno);
+  constexpr double Full = 65535.0;
+  cairo_set_source_rgb(cairo, (colrdata.red & 0xffff) / Full, (colrdata.green & 0xffff) / Full,
+                       (colrdata.blue & 0xffff) / Full);
+  cairo_rectangle(cairo, 20, 2, 40, 16);
+  cairo_fill(cairo);
+  PaintOutline(cairo, 20, 2, 40, 16);
+}
+
+void DrawMarkData(GtkWidget* /*markbox*/, cairo_t* cairo, gint markno, const MARKDATA& markdata) {
+  PaintNumber(cairo, markno);
+  if (markno < 0 || markno >= MarkCount) return;
+  const SIZE size = MarkDataSize[markno / 50];
+  Drawable picture(size.cx, size.cy);
+  FillPixels(&picture, 0, 0, size.cx, size.cy, 0xffffff);
+  for (gint y = 0; y < size.cy; ++y)
+    for (gint x = 0; x < size.cx; ++x)
+      if (MarkDataGet(markno, &markdata, x, y) != 0) FillPixels(&picture, x, y, 1, 1, 0);
+  cairo_set_source_surface(cairo, picture.Cairo(), 26, 1);
+  cairo_rectangle(cairo, 26, 1, size.cx, size.cy);
+  cairo_fill(cairo);
+  PaintOutline(cairo, 25, 0, size.cx + 1, size.cy + 1);
+}
+
+void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
+  Dlg_ColrData_Parent = parent;
+  ForEachRow(rows, [table](DLG_COLRDATA& row) {
+    GtkWidget* box = NewCaptionBox(row.text, 5, 0);
+    gtk_box_pack_start(GTK_BOX(box), NewSwatch(62, 20, row), TRUE, TRUE, 0);
+    PlaceControl(table, box, row);
+  });
+}
+
+void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows) {
+  Dlg_MarkData_Parent = parent;
+  ForEachRow(rows,
+             [table](DLG_MARKDATA& row) { PlaceControl(table, NewSwatch(32, 36, row), row); });
+}
