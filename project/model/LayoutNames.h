@@ -1,0 +1,9 @@
+// The layouts of a project folder.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// Names without ".ptn", in the folder's own order. Read as a whole, so that work on the files does
+// not disturb the listing.
+std::vector<std::string> LayoutNames(const std::string& folder);

@@ -1,0 +1,53 @@
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "layout/ItemSlots.h"
+#include "layout/Store.h"
+#include "layout/model/ProjectLook.h"
+#include "project/model/LayoutNames.h"
+
+namespace {
+
+void CopyLook(PTRNHEDR& header) {
+  switch (header.Parm1[HedrSlot::Kind]) {
+    case 0:
+      CopyParentLook(header, ProjData);
+      break;
+    case 1:
+      CopyChildLook(header, ProjData);
+      break;
+    default:
+      break;
+  }
+  CopyGridLook(header, ProjData);
+}
+
+// What a damaged file still holds must outlive its rewriting.
+bool KeepDamagedFile(const gchar* path, const gchar* name) {
+  if (CheckPtrnFile(path, name) != LayoutFileState::Broken || FileSize(path, name, "ptn") == 0) {
+    return true;
+  }
+  return FileCopy(path, name, "ptn", path, name, "ptn.bak") != 0;
+}
+
+}  // namespace
+
+void PtrnFileRenew(const gchar* path, const gchar* name) {
+  if (!KeepDamagedFile(path, name)) {
+    return;
+  }
+  PtrnHedr = PTRNHEDR{};
+  IntPtrnData();
+  PtrnFileRead(path, name);
+  if (!PtrnHedr.Parm1[HedrSlot::KeepAsIs]) {
+    CopyLook(PtrnHedr);
+    PtrnFileWrite(path, name);
+  }
+  ExtPtrnData();
+  PtrnHedr = PTRNHEDR{};
+}
+
+void ProjFileRenew(const gchar* path) {
+  for (const std::string& name : LayoutNames(path)) {
+    PtrnFileRenew(path, name.c_str());
+  }
+}
