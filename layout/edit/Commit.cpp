@@ -1,0 +1,91 @@
+#include "layout/Commit.h"
+
+#include <array>
+
+#include "layout/Commands.h"
+#include "layout/EditState.h"
+#include "layout/Guards.h"
+#include "layout/ItemSlots.h"
+#include "layout/Registry.h"
+#include "layout/Screen.h"
+#include "layout/Store.h"
+#include "layout/edit/CopyMove.h"
+#include "layout/edit/ItemDefaults.h"
+#include "support/Resource.h"
+#include "support/Text.h"
+
+namespace {
+
+// Types whose length parameter follows from their text.
+bool HasOwnText(gint type) {
+  return type == TypeFixedString || type == TypeRadioButton || type == TypeCheckBox;
+}
+
+gint TextLength(const PTRNDATA& item) {
+  const std::array<std::string_view, 3> texts = {FieldText(item.Text1), FieldText(item.Text2),
+                                                 FieldText(item.Text3)};
+  return static_cast<gint>(texts[static_cast<gsize>(TextIndex(Language))].size());
+}
+
+void FillParms() {
+  if (PtrnData.Type == TypeVariableString || PtrnData.Type == TypeNumeric) {
+    SetToolBoxCursor();
+  }
+  SetPointParms(&PtrnData);
+  if (HasOwnText(PtrnData.Type)) {
+    PtrnData.Parm[TextSlot::Length] = TextLength(PtrnData);
+  }
+}
+
+void StoreItem() {
+  if (PtrnNo < 0 || SetPtrnData(PtrnNo, &PtrnData) == 0) {
+    AddPtrnData(&PtrnData);
+  }
+  PtrnFlag = 2;
+}
+
+void RegisterTexts() {
+  PtrnData.RegstFlag = 0;
+  // One less than the list numbers that the registry knows, so the texts reach lists 3, 3 and 1.
+  RegstPtrnText(PtrnData.Text1, 0);
+  RegstPtrnText(PtrnData.Text2, 1);
+  RegstPtrnText(PtrnData.Text3, 2);
+}
+
+}  // namespace
+
+gint ToolButn_OK() {
+  if (TestPtrnData() == 0) {
+    return 0;
+  }
+  PushPtrnData();
+  FillParms();
+  StoreItem();
+  RegstPtrnCode(PtrnData.ID_Code, PtrnData.ID_No);
+  if (PtrnData.RegstFlag != 0) {
+    RegisterTexts();
+  }
+  if (PtrnData.CheckFlag != 0) {
+    PtrnData.CheckFlag = 0;
+    SaveItemDefaults(PtrnData);
+  }
+  return 1;
+}
+
+void ToolButn_Delt() {
+  PushPtrnData();
+  DelPtrnData(PtrnNo);
+  PtrnFlag = 2;
+}
+
+// Copies the stored item: what was changed in hand and not registered is not copied.
+void ToolButn_Copy() {
+  if (Dlg_ToolCopy(PtrnWnd, &CopyMoveParm) != 1) {
+    return;
+  }
+  PushPtrnData();
+  PTRNDATA item;
+  if (GetPtrnData(PtrnNo, &item) != 0) {
+    AddShiftedCopies(item, CopyMoveParm);
+  }
+}

@@ -1,0 +1,14 @@
+#include "ProjData.h"
+#include "layout/Screen.h"
+
+void LogicDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
+  if (ProjData.ProgPath[0] == '\0') {
+    Dlg_MessageBox(PtrnWnd, "ロジック編集", "プログラム領域へのパスが設定されていません。",
+                   "プロジェクト修正／全般で設定してください", 1);
+    return;
+  }
+  LogicDataEdit1();
+  LogicDataEdit2();
+  LogicDataEdit3();
+  LogicDataEdit4();
+}

@@ -1,0 +1,57 @@
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "layout/Screen.h"
+#include "layout/Store.h"
+
+namespace {
+
+constexpr gint KnownProjectCount = 100;
+// Capacity of a text field read from a profile.
+constexpr gsize FieldSize = 100;
+
+bool OpenLastProject() {
+  gchar name[FieldSize];
+  gchar path[FieldSize];
+  ProfileRead1("", "PROJECT", "PROJECT", "ss", name, path);
+  CopyText(ProjName, FieldText(name));
+  CopyText(ProjPath, FieldText(path));
+  return ProjName[0] != '\0' && ProjPath[0] != '\0' && ProjFileRead(ProjPath, ProjName) != 0;
+}
+
+void ForgetLastProject() {
+  ProjFlag = 0;
+  PtrnFlag = 0;
+  CopyText(ProjName, "");
+  CopyText(ProjPath, "");
+  ProfileDelete1("", "PROJECT", "PROJECT");
+}
+
+// Entries whose project file is gone go; their numbers stay free.
+void PruneKnownProjects() {
+  for (gint no = 0; no < KnownProjectCount; ++no) {
+    gchar name[FieldSize];
+    gchar path[FieldSize];
+    ProfileRead2("", "PROJNAME", "PROJNAME", no, "ss", name, path);
+    if (name[0] != '\0' && path[0] != '\0' && FileExist(path, name, "prj") == 0) {
+      ProfileDelete2("", "PROJNAME", "PROJNAME", no);
+    }
+  }
+}
+
+}  // namespace
+
+void ProjDataInit() {
+  if (OpenLastProject()) {
+    ProjFlag = 1;
+    PtrnFlag = 0;
+    LoadColrFile();
+    LoadMarkFile();
+    SetBmapPath();
+  } else {
+    ForgetLastProject();
+  }
+  PruneKnownProjects();
+  FontDataInit(1);
+  SetMainMenu();
+  SetWindTitle(ProjName, "");
+}
