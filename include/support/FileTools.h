@@ -1,16 +1,17 @@
 // What the file functions are made of, for code that holds whole files in memory.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
-// Replaces the file by `content`, all or nothing: a temporary file ".…" beside it, flushed,
-// renamed. Where the folder refuses a new entry but the file itself can be written, it is written
-// in place. False = failed, the old content stands (in-place writing excepted, where the device
-// decides).
-bool ReplaceFile(const std::string& path, std::string_view content);
+// Replaces the file by `offset` zero bytes and `content`, all or nothing: a temporary file ".…"
+// beside it, flushed, renamed. Where the folder refuses a new entry but the file itself can be
+// written, it is written in place. False = failed, the old content stands (in-place writing
+// excepted, where the device decides).
+bool ReplaceFile(const std::string& path, std::string_view content, std::size_t offset = 0);
 // The whole regular file, nothing when it cannot be read. A file larger than `limit` bytes counts
 // as unreadable.
 std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t limit = 1u << 30);
