@@ -1,0 +1,145 @@
+#include <algorithm>
+
+#include "Holders.h"
+#include "Overlay.h"
+#include "PtrnData.h"
+#include "app/Menus.h"
+#include "app/Window.h"
+#include "render/Layout.h"
+#include "render/Primitives.h"
+
+GtkWidget* PtrnDraw;
+std::unique_ptr<Drawable> PtrnPixmap;
+gint PtrnDraw_Mode;
+SIZE PtrnDraw_Size1;
+SIZE PtrnDraw_Size2;
+
+namespace {
+// The largest extent of a layout; a larger one comes from a damaged file.
+constexpr gint LargestLayout = 9999;
+constexpr gint LargestZoom = 500;
+// Surrounds a layout that is smaller than the window.
+constexpr guint32 DeskColour = 0xd6d6d6;
+
+// The picture in the form that scaling reads; null at 100 %.
+PixbufPtr ScalePicture;
+// Where the overlay may stand on the screen.
+RegionPtr ShownOverlay;
+
+RegionPtr CanvasOverlay() {
+  return OverlayRegion(gtk_widget_get_allocated_width(PtrnDraw),
+                       gtk_widget_get_allocated_height(PtrnDraw));
+}
+
+void RenderStartPicture(gint width, gint height) {
+  ScalePicture.reset();
+  PtrnPixmap.reset();
+  PtrnPixmap = std::make_unique<Drawable>(width, height);
+  MakeInitWindow(PtrnPixmap.get(), width, height);
+}
+
+void RenderLayout() {
+  ScalePicture.reset();
+  PtrnPixmap.reset();
+  PtrnPixmap = std::make_unique<Drawable>(PtrnDraw_Size1.cx, PtrnDraw_Size1.cy);
+  DrawGc gc;
+  DrawWindow1(PtrnPixmap.get(), &gc);
+  const bool scaled =
+      PtrnDraw_Size1.cx != PtrnDraw_Size2.cx || PtrnDraw_Size1.cy != PtrnDraw_Size2.cy;
+  if (scaled && PtrnPixmap->Valid()) ScalePicture = PixbufFromSurface(*PtrnPixmap);
+}
+
+void Show(cairo_t* cairo, Drawable& surface) {
+  if (!surface.Valid()) return;
+  cairo_surface_mark_dirty(surface.Cairo());
+  cairo_set_source_surface(cairo, surface.Cairo(), surface.X(), surface.Y());
+  cairo_paint(cairo);
+}
+
+// Grid and overlay are drawn in zoomed pixels, only where they are looked at.
+void ShowLayout(cairo_t* cairo, gint x, gint y, gint width, gint height) {
+  Drawable view(width, height, x, y);
+  DrawGc gc;
+  FillPixels(&view, x, y, width, height, DeskColour);
+  if (PtrnPixmap && PtrnPixmap->Valid())
+    PaintZoomed(view, *PtrnPixmap, ScalePicture.get(), PtrnDraw_Size2.cx, PtrnDraw_Size2.cy);
+  DrawGridData(&view, &gc);
+  DrawWindow2(&view, &gc);
+  Show(cairo, view);
+}
+
+void ShowExposed(cairo_t* cairo) {
+  const ClipListPtr clip(cairo_copy_clip_rectangle_list(cairo));
+  if (clip->status == CAIRO_STATUS_SUCCESS) {
+    for (gint i = 0; i < clip->num_rectangles; i++) {
+      const cairo_rectangle_t& part = clip->rectangles[i];
+      ShowLayout(cairo, static_cast<gint>(part.x), static_cast<gint>(part.y),
+                 static_cast<gint>(part.width), static_cast<gint>(part.height));
+    }
+    return;
+  }
+  GdkRectangle whole;
+  if (gdk_cairo_get_clip_rectangle(cairo, &whole))
+    ShowLayout(cairo, whole.x, whole.y, whole.width, whole.height);
+}
+
+gint LayoutExtent(gint extent) {
+  return std::clamp(extent, 1, LargestLayout);
+}
+}  // namespace
+
+gboolean PtrnDraw_Configure(GtkWidget*, GdkEventConfigure* event, gpointer) {
+  if (PtrnDraw_Mode == 0) RenderStartPicture(event->width, event->height);
+  return TRUE;
+}
+
+gboolean PtrnDraw_Expose(GtkWidget*, cairo_t* cairo, gpointer) {
+  if (PtrnDraw_Mode == 0) {
+    if (PtrnPixmap) Show(cairo, *PtrnPixmap);
+    return TRUE;
+  }
+  ShowExposed(cairo);
+  // The item in hand may have changed since the last request: what stands now must go later.
+  const RegionPtr painted = CanvasOverlay();
+  if (ShownOverlay)
+    cairo_region_union(ShownOverlay.get(), painted.get());
+  return TRUE;
+}
+
+void DrawRequest(gint mode) {
+  if (PtrnDraw == nullptr) return;
+  if (PtrnDraw_Mode == 0) {
+    gtk_widget_queue_draw(PtrnDraw);
+    return;
+  }
+  RegionPtr overlay = CanvasOverlay();
+  if (mode != 0 || !ShownOverlay) {
+    if (mode != 0) RenderLayout();
+    gtk_widget_queue_draw(PtrnDraw);
+  } else {
+    cairo_region_union(ShownOverlay.get(), overlay.get());
+    gtk_widget_queue_draw_region(PtrnDraw, ShownOverlay.get());
+  }
+  ShownOverlay = std::move(overlay);
+}
+
+void SizeRequest(gint mode, gint width, gint height, gint zoom) {
+  if (PtrnDraw == nullptr) return;
+  PtrnDraw_Mode = mode;
+  ShownOverlay.reset();
+  if (mode == 0) {
+    gtk_widget_set_size_request(PtrnDraw, 0, 0);
+    RenderStartPicture(gtk_widget_get_allocated_width(PtrnDraw),
+                       gtk_widget_get_allocated_height(PtrnDraw));
+    DrawRequest(0);
+  } else {
+    const gint percent = std::clamp(zoom, 1, LargestZoom);
+    PtrnDraw_Size1 = {LayoutExtent(width), LayoutExtent(height)};
+    PtrnDraw_Size2 = {std::max(PtrnDraw_Size1.cx * percent / 100, 1),
+                      std::max(PtrnDraw_Size1.cy * percent / 100, 1)};
+    gtk_widget_set_size_request(PtrnDraw, PtrnDraw_Size2.cx, PtrnDraw_Size2.cy);
+    DrawRequest(1);
+  }
+  SetMainMenu();
+  SetMenuActive1();
+}

@@ -1,0 +1,116 @@
+#include "Holders.h"
+#include "MenuRows.h"
+#include "ProjData.h"
+#include "PtrnData.h"
+#include "PtrnDialog.h"
+
+namespace {
+// Labels stand as they are, so a menu's Alt key is kept beside them.
+struct TopMenu {
+  const gchar* Label;
+  guint AltKey;
+  std::span<const MenuRow> Rows;
+};
+
+constexpr MenuRow NewLayoutRows[] = {
+    Item("親ウィンドウ", PtrnDataNew, 0, &FileMenu[4], "<Control>n"),
+    Item("子ウィンドウ", PtrnDataNew, 1, &FileMenu[5], "<Control><Alt>n"),
+    Item("その他", PtrnDataNew, 2, &FileMenu[6], nullptr),
+};
+
+constexpr MenuRow FileRows[] = {
+    Item("プロジェクトの新規作成", ProjDataNew, 0, &FileMenu[0], "<Control><Shift>n"),
+    Item("プロジェクトを開く", ProjDataOpen, 0, &FileMenu[1], "<Control><Shift>o"),
+    Item("プロジェクトの修正", ProjDataEdit, 0, &FileMenu[2], "<Control><Shift>e"),
+    Separator,
+    Item("ロジック作成", LogicDataEdit, 0, &FileMenu[3], "F9"),
+    Separator,
+    SubMenu("レイアウトの新規作成", NewLayoutRows),
+    Item("レイアウトを開く", PtrnDataOpen, 0, &FileMenu[7], "<Control>o"),
+    Item("レイアウトを閉じる", PtrnDataClose, 0, &FileMenu[8], "<Control>w"),
+    Item("レイアウトの上書き保存", PtrnDataSave, 0, &FileMenu[9], "<Control>s"),
+    Separator,
+    Item("印刷", PtrnDataPrint, 0, &FileMenu[10], "<Control>p"),
+    Separator,
+    Item("修了", PtrnExit, 0, &FileMenu[11], "<Control>q"),
+};
+
+constexpr MenuRow EditRows[] = {
+    Item("元に戻す", PtrnEditBack, 0, &EditMenu[0], "<Control>z"),
+    Separator,
+    Item("レイアウト情報設定", PtrnDataEdit, 0, &EditMenu[1], "<Control>i"),
+    Item("表示色設定", EditColrData, 0, &EditMenu[2], "<Control>l"),
+    Item("マーク設定", EditMarkData, 0, &EditMenu[3], "<Control>m"),
+    Separator,
+    Types(RowKind::GroupedTypes, PtrnSelct, PtrnSlct[0]),
+};
+
+constexpr MenuRow ZoomRows[] = {
+    Check("500%", PtrnZoom, 0, &PtrnZoom1[0], "<Control>5"),
+    Check("200%", PtrnZoom, 1, &PtrnZoom1[1], "<Control>2"),
+    Check("100%", PtrnZoom, 2, &PtrnZoom1[2], "<Control>1"),
+    Check(" 75%", PtrnZoom, 3, &PtrnZoom1[3], "<Control>7"),
+    Check(" 50%", PtrnZoom, 4, &PtrnZoom1[4], "<Control>0"),
+};
+
+constexpr MenuRow UnpickableRows[] = {
+    Types(RowKind::Types, PtrnUnSelct, PtrnSlct[2]),
+};
+
+constexpr MenuRow ColourRows[] = {
+    Check("表示色１", PtrnColrSet, 0, &PtrnSetColr[0], "<Alt>1"),
+    Check("表示色２", PtrnColrSet, 1, &PtrnSetColr[1], "<Alt>2"),
+    Check("表示色３", PtrnColrSet, 2, &PtrnSetColr[2], "<Alt>3"),
+    Check("表示色４", PtrnColrSet, 3, &PtrnSetColr[3], "<Alt>4"),
+};
+
+constexpr MenuRow LanguageRows[] = {
+    Check("言語１", PtrnLangSet, 0, &PtrnSetLang[0], "<Control>F1"),
+    Check("言語２", PtrnLangSet, 1, &PtrnSetLang[1], "<Control>F2"),
+    Check("言語３", PtrnLangSet, 2, &PtrnSetLang[2], "<Control>F3"),
+};
+
+constexpr MenuRow ViewRows[] = {
+    Item("再表示", PtrnRedraw, 0, &DispMenu[0], "F5"),
+    Separator,
+    SubMenu("ズーム", ZoomRows),
+    Check("方眼表示", PtrnGrid, 0, &DispMenu[1], "<Control>g"),
+    Item("方眼設定", PtrnGridSet, 0, &DispMenu[2], "<Control><Shift>g"),
+    SubMenu("非検出", UnpickableRows),
+    SubMenu("表示色", ColourRows),
+    SubMenu("言語", LanguageRows),
+};
+
+constexpr TopMenu TopMenus[] = {
+    {"ファイル", GDK_KEY_f, FileRows},
+    {"編集", GDK_KEY_e, EditRows},
+    {"表示", GDK_KEY_v, ViewRows},
+};
+
+ObjectPtr<GtkAccelGroup> Keys;
+
+gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer entry) {
+  gtk_menu_shell_set_take_focus(GTK_MENU_SHELL(gtk_widget_get_parent(GTK_WIDGET(entry))), TRUE);
+  g_signal_emit_by_name(entry, "activate-item");
+  return TRUE;
+}
+}  // namespace
+
+GtkAccelGroup* MainMenuKeys() {
+  return Keys.get();
+}
+
+GtkWidget* CreateMainMenu() {
+  Keys.reset(gtk_accel_group_new());
+  GtkWidget* bar = gtk_menu_bar_new();
+  for (const TopMenu& top : TopMenus) {
+    GtkWidget* menu = CreateTopMenu(bar, top.Label);
+    BuildMenu(menu, top.Rows, Keys.get());
+    gtk_accel_group_connect(
+        Keys.get(), top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
+        g_cclosure_new(G_CALLBACK(OpenTopMenu), gtk_menu_get_attach_widget(GTK_MENU(menu)),
+                       nullptr));
+  }
+  gtk_widget_show(bar);
+  return bar;
+}

@@ -1,0 +1,71 @@
+#include "CanvasEvents.h"
+#include "CanvasKeys.h"
+#include "Holders.h"
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "WindowPlace.h"
+#include "app/Menus.h"
+#include "app/Window.h"
+#include "layout/Commands.h"
+#include "render/Primitives.h"
+
+namespace {
+GtkWidget* CreateCanvas() {
+  GtkWidget* canvas = gtk_drawing_area_new();
+  KeepWidget(&PtrnDraw, canvas);
+  PtrnDraw_Mode = 0;
+  ConnectCanvas(canvas);
+  CreatePopupMenu(canvas);
+  return canvas;
+}
+
+GtkWidget* CreateScrolledCanvas() {
+  GtkWidget* scrolled = gtk_scrolled_window_new(nullptr, nullptr);
+  gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scrolled), GTK_POLICY_AUTOMATIC,
+                                 GTK_POLICY_AUTOMATIC);
+  // Bars beside the canvas; over it they would cover the layout's edge.
+  gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scrolled), FALSE);
+  GtkWidget* viewport = gtk_viewport_new(nullptr, nullptr);
+  gtk_viewport_set_shadow_type(GTK_VIEWPORT(viewport), GTK_SHADOW_NONE);
+  gtk_container_add(GTK_CONTAINER(viewport), CreateCanvas());
+  gtk_container_add(GTK_CONTAINER(scrolled), viewport);
+  return scrolled;
+}
+}  // namespace
+
+void CreateMainWindow() {
+  GtkWidget* window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+  KeepWidget(&PtrnWnd, window);
+  gtk_container_set_border_width(GTK_CONTAINER(window), 0);
+  const SIZE size = SavedWindowSize();
+  gtk_window_set_default_size(GTK_WINDOW(window), size.cx, size.cy);
+  gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
+  SetWindTitle("", "");
+
+  GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  gtk_container_add(GTK_CONTAINER(window), box);
+  gtk_box_pack_start(GTK_BOX(box), CreateMainMenu(), FALSE, FALSE, 0);
+  gtk_box_pack_start(GTK_BOX(box), CreateScrolledCanvas(), TRUE, TRUE, 0);
+  gtk_window_add_accel_group(GTK_WINDOW(window), MainMenuKeys());
+
+  g_signal_connect(window, "key-press-event", G_CALLBACK(CanvasKey), nullptr);
+  g_signal_connect(window, "delete-event", G_CALLBACK(Delete_Event), nullptr);
+  g_signal_connect(window, "destroy", G_CALLBACK(Destroy_Event), nullptr);
+  gtk_widget_show_all(box);
+}
+
+void InitVarnixMaster() {
+  InitDrawData();
+  ProjDataInit();
+}
+
+gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
+  if (ToolBox != nullptr) return TRUE;
+  return SavePtrnData() == 1 ? FALSE : TRUE;
+}
+
+void Destroy_Event(GtkWidget*, gpointer) {
+  RememberWindowSize();
+  if (ToolBox != nullptr) gtk_widget_destroy(ToolBox);
+  if (MainLoop != nullptr) g_main_loop_quit(MainLoop);
+}

@@ -1,0 +1,91 @@
+#include <cstdlib>
+
+#include "Holders.h"
+#include "MenuRows.h"
+#include "PtrnData.h"
+
+namespace {
+constexpr MenuRow ZoomRows[] = {
+    Check("500%", PtrnZoom, 0, &PtrnZoom2[0], "<Control>5"),
+    Check("200%", PtrnZoom, 1, &PtrnZoom2[1], "<Control>2"),
+    Check("100%", PtrnZoom, 2, &PtrnZoom2[2], "<Control>1"),
+    Check(" 75%", PtrnZoom, 3, &PtrnZoom2[3], "<Control>7"),
+    Check(" 50%", PtrnZoom, 4, &PtrnZoom2[4], "<Control>0"),
+};
+
+constexpr MenuRow ViewRows[] = {
+    Item("再表示", PtrnRedraw, 0, nullptr, "F5"),
+    Separator,
+    SubMenu("ズーム", ZoomRows),
+    Check("方眼表示", PtrnGrid, 0, &DispMenu[3], "<Control>g"),
+    Separator,
+    Types(RowKind::GroupedTypes, PtrnSelct, PtrnSlct[1]),
+};
+
+constexpr MenuRow ItemRows[] = {
+    Item(" 登録   ", ToolBoxButn, 0, &ToolBoxMenu[0], nullptr),
+    Item(" 削除   ", ToolBoxButn, 1, &ToolBoxMenu[1], "Delete"),
+    Item(" 取消   ", ToolBoxButn, 2, &ToolBoxMenu[2], "Escape"),
+    Separator,
+    Item(" 複写   ", ToolBoxButn, 3, &ToolBoxMenu[3], nullptr),
+    Item(" 再表示 ", ToolBoxButn, 4, &ToolBoxMenu[4], nullptr),
+};
+
+constexpr MenuRow AreaRows[] = {
+    Item(" 取消 ", AreaBoxButn, 0, nullptr, "Escape"),
+    Separator,
+    Item(" 削除 ", AreaBoxButn, 1, nullptr, "Delete"),
+    Item(" 移動 ", AreaBoxButn, 2, nullptr),
+    Item(" 複写 ", AreaBoxButn, 3, nullptr),
+};
+
+constexpr std::span<const MenuRow> Menus[] = {ViewRows, ItemRows, AreaRows};
+
+bool IsPress(const GdkEvent* event, guint button) {
+  return event->type == GDK_BUTTON_PRESS && event->button.button == button;
+}
+
+gboolean Open(GtkWidget* menu, const GdkEvent* event) {
+  gtk_menu_popup_at_pointer(GTK_MENU(menu), event);
+  return TRUE;
+}
+
+bool AreaExceedsGrid() {
+  return std::llabs(gint64{AreaPoint1.x} - AreaPoint2.x) >
+             GridDots(PtrnHedr.Parm2[ViewSlot::GridX]) &&
+         std::llabs(gint64{AreaPoint1.y} - AreaPoint2.y) >
+             GridDots(PtrnHedr.Parm2[ViewSlot::GridY]);
+}
+}  // namespace
+
+void CreatePopupMenu(GtkWidget* canvas) {
+  // The keys are shown here; the main window's own entries and key handler act on them.
+  const ObjectPtr<GtkAccelGroup> shown(gtk_accel_group_new());
+  for (gsize i = 0; i < std::size(Menus); i++) {
+    GtkWidget* menu = gtk_menu_new();
+    KeepWidget(&PopupMenu[i], menu);
+    BuildMenu(menu, Menus[i], shown.get());
+    gtk_menu_attach_to_widget(GTK_MENU(menu), canvas, nullptr);
+  }
+}
+
+gboolean EventPopupMenu1(GtkWidget* menu, GdkEvent* event) {
+  if (!IsPress(event, GDK_BUTTON_SECONDARY)) return FALSE;
+  if (PtrnFlag == 0 || (PtrnType != 0 && PtrnMode != ModeIdle)) return FALSE;
+  return Open(menu, event);
+}
+
+gboolean EventPopupMenu2(GtkWidget* menu, GdkEvent* event) {
+  if (!IsPress(event, GDK_BUTTON_SECONDARY)) return FALSE;
+  if (PtrnFlag == 0 || PtrnType == 0 || PtrnMode != ModeSelected) return FALSE;
+  return Open(menu, event);
+}
+
+gboolean EventPopupMenu3(GtkWidget* menu, GdkEvent* event) {
+  if (event->type != GDK_BUTTON_RELEASE || event->button.button != GDK_BUTTON_PRIMARY) return FALSE;
+  if (PtrnFlag == 0 || PtrnMode != ModeArea) return FALSE;
+  if (AreaExceedsGrid()) return Open(menu, event);
+  PtrnMode = ModeIdle;
+  DrawRequest(0);
+  return FALSE;
+}

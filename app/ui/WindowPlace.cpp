@@ -1,0 +1,34 @@
+#include "WindowPlace.h"
+
+#include <gtk/gtk.h>
+
+#include "app/Window.h"
+#include "support/Profile.h"
+
+namespace {
+// Larger values cannot be a window's size on any X display.
+constexpr gint LargestWindow = 32767;
+
+SIZE WindowSize;
+
+bool IsWindowExtent(gint extent) {
+  return extent > 0 && extent <= LargestWindow;
+}
+}  // namespace
+
+SIZE SavedWindowSize() {
+  gint width = 0;
+  gint height = 0;
+  ProfileRead1("", "PROJECT", "WINDOW", "ii", &width, &height);
+  if (!IsWindowExtent(width) || !IsWindowExtent(height)) return {800, 600};
+  return {width, height};
+}
+
+void RememberWindowSize() {
+  WindowSize = {gtk_widget_get_allocated_width(PtrnWnd), gtk_widget_get_allocated_height(PtrnWnd)};
+}
+
+void ExitVarnixMaster() {
+  if (PtrnWnd != nullptr) RememberWindowSize();
+  ProfileWrite1("", "PROJECT", "WINDOW", "ii", &WindowSize.cx, &WindowSize.cy);
+}
