@@ -101,8 +101,7 @@ gboolean PtrnDraw_Expose(GtkWidget*, cairo_t* cairo, gpointer) {
   ShowExposed(cairo);
   // The item in hand may have changed since the last request: what stands now must go later.
   const RegionPtr painted = CanvasOverlay();
-  if (ShownOverlay)
-    cairo_region_union(ShownOverlay.get(), painted.get());
+  if (ShownOverlay) cairo_region_union(ShownOverlay.get(), painted.get());
   return TRUE;
 }
 

@@ -1,3 +1,5 @@
+#include <iterator>
+
 #include "app/Menus.h"
 #include "layout/Screen.h"
 

@@ -90,9 +90,7 @@ constexpr TopMenu TopMenus[] = {
 ObjectPtr<GtkAccelGroup> Keys;
 
 gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer entry) {
-  gtk_menu_shell_set_take_focus(GTK_MENU_SHELL(gtk_widget_get_parent(GTK_WIDGET(entry))), TRUE);
-  g_signal_emit_by_name(entry, "activate-item");
-  return TRUE;
+  return gtk_widget_mnemonic_activate(GTK_WIDGET(entry), FALSE);
 }
 }  // namespace
 
@@ -106,10 +104,9 @@ GtkWidget* CreateMainMenu() {
   for (const TopMenu& top : TopMenus) {
     GtkWidget* menu = CreateTopMenu(bar, top.Label);
     BuildMenu(menu, top.Rows, Keys.get());
-    gtk_accel_group_connect(
-        Keys.get(), top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
-        g_cclosure_new(G_CALLBACK(OpenTopMenu), gtk_menu_get_attach_widget(GTK_MENU(menu)),
-                       nullptr));
+    GtkWidget* entry = gtk_menu_get_attach_widget(GTK_MENU(menu));
+    gtk_accel_group_connect(Keys.get(), top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
+                            g_cclosure_new_object(G_CALLBACK(OpenTopMenu), G_OBJECT(entry)));
   }
   gtk_widget_show(bar);
   return bar;

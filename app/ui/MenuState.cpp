@@ -1,6 +1,7 @@
 #include "MenuRows.h"
 #include "ProjData.h"
 #include "PtrnData.h"
+#include "support/Resource.h"
 
 namespace {
 enum { LanguageParm = 1, ColourParm = 2 };
@@ -40,16 +41,26 @@ struct EnableRule {
   bool (*Enabled)();
 };
 constexpr EnableRule EnableRules[] = {
-    {&FileMenu[0], 2, NoLayout},         {&FileMenu[2], 2, ProjectWithoutLayout},
-    {&FileMenu[4], 4, ProjectOpen},      {&FileMenu[8], 1, LayoutOpen},
-    {&FileMenu[9], 1, LayoutChanged},    {&FileMenu[10], 1, LayoutOpen},
-    {&EditMenu[0], 1, UndoPossible},     {&EditMenu[1], 1, LayoutOpen},
-    {&EditMenu[2], 2, ProjectOpen},      {PtrnSlct[0], 15, LayoutOpen},
-    {PtrnSlct[1], 15, LayoutOpen},       {PtrnSlct[2], 15, LayoutOpen},
-    {DispMenu, 4, LayoutOpen},           {PtrnZoom1, 5, LayoutOpen},
-    {PtrnZoom2, 5, LayoutOpen},          {&PtrnSetLang[0], 1, LayoutOpen},
-    {&PtrnSetLang[1], 1, SecondLanguage}, {&PtrnSetLang[2], 1, ThirdLanguage},
-    {&PtrnSetColr[0], 2, LayoutOpen},    {&PtrnSetColr[2], 2, FourColours},
+    {&FileMenu[0], 2, NoLayout},
+    {&FileMenu[2], 2, ProjectWithoutLayout},
+    {&FileMenu[4], 4, ProjectOpen},
+    {&FileMenu[8], 1, LayoutOpen},
+    {&FileMenu[9], 1, LayoutChanged},
+    {&FileMenu[10], 1, LayoutOpen},
+    {&EditMenu[0], 1, UndoPossible},
+    {&EditMenu[1], 1, LayoutOpen},
+    {&EditMenu[2], 2, ProjectOpen},
+    {PtrnSlct[0], 15, LayoutOpen},
+    {PtrnSlct[1], 15, LayoutOpen},
+    {PtrnSlct[2], 15, LayoutOpen},
+    {DispMenu, 4, LayoutOpen},
+    {PtrnZoom1, 5, LayoutOpen},
+    {PtrnZoom2, 5, LayoutOpen},
+    {&PtrnSetLang[0], 1, LayoutOpen},
+    {&PtrnSetLang[1], 1, SecondLanguage},
+    {&PtrnSetLang[2], 1, ThirdLanguage},
+    {&PtrnSetColr[0], 2, LayoutOpen},
+    {&PtrnSetColr[2], 2, FourColours},
 };
 
 // Neighbouring check entries and what the mark of entry i stands for.
@@ -77,9 +88,11 @@ bool LanguageChosen(gint i) {
   return Language == i;
 }
 constexpr MarkRule MarkRules[] = {
-    {PtrnSlct[0], 15, TypeChosen}, {PtrnSlct[1], 15, TypeChosen}, {PtrnSlct[2], 15, TypeUnpickable},
-    {&DispMenu[1], 1, GridShown},  {&DispMenu[3], 1, GridShown},  {PtrnZoom1, 5, ZoomChosen},
-    {PtrnZoom2, 5, ZoomChosen},    {PtrnSetColr, 4, ColourChosen}, {PtrnSetLang, 3, LanguageChosen},
+    {PtrnSlct[0], 15, TypeChosen},     {PtrnSlct[1], 15, TypeChosen},
+    {PtrnSlct[2], 15, TypeUnpickable}, {&DispMenu[1], 1, GridShown},
+    {&DispMenu[3], 1, GridShown},      {PtrnZoom1, 5, ZoomChosen},
+    {PtrnZoom2, 5, ZoomChosen},        {PtrnSetColr, 4, ColourChosen},
+    {PtrnSetLang, 3, LanguageChosen},
 };
 
 gint MarksBeingSet;

@@ -1,4 +1,5 @@
 #include <cstdlib>
+#include <iterator>
 
 #include "Holders.h"
 #include "MenuRows.h"
@@ -32,10 +33,8 @@ constexpr MenuRow ItemRows[] = {
 };
 
 constexpr MenuRow AreaRows[] = {
-    Item(" 取消 ", AreaBoxButn, 0, nullptr, "Escape"),
-    Separator,
-    Item(" 削除 ", AreaBoxButn, 1, nullptr, "Delete"),
-    Item(" 移動 ", AreaBoxButn, 2, nullptr),
+    Item(" 取消 ", AreaBoxButn, 0, nullptr, "Escape"), Separator,
+    Item(" 削除 ", AreaBoxButn, 1, nullptr, "Delete"), Item(" 移動 ", AreaBoxButn, 2, nullptr),
     Item(" 複写 ", AreaBoxButn, 3, nullptr),
 };
 
