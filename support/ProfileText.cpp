@@ -117,6 +117,14 @@ bool DeleteProfileKey(std::string& profile, std::string_view section, std::strin
   return true;
 }
 
+std::string CommentedValue(std::string_view key, std::string_view text, gint column,
+                           std::string_view comment) {
+  const gint64 pad = column - static_cast<gint64>(key.size() + text.size() + 1);
+  std::string value(text);
+  value.append(pad < 0 ? 2 : static_cast<std::size_t>(pad), ' ');
+  return value.append(comment);
+}
+
 FieldKind FieldKindOf(char letter) {
   switch (letter) {
     case 's':

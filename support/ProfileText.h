@@ -16,6 +16,11 @@ void SetProfileValue(std::string& profile, std::string_view section, std::string
 // Removes the key's line; false when there is none.
 bool DeleteProfileKey(std::string& profile, std::string_view section, std::string_view key);
 
+// A value of one text and a comment that begins at byte column `column` of the key's line, or two
+// blanks behind a text that reaches past it.
+std::string CommentedValue(std::string_view key, std::string_view text, gint column,
+                           std::string_view comment);
+
 enum class FieldKind { None, Text, Decimal, Hexadecimal };
 
 // The kind that a letter of a format names, None for any other letter and the format's end.

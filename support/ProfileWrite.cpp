@@ -1,5 +1,4 @@
 #include <cstdarg>
-#include <cstring>
 #include <optional>
 #include <string>
 
@@ -55,10 +54,7 @@ void StoreValue(const gchar* profname, const gchar* section, const std::string& 
 
 void StoreCommented(const gchar* profname, const gchar* section, const std::string& key,
                     const gchar* text, gint culm, const gchar* comment) {
-  const auto used = static_cast<gint64>(key.size() + std::strlen(text) + 1);
-  const gint64 pad = culm - used;
-  const std::string blanks(pad < 0 ? 2 : static_cast<std::size_t>(pad), ' ');
-  StoreValue(profname, section, key, text + blanks + comment);
+  StoreValue(profname, section, key, CommentedValue(key, text, culm, comment));
 }
 
 void DeleteKey(const gchar* profname, const gchar* section, const std::string& key) {

@@ -1,14 +1,16 @@
-#include <algorithm>
+#include <optional>
 #include <string>
-#include <string_view>
 
 #include "ProjData.h"
-#include "PtrnMisc.h"
+#include "support/FileTools.h"
+#include "support/ProfileFile.h"
+#include "support/ProfileText.h"
 
 namespace {
 
 constexpr gint KnownCount = 100;
-constexpr std::size_t FieldLimit = 99;
+constexpr gchar ListName[] = "PROJNAME";
+constexpr gchar CurrentName[] = "PROJECT";
 
 struct KnownProject {
   std::string Name;
@@ -16,47 +18,44 @@ struct KnownProject {
   bool operator==(const KnownProject&) const = default;
 };
 
-KnownProject ReadKnown(gint no) {
-  gchar name[PathSize] = {};
-  gchar folder[PathSize] = {};
-  ProfileRead2("", "PROJNAME", "PROJNAME", no, "ss", name, folder);
-  return {name, folder};
+KnownProject ReadProject(std::string_view profile, std::string_view section, std::string_view key) {
+  const std::string value = ProfileValue(profile, section, key).value_or("");
+  return {std::string(CheckedField(ProfileField(value, 0), FieldKind::Text)),
+          std::string(CheckedField(ProfileField(value, 1), FieldKind::Text))};
 }
 
-// What the profile gives back for a project. It differs from what was written where a line cannot
-// hold it: fields are cut at their limit, "," and ";" end them.
-KnownProject AsReadBack(std::string_view name, std::string_view path) {
-  std::string line = std::string(name) + "," + std::string(path);
-  line.resize(std::min(line.find(';'), line.size()));
-  line.resize(line.find_last_not_of(" \t") + 1);
-  const std::size_t first = line.find(',');
-  if (first == std::string::npos) {
-    return {line.substr(0, FieldLimit), ""};
-  }
-  const std::size_t second = std::min(line.find(',', first + 1), line.size());
-  return {line.substr(0, std::min(first, FieldLimit)),
-          line.substr(first + 1, std::min(second - first - 1, FieldLimit))};
-}
+void EnterInList(std::string& profile, const std::string& value) {
+  // A profile line cannot hold every name and path. What it gives back is what can be found again.
+  std::string line;
+  SetProfileValue(line, CurrentName, CurrentName, value);
+  const KnownProject project = ReadProject(line, CurrentName, CurrentName);
 
-void Enter(const gchar* path, const gchar* name) {
-  const KnownProject project = AsReadBack(name, path);
-  gint free = -1;
+  std::optional<std::string> place;
   for (gint no = 0; no < KnownCount; ++no) {
-    const KnownProject known = ReadKnown(no);
-    if (known.Name.empty()) {
-      free = free < 0 ? no : free;
-    } else if (known == project) {
+    const std::string key = NumberedKey(ListName, no);
+    const KnownProject known = ReadProject(profile, ListName, key);
+    if (!known.Name.empty() && known == project) {
       return;
     }
+    if (known.Name.empty() && !place) {
+      place = key;
+    }
   }
-  if (free >= 0) {
-    ProfileWrite2("", "PROJNAME", "PROJNAME", free, "ss", name, path);
+  if (place) {
+    SetProfileValue(profile, ListName, *place, value);
   }
 }
 
 }  // namespace
 
 void ProfileRenew(const gchar* path, const gchar* name) {
-  Enter(path, name);
-  ProfileWrite1("", "PROJECT", "PROJECT", "ss", name, path);
+  const std::string file = ProfilePath("");
+  std::optional<std::string> profile = LoadProfile(file);
+  if (!profile) {
+    return;  // there, but it cannot be read: left alone
+  }
+  const std::string value = std::string(name) + "," + path;
+  EnterInList(*profile, value);
+  SetProfileValue(*profile, CurrentName, CurrentName, value);
+  ReplaceFile(file, *profile);
 }

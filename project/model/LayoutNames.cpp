@@ -1,7 +1,5 @@
 #include "project/model/LayoutNames.h"
 
-#include <string_view>
-
 #include "support/FileTools.h"
 
 namespace {
@@ -12,9 +10,15 @@ constexpr std::string_view Suffix = ".ptn";
 
 std::vector<std::string> LayoutNames(const std::string& folder) {
   std::vector<std::string> names;
-  VisitFiles(folder, "*.ptn", [&names](const std::string& name) {
-    // A layout's own name may hold a ".".
-    names.push_back(name.substr(0, name.size() - Suffix.size()));
-  });
+  VisitFiles(folder, "*.ptn",
+             [&names](const std::string& name) { names.push_back(LayoutName(name)); });
   return names;
+}
+
+std::string LayoutName(std::string_view file) {
+  // A layout's own name may hold a ".".
+  if (file.ends_with(Suffix)) {
+    file.remove_suffix(Suffix.size());
+  }
+  return std::string(file);
 }

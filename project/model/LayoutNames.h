@@ -2,8 +2,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 // Names without ".ptn", in the folder's own order. Read as a whole, so that work on the files does
 // not disturb the listing.
 std::vector<std::string> LayoutNames(const std::string& folder);
+// The layout's name of a file name: without its ".ptn".
+std::string LayoutName(std::string_view file);

@@ -1,0 +1,98 @@
+// The codes of all layouts, numbered: "PtrnCode" and "PtrnFlag" of the project folder.
+#include <algorithm>
+#include <limits>
+#include <map>
+#include <new>
+#include <string>
+
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "layout/Registry.h"
+#include "layout/Store.h"
+#include "project/model/LayoutNames.h"
+
+namespace {
+
+// The highest identification number met with each code, in the registry's order.
+using CodeNumbers = std::map<std::string, gint, std::less<>>;
+
+void CollectCode(CodeNumbers& codes, const PTRNDATA& item) {
+  const std::string_view code = FieldText(item.ID_Code);
+  const gint number = CodeSlots(item.ID_No) - 1;
+  const auto known = codes.find(code);
+  if (known == codes.end()) {
+    codes.emplace(code, number);
+  } else {
+    known->second = std::max(known->second, number);
+  }
+}
+
+void CollectLayout(CodeNumbers& codes, const std::string& layout) {
+  PtrnHedr = PTRNHEDR{};
+  IntPtrnData();
+  PtrnFileRead(ProjPath, layout.c_str());
+  const gint count = GetPtrnCount();
+  for (gint no = 0; no < count; ++no) {
+    CollectCode(codes, *ViewPtrnData(no));
+  }
+  ExtPtrnData();
+  PtrnHedr = PTRNHEDR{};
+}
+
+// The registry that entering the codes one by one would give.
+std::vector<PTRNCODE> NewRegistry(CodeNumbers codes) {
+  codes.erase("");
+  std::vector<PTRNCODE> registry{SystemCode()};
+  const auto system = codes.extract(registry.front().ID_Code);
+  if (!system.empty()) {
+    RegisterCode(registry, system.key(), system.mapped());
+  }
+  registry.reserve(codes.size() + 1);
+  for (const auto& [code, number] : codes) {
+    PTRNCODE record{};
+    CopyText(record.ID_Code, code);
+    record.DataCount = CodeSlots(number);
+    registry.push_back(record);
+  }
+  return registry;
+}
+
+// Gives each code its first slot; the number of all slots.
+gint NumberCodes(std::vector<PTRNCODE>& registry) {
+  gint64 slots = 0;
+  for (PTRNCODE& record : registry) {
+    record.DataNo = static_cast<gint>(slots);
+    slots = std::min<gint64>(slots + record.DataCount, std::numeric_limits<gint>::max());
+  }
+  return static_cast<gint>(slots);
+}
+
+void WriteFlagArea(gint slots) {
+  const gchar last = 0;
+  FileWrite(ProjPath, "PtrnFlag", "", &last, 1, slots - 1);
+}
+
+}  // namespace
+
+void SetPtrnCode(const gchar* ptrnfile) {
+  CodeNumbers codes;
+  CollectLayout(codes, LayoutName(ptrnfile));
+  for (const auto& [code, number] : codes) {
+    RegstPtrnCode(code.c_str(), number);
+  }
+}
+
+void LogicDataEdit1() {
+  try {
+    CodeNumbers codes;
+    for (const std::string& layout : LayoutNames(ProjPath)) {
+      CollectLayout(codes, layout);
+    }
+    std::vector<PTRNCODE> registry = NewRegistry(std::move(codes));
+    const gint slots = NumberCodes(registry);
+    WritePtrnCode(registry);
+    WriteFlagArea(slots);
+  } catch (const std::bad_alloc&) {
+    ExtPtrnData();
+  }
+}

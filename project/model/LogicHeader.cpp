@@ -1,0 +1,8 @@
+#include "ProjData.h"
+#include "layout/Registry.h"
+#include "project/model/LogicSource.h"
+#include "support/FileTools.h"
+
+void LogicDataEdit2() {
+  ReplaceFile(JoinPath(ProjData.ProgPath, "VarnixCode", "h"), CodeHeader(ReadPtrnCode()));
+}
