@@ -1,0 +1,148 @@
+#include "BitmapFont.h"
+
+#include <ft2build.h>
+#include <gio/gio.h>
+
+#include <map>
+#include <unordered_map>
+#include <vector>
+
+#include "support/FileTools.h"
+#include FT_FREETYPE_H
+
+namespace {
+
+constexpr std::size_t MaxFontBytes = std::size_t{64} << 20;
+
+using FontLibrary = std::shared_ptr<FT_LibraryRec_>;
+
+FontLibrary Library() {
+  static const FontLibrary library = [] {
+    FT_Library opened = nullptr;
+    FT_Init_FreeType(&opened);
+    return FontLibrary(opened, [](FT_Library l) {
+      if (l != nullptr) {
+        FT_Done_FreeType(l);
+      }
+    });
+  }();
+  return library;
+}
+
+// Unpacked at once: FreeType would unpack from the start again for each step back in the file.
+std::string Unpacked(const std::string& packed) {
+  const std::unique_ptr<GConverter, decltype(&g_object_unref)> unzip(
+      G_CONVERTER(g_zlib_decompressor_new(G_ZLIB_COMPRESSOR_FORMAT_GZIP)), g_object_unref);
+  std::string plain;
+  std::vector<char> piece(std::size_t{1} << 18);
+  for (std::size_t used = 0; plain.size() < MaxFontBytes;) {
+    gsize read = 0, written = 0;
+    const GConverterResult result =
+        g_converter_convert(unzip.get(), packed.data() + used, packed.size() - used, piece.data(),
+                            piece.size(), G_CONVERTER_INPUT_AT_END, &read, &written, nullptr);
+    if (result == G_CONVERTER_ERROR) {
+      return {};
+    }
+    used += read;
+    plain.append(piece.data(), written);
+    if (result == G_CONVERTER_FINISHED) {
+      return plain;
+    }
+  }
+  return {};
+}
+
+std::vector<GlyphRun> RunsOf(const FT_Bitmap& bitmap, int left, int top) {
+  std::vector<GlyphRun> runs;
+  for (unsigned y = 0; y < bitmap.rows; ++y) {
+    const unsigned char* row = bitmap.buffer + static_cast<std::ptrdiff_t>(y) * bitmap.pitch;
+    const auto isSet = [&](unsigned x) { return (row[x / 8] & 0x80 >> x % 8) != 0; };
+    for (unsigned x = 0; x < bitmap.width; ++x) {
+      const unsigned start = x;
+      while (x < bitmap.width && isSet(x)) {
+        ++x;
+      }
+      if (x > start) {
+        runs.push_back({static_cast<gint16>(left + static_cast<int>(start)),
+                        static_cast<gint16>(static_cast<int>(y) - top),
+                        static_cast<gint16>(x - start)});
+      }
+    }
+  }
+  return runs;
+}
+
+class BitmapFont : public GlyphSource {
+ public:
+  explicit BitmapFont(std::string content) : content_(std::move(content)), library_(Library()) {
+    FT_New_Memory_Face(library_.get(), reinterpret_cast<const FT_Byte*>(content_.data()),
+                       static_cast<FT_Long>(content_.size()), 0, &face_);
+    if (Valid()) {
+      FT_Select_Size(face_, 0);
+      FT_Set_Charmap(face_, face_->charmaps[0]);
+    }
+  }
+  ~BitmapFont() override {
+    if (face_ != nullptr) {
+      FT_Done_Face(face_);
+    }
+  }
+  bool Valid() const {
+    return face_ != nullptr && face_->num_charmaps > 0 && face_->num_fixed_sizes > 0;
+  }
+  const Glyph& Find(guint code) override {
+    const auto [place, isNew] = glyphs_.try_emplace(code);
+    if (isNew) {
+      place->second = Load(code);
+    }
+    return place->second;
+  }
+
+ private:
+  // Index 0, which stands for every missing code, is the font's default character.
+  Glyph Load(guint code) const {
+    Glyph glyph;
+    if (FT_Load_Glyph(face_, FT_Get_Char_Index(face_, code), FT_LOAD_RENDER | FT_LOAD_MONOCHROME)) {
+      return glyph;
+    }
+    const FT_GlyphSlot slot = face_->glyph;
+    const FT_Bitmap& bitmap = slot->bitmap;
+    glyph.left = slot->bitmap_left;
+    glyph.right = slot->bitmap_left + static_cast<gint>(bitmap.width);
+    glyph.ascent = slot->bitmap_top;
+    glyph.descent = static_cast<gint>(bitmap.rows) - slot->bitmap_top;
+    glyph.advance = static_cast<gint>(slot->advance.x >> 6);
+    if (bitmap.pixel_mode == FT_PIXEL_MODE_MONO) {
+      glyph.runs = RunsOf(bitmap, slot->bitmap_left, slot->bitmap_top);
+    }
+    return glyph;
+  }
+
+  std::string content_;
+  FontLibrary library_;
+  FT_Face face_ = nullptr;
+  std::unordered_map<guint, Glyph> glyphs_;
+};
+
+std::shared_ptr<GlyphSource> ReadBitmapFont(const std::string& path) {
+  std::optional<std::string> content = ReadWholeFile(path, MaxFontBytes);
+  if (content && content->starts_with("\x1f\x8b")) {
+    content = Unpacked(*content);
+  }
+  if (!content || content->empty()) {
+    return nullptr;
+  }
+  auto font = std::make_shared<BitmapFont>(std::move(*content));
+  return font->Valid() ? font : nullptr;
+}
+
+}  // namespace
+
+std::shared_ptr<GlyphSource> OpenBitmapFont(const std::string& path) {
+  static std::map<std::string, std::shared_ptr<GlyphSource>> fonts;
+  const auto [place, isNew] = fonts.try_emplace(path);
+  if (isNew) {
+    place->second = ReadBitmapFont(path);
+  }
+  return place->second;
+}

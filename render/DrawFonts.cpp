@@ -1,0 +1,44 @@
+#include "DrawFonts.h"
+
+#include "render/Primitives.h"
+#include "support/Resource.h"
+
+namespace {
+
+constexpr const char* SmallFontName = "-alias-*-medium-r-*-*-14-*-*-*-*-*-*-*";
+// Few machines have a font that the first name matches.
+constexpr const char* SmallFontSubstitute = "-*-fixed-medium-r-*-*-14-*-*-*-*-*-*-*";
+
+// Fonts 0..19 and the small font.
+std::array<std::unique_ptr<FontSet>, FontCount + 1> DrawFont;
+static_assert(SmallFont == FontCount);
+
+}  // namespace
+
+FontSet* DrawFontOf(gint font) {
+  return font >= 0 && font <= SmallFont ? DrawFont[static_cast<std::size_t>(font)].get() : nullptr;
+}
+
+gint LineHeightOf(gint font) {
+  if (font == SmallFont) {
+    return FontDescriptorHeight(SmallFontName);
+  }
+  return font >= 0 && font < FontCount ? FontHeight[font] : 0;
+}
+
+void LoadSmallFont() {
+  auto font = std::make_unique<FontSet>(SmallFontName);
+  if (!font->NamesBitmapFont()) {
+    font = std::make_unique<FontSet>(SmallFontSubstitute);
+  }
+  DrawFont[SmallFont] = std::move(font);
+}
+
+void SetDrawFont() {
+  for (std::size_t i = 0; i < FontCount; ++i) {
+    DrawFont[i].reset();
+    if (FontName[i][0] != '\0') {
+      DrawFont[i] = std::make_unique<FontSet>(FontName[i]);
+    }
+  }
+}

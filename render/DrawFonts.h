@@ -1,0 +1,11 @@
+// The loaded fonts by font number.
+#pragma once
+
+#include "FontSet.h"
+
+// The font of a number 0..20, null when the number names none.
+FontSet* DrawFontOf(gint font);
+// Line height used with it.
+gint LineHeightOf(gint font);
+// Loads the font of small labels.
+void LoadSmallFont();

@@ -1,0 +1,34 @@
+// Characters as pixels, from whatever font they come.
+#pragma once
+
+#include <glib.h>
+
+#include <vector>
+
+// Pixels of one row of a glyph, from its origin on the baseline; y grows downwards.
+struct GlyphRun {
+  gint16 x;
+  gint16 y;
+  gint16 length;
+};
+
+// Bearings count from the origin: left to the first, right to behind the last column.
+struct Glyph {
+  gint left = 0;
+  gint right = 0;
+  gint ascent = 0;
+  gint descent = 0;
+  gint advance = 0;
+  std::vector<GlyphRun> runs;
+};
+
+// The characters of one charset in one font.
+class GlyphSource {
+ public:
+  GlyphSource() = default;
+  GlyphSource(const GlyphSource&) = delete;
+  GlyphSource& operator=(const GlyphSource&) = delete;
+  virtual ~GlyphSource() = default;
+  // The glyph of a code of the charset; lives as long as the source.
+  virtual const Glyph& Find(guint code) = 0;
+};

@@ -1,0 +1,63 @@
+// Clipped painting of plain pixels. Positions are plane positions of any size.
+#pragma once
+
+#include <algorithm>
+
+#include "render/Primitives.h"
+
+// A box of the plane: from (x1, y1) up to, but not including, (x2, y2).
+struct PlaneBox {
+  gint64 x1;
+  gint64 y1;
+  gint64 x2;
+  gint64 y2;
+
+  bool Empty() const { return x1 >= x2 || y1 >= y2; }
+  PlaneBox Clip(const PlaneBox& other) const {
+    return {std::max(x1, other.x1), std::max(y1, other.y1), std::min(x2, other.x2),
+            std::min(y2, other.y2)};
+  }
+};
+
+inline PlaneBox BoxOf(const Drawable& drawable) {
+  const gint64 x = drawable.X();
+  const gint64 y = drawable.Y();
+  return {x, y, x + drawable.Width(), y + drawable.Height()};
+}
+
+inline guint32* PixelAt(Drawable& drawable, gint64 x, gint64 y) {
+  return drawable.Row(static_cast<gint>(y - drawable.Y())) + (x - drawable.X());
+}
+
+inline void FillBox(Drawable& drawable, const PlaneBox& box, guint32 rgb) {
+  const PlaneBox part = box.Clip(BoxOf(drawable));
+  if (part.Empty()) {
+    return;
+  }
+  const guint32 pixel = 0xff000000 | rgb;
+  for (gint64 y = part.y1; y < part.y2; ++y) {
+    std::fill_n(PixelAt(drawable, part.x1, y), part.x2 - part.x1, pixel);
+  }
+}
+
+inline bool ColourExists(gint colour) {
+  return colour >= 0 && colour <= ColourRed;
+}
+
+// A wider outline would lie outside any surface; figures of hostile width end here.
+constexpr gint MaxOutlines = 32767;
+
+// Copies of a figure at every offset from `low` to `high`.
+struct OffsetRange {
+  gint64 low;
+  gint64 high;
+};
+
+// Insets of the one-pixel outlines that make up a thick outline; a negative inset lies outside.
+inline OffsetRange OutlineInsets(gint width, gint position) {
+  const gint64 count = std::min(width, MaxOutlines);
+  if (position == 0) {
+    return {-(count / 2), (count - 1) / 2};
+  }
+  return position == 1 ? OffsetRange{0, count - 1} : OffsetRange{-count, -1};
+}

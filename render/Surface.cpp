@@ -1,0 +1,54 @@
+#include "render/Surface.h"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+constexpr guint64 MaxPixels = guint64{1} << 29;
+constexpr guint32 Opaque = 0xff000000;
+
+}  // namespace
+
+Drawable::Drawable(gint width, gint height, gint x, gint y)
+    : x_(x), y_(y), width_(std::max(width, 1)), height_(std::max(height, 1)) {
+  const guint64 count = static_cast<guint64>(width_) * static_cast<guint64>(height_);
+  if (count <= MaxPixels) {
+    pixels_ = static_cast<guint32*>(std::malloc(count * sizeof(guint32)));
+  }
+  if (pixels_ == nullptr) {
+    width_ = height_ = 0;
+    return;
+  }
+  stride_ = static_cast<gsize>(width_);
+  std::fill_n(pixels_, count, Opaque);
+}
+
+Drawable::~Drawable() {
+  if (cairo_ != nullptr) {
+    cairo_surface_destroy(cairo_);
+  }
+  std::free(pixels_);
+}
+
+guint32 Drawable::At(gint x, gint y) const {
+  const gint64 column = gint64{x} - x_;
+  const gint64 row = gint64{y} - y_;
+  if (column < 0 || row < 0 || column >= width_ || row >= height_) {
+    return 0;
+  }
+  return Row(static_cast<gint>(row))[column] & 0xffffff;
+}
+
+// Made when first asked for; cairo reads and writes the same memory. Its error surface stands in
+// where a side is longer than cairo allows.
+cairo_surface_t* Drawable::Cairo() {
+  if (cairo_ == nullptr) {
+    cairo_ = cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(pixels_),
+                                                 CAIRO_FORMAT_RGB24, width_, height_,
+                                                 static_cast<int>(stride_ * sizeof(guint32)));
+  }
+  return cairo_;
+}
