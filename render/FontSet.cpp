@@ -28,6 +28,8 @@ enum Field {
   FieldCount
 };
 
+const std::string Any = "*";
+
 // Charset names of the fonts that serve a charset, best first.
 const std::vector<std::string>& CharsetNames(Charset charset) {
   static const std::vector<std::string> names[] = {
@@ -50,7 +52,8 @@ std::vector<std::string> Split(const std::string& descriptor) {
 std::string Join(const std::vector<std::string>& fields, std::size_t count) {
   std::string joined = fields[0];
   for (std::size_t i = 1; i < count; ++i) {
-    joined += "-" + fields[i];
+    joined += '-';
+    joined += fields[i];
   }
   return joined;
 }
@@ -103,23 +106,23 @@ std::vector<std::string> ExactNames(const std::string& descriptor, const std::st
     return {joined, Join(fields, kept) + "*-" + charset};
   }
   std::vector<std::string> free = fields;
-  free[ResolutionX] = free[ResolutionY] = free[AverageWidth] = "*";
+  free[ResolutionX] = free[ResolutionY] = free[AverageWidth] = Any;
   return {Join(fields, Registry) + "-" + charset, Join(free, Registry) + "-" + charset};
 }
 
 std::vector<std::string> RelatedNames(const std::string& descriptor, const std::string& charset) {
   const std::vector<std::string> fields = Split(descriptor);
-  if (!IsFull(fields) || (fields[Pixels] == "*" && fields[Points] == "*")) {
+  if (!IsFull(fields) || (fields[Pixels] == Any && fields[Points] == Any)) {
     return {};
   }
-  std::vector<std::string> free(Registry, "*");
-  free[0] = "";
+  std::vector<std::string> free(Registry, Any);
+  free[0].clear();
   free[Foundry] = fields[Foundry];
   free[Weight] = fields[Weight];
   free[Slant] = fields[Slant];
-  free[fields[Pixels] == "*" ? Points : Pixels] = fields[fields[Pixels] == "*" ? Points : Pixels];
+  free[fields[Pixels] == Any ? Points : Pixels] = fields[fields[Pixels] == Any ? Points : Pixels];
   const std::string sameFoundry = Join(free, Registry) + "-" + charset;
-  free[Foundry] = "*";
+  free[Foundry] = Any;
   return {sameFoundry, Join(free, Registry) + "-" + charset};
 }
 
