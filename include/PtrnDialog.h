@@ -4,4 +4,5 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
+#include "dialogs/ToolBox.h"
 #include "layout/Screen.h"

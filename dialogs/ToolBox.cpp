@@ -1,0 +1,107 @@
+// The tool box window: opening, closing, its buttons and the place it remembers.
+#include "dialogs/ToolBox.h"
+
+#include "dialogs/Cells.h"
+#include "dialogs/DialogWindow.h"
+#include "dialogs/ToolBoxPage.h"
+#include "layout/Commit.h"
+#include "layout/EditState.h"
+#include "layout/Guards.h"
+#include "layout/ItemSlots.h"
+#include "layout/Screen.h"
+#include "layout/Store.h"
+
+gint ToolBox_Type = 0;
+gint ToolBox_PointFlag = 0;
+POINT ToolBox_PointData[15];
+GtkWidget* ToolBoxButton[5];
+
+namespace {
+
+// In the order they are made. Those packed from the right come outermost first.
+constexpr struct {
+  const gchar* Label;
+  gint Code;
+  gint Start;
+} Buttons[] = {
+    {" 登録 ", 0, 1}, {" 削除 ", 1, 1}, {" 取消 ", 2, 1}, {" 再表示 ", 4, 0}, {" 複写 ", 3, 0}};
+constexpr gint RedisplayCode = 4;
+
+// The window manager's close gives the edit up; the items stay as stored.
+gboolean ToolBox_Delete(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
+  PtrnType = 0;
+  PtrnMode = ModeIdle;
+  SaveToolBox();
+  SetMenuActive1();
+  SetCursor(0);
+  DrawRequest(0);
+  return FALSE;
+}
+
+void ToolBox_Destroy(GtkWidget* window, gpointer /*data*/) {
+  if (ToolBox == window) ToolBox = nullptr;
+}
+
+void PlaceToolBox(GtkWindow* window, const POINT& place) {
+  if (place.x == 0 && place.y == 0)
+    gtk_window_set_position(window, GTK_WIN_POS_CENTER);
+  else
+    gtk_window_move(window, place.x, place.y);
+}
+
+}  // namespace
+
+GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint start) {
+  GtkWidget* button = gtk_button_new_with_label(label);
+  g_signal_connect(button, "clicked", G_CALLBACK(ToolBoxButn), GINT_TO_POINTER(no));
+  if (start != 0)
+    gtk_box_pack_start(GTK_BOX(box), button, FALSE, FALSE, 0);
+  else
+    gtk_box_pack_end(GTK_BOX(box), button, FALSE, FALSE, 0);
+  gtk_widget_set_sensitive(button, no == RedisplayCode);
+  gtk_widget_show(button);
+  KeepWidget(&ToolBoxButton[no], button);
+  return button;
+}
+
+void Dlg_ToolBox(GtkWidget* parent, gint type) {
+  if (ToolBox_PointFlag == 0) {
+    for (POINT& place : ToolBox_PointData) place = {0, 0};
+    ToolBox_PointFlag = 1;
+  }
+  if (ToolBox != nullptr) {
+    SaveToolBox();
+    gtk_widget_destroy(ToolBox);
+    ToolBox = nullptr;
+  }
+  ToolBox_Type = type;
+  if (!IsItemType(type)) return;
+  if (type == TypeVariableString || type == TypeNumeric) GetToolBoxCursor();
+
+  const DialogWindow dialog = NewDialogWindow("");
+  ToolBox = dialog.Window;
+  SetToolBoxContent(dialog.Window, dialog.Content);
+  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
+  PlaceToolBox(GTK_WINDOW(dialog.Window), ToolBox_PointData[type - 1]);
+  g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
+  g_signal_connect(dialog.Window, "destroy", G_CALLBACK(ToolBox_Destroy), nullptr);
+  BuildToolBoxPage(dialog.Window, PageOfType(type));
+  for (const auto& button : Buttons)
+    ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
+  SetDialogParent(dialog.Window, parent);
+  gtk_widget_show(dialog.Window);
+}
+
+void SaveToolBox() {
+  if (ToolBox == nullptr || gtk_widget_get_window(ToolBox) == nullptr) return;
+  if (!IsItemType(ToolBox_Type)) return;
+  POINT& place = ToolBox_PointData[ToolBox_Type - 1];
+  gtk_window_get_position(GTK_WINDOW(ToolBox), &place.x, &place.y);
+}
+
+void SetToolBoxButton(gint mode) {
+  if (ToolBox == nullptr) return;
+  for (gint code = 0; code < 5; ++code)
+    if (ToolBoxButton[code] != nullptr)
+      gtk_widget_set_sensitive(ToolBoxButton[code], (mode >> code & 1) != 0);
+}

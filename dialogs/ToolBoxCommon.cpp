@@ -1,0 +1,89 @@
+// The section of the tool box that all types share, and the point read-outs.
+#include "Constant.h"
+#include "dialogs/Cells.h"
+#include "dialogs/ToolBoxPage.h"
+#include "dialogs/ToolBoxRows.h"
+#include "dialogs/ToolBoxTables.h"
+#include "layout/Screen.h"
+
+GtkWidget* ToolBox_Label1 = nullptr;
+GtkWidget* ToolBox_Label2 = nullptr;
+
+namespace {
+
+gint* const ItemUndf = ItemInt(offsetof(PTRNDATA, UndfFlag));
+gint* const ItemRegst = ItemInt(offsetof(PTRNDATA, RegstFlag));
+gint* const ItemCheck = ItemInt(offsetof(PTRNDATA, CheckFlag));
+
+}  // namespace
+
+// Rows get their lines from ToolBox_Comn, where line 0 stands here.
+DLG_STRING ToolComn_String[] = {
+    Label(0, "始点"),     Label(0, "位置"),       Label(1, "終点"), Label(0, "処理種別"),
+    Label(0, "画面名称"), Label(0, "識別コード"), EndString};
+DLG_COMBOBOX ToolComn_Combo[] = {Choice(0, ItemInt(offsetof(PTRNDATA, ID_Type)), IDCodeList),
+                                 EndComboBox};
+DLG_EDITBOX ToolComn_Edit[] = {Entry(0, PtrnData.ID_Name, true), Entry(0, PtrnData.ID_Code, false),
+                               EndEditBox};
+DLG_NUMRBOX ToolComn_Numr[] = {Number(0, 1, ItemInt(offsetof(PTRNDATA, ID_No)), 9999), EndNumrBox};
+DLG_CHECKBUTN ToolComn_Check[] = {
+    Check(0, 3, 3, Parm(ItemSlot::TopLayer), "TOP"), Check(0, 1, 3, ItemUndf, "後で設定"),
+    Check(0, 1, 3, ItemRegst, "文字列一覧へ登録"),
+    Check(0, 1, 3, ItemCheck, "次回からの初期値として保存"), EndCheckButn};
+
+namespace {
+
+void ShowIf(gint* culm1, gint culm, bool shown) {
+  *culm1 = shown ? culm : -1;
+}
+
+void SetCommonRows(gint line, bool onePoint, bool registers) {
+  ShowIf(&ToolComn_String[0].culm1, 0, !onePoint);
+  ShowIf(&ToolComn_String[1].culm1, 0, onePoint);
+  ShowIf(&ToolComn_String[2].culm1, 0, !onePoint);
+  for (gint k = 0; k < 3; ++k) ToolComn_String[3 + k].line = line + k;
+  ToolComn_Combo[0].line = line;
+  ToolComn_Edit[0].line = line + 1;
+  ToolComn_Edit[1].line = line + 2;
+  ToolComn_Numr[0].line = line + 3;
+  ToolComn_Check[1].line = line + 4;
+  ToolComn_Check[2].line = line + 5;
+  ShowIf(&ToolComn_Check[2].culm1, 1, registers);
+  ToolComn_Check[3].line = line + (registers ? 6 : 5);
+}
+
+void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line) {
+  KeepWidget(slot, NewLabel(""));
+  PlaceControl(table, *slot, line, 1, 2);
+}
+
+void ShowPoint(GtkWidget* label, const POINT& point) {
+  if (label == nullptr) return;
+  gchar text[32];
+  g_snprintf(text, sizeof text, "%5d / %5d", point.x, point.y);
+  gtk_label_set_text(GTK_LABEL(label), text);
+}
+
+}  // namespace
+
+void ToolBox_Comn(GtkWidget* table, gint line, gint flag1, gint flag2) {
+  GtkWidget* window = gtk_widget_get_toplevel(table);
+  SetCommonRows(line, flag1 != 0, flag2 != 0);
+  AddReadOut(table, &ToolBox_Label1, 0);
+  KeepWidget(&ToolBox_Label2, nullptr);
+  if (flag1 == 0) AddReadOut(table, &ToolBox_Label2, 1);
+  Dlg_String(window, table, ToolComn_String);
+  Dlg_EditBox(window, table, ToolComn_Edit);
+  Dlg_NumrBox(window, table, ToolComn_Numr);
+  Dlg_ComboBox(window, table, ToolComn_Combo);
+  Dlg_CheckButn(window, table, ToolComn_Check);
+  SetToolBoxPoint();
+  AddBrowseButton(table, {line + 1, 4, ToolBox_Page, &ToolComn_Edit[0]});
+  AddBrowseButton(table, {line + 2, 4, ToolBox_Code, &ToolComn_Edit[1]});
+}
+
+void SetToolBoxPoint() {
+  if (ToolBox == nullptr) return;
+  ShowPoint(ToolBox_Label1, PtrnData.Point1);
+  ShowPoint(ToolBox_Label2, PtrnData.Point2);
+}

@@ -1,0 +1,3 @@
+#include "layout/Screen.h"
+
+GtkWidget* ToolBox = nullptr;

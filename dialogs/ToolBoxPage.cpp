@@ -1,0 +1,79 @@
+// Building a page of the tool box from its tables.
+#include "dialogs/ToolBoxPage.h"
+
+#include "ProjData.h"
+#include "dialogs/Cells.h"
+
+namespace {
+
+constexpr const gchar* ContentKey = "varnix-content";
+
+// The third and fourth colour show only in projects of four colour systems. Swatches of a colour
+// table take one cell, so the second column still tells the place of a hidden one.
+void ShowSystemColours(DLG_COLRDATA* rows) {
+  const bool four = ProjData.Parm1[2] != 0;
+  for (DLG_COLRDATA* row = rows; row->line >= 0; ++row)
+    if (row->culm2 >= 3) row->culm1 = four ? row->culm2 : -1;
+}
+
+// A wider gap after the first column than between the others.
+void WidenFirstGap(GtkWidget* child, gpointer table) {
+  gint left = 0;
+  gint width = 0;
+  gtk_container_child_get(GTK_CONTAINER(table), child, "left-attach", &left, "width", &width,
+                          nullptr);
+  if (left == 0 && width == 1) gtk_widget_set_margin_end(child, 10);
+}
+
+}  // namespace
+
+GtkWidget* ToolBoxContent(GtkWidget* window) {
+  return static_cast<GtkWidget*>(g_object_get_data(G_OBJECT(window), ContentKey));
+}
+
+void SetToolBoxContent(GtkWidget* window, GtkWidget* content) {
+  g_object_set_data(G_OBJECT(window), ContentKey, content);
+}
+
+// A grid grows with what is placed in it, so the size asked for needs no reservation.
+GtkWidget* ToolBox_Title(GtkWidget* window, const gchar* title, gint /*line*/, gint /*culm*/) {
+  gtk_window_set_title(GTK_WINDOW(window), title);
+  GtkWidget* table = gtk_grid_new();
+  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
+  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
+  gtk_grid_set_column_spacing(GTK_GRID(table), 10);
+  gtk_box_pack_start(GTK_BOX(ToolBoxContent(window)), table, FALSE, FALSE, 0);
+  gtk_widget_show(table);
+  return table;
+}
+
+void AddBrowseButton(GtkWidget* table, const BrowseButton& browse) {
+  GtkWidget* button = gtk_button_new_with_label("参照");
+  gtk_widget_set_halign(button, GTK_ALIGN_FILL);
+  gtk_widget_set_valign(button, GTK_ALIGN_FILL);
+  g_signal_connect(button, "clicked", G_CALLBACK(browse.Open), browse.Edit);
+  gtk_grid_attach(GTK_GRID(table), button, browse.Culm, browse.Line, 1, 1);
+  gtk_widget_show(button);
+}
+
+void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
+  GtkWidget* table = ToolBox_Title(window, page.Title, page.Lines, page.Culms);
+  if (page.SystemColours) ShowSystemColours(page.Colr1);
+  Dlg_String(window, table, page.String);
+  Dlg_EditBox(window, table, page.Edit);
+  Dlg_NumrBox(window, table, page.Numr);
+  Dlg_ComboBox(window, table, page.Combo);
+  Dlg_RadioButn(window, table, page.Radio);
+  Dlg_CheckButn(window, table, page.Check);
+  Dlg_ColrData(window, table, page.Colr1);
+  Dlg_ColrData(window, table, page.Colr2);
+  Dlg_MarkData(window, table, page.Mark);
+  if (page.Browse.Open != nullptr) {
+    // Pickers are given the first row of the one-language table whatever table is shown; it then
+    // stands for the entry that the user sees.
+    if (page.Browse.Edit != page.Edit) KeepWidget(&page.Browse.Edit->entry, page.Edit->entry);
+    AddBrowseButton(table, page.Browse);
+  }
+  ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);
+  gtk_container_foreach(GTK_CONTAINER(table), WidenFirstGap, table);
+}
