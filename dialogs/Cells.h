@@ -27,6 +27,8 @@ GtkWidget* NewLabel(const gchar* text, bool right = false);
 GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding);
 // Keeps `*slot` pointing at the widget for as long as the widget lives, then null.
 void KeepWidget(GtkWidget** slot, GtkWidget* widget);
+// Shows record bytes in the entry of a text row without writing them back.
+void ShowRecordText(GtkWidget* entry, const gchar* text);
 
 // Bound integers may lie at odd addresses of a packed record.
 inline gint LoadInt(const gint* bound) {

@@ -58,6 +58,24 @@ void Dlg_EditBox_Entry(GtkEditable* entry, const DLG_EDITBOX* row) {
 
 }  // namespace
 
+void ShowRecordText(GtkWidget* entry, const gchar* text) {
+  const auto block = [entry](bool on) {
+    for (GCallback handler : {G_CALLBACK(Dlg_EditBox_Insert), G_CALLBACK(Dlg_EditBox_Entry)}) {
+      const gpointer function = reinterpret_cast<gpointer>(handler);
+      if (on)
+        g_signal_handlers_block_matched(entry, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, function,
+                                        nullptr);
+      else
+        g_signal_handlers_unblock_matched(entry, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, function,
+                                          nullptr);
+    }
+  };
+  block(true);
+  gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(text).c_str());
+  block(false);
+  ClearRefusal(entry);
+}
+
 void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
   Dlg_EditBox_Parent = parent;
   ForEachRow(rows, [table](DLG_EDITBOX& row) {

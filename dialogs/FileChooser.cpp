@@ -1,0 +1,145 @@
+// Choosing a file of one kind: folders at the left, the files of the selected one at the right.
+#include <dirent.h>
+#include <fnmatch.h>
+#include <sys/stat.h>
+
+#include <memory>
+#include <span>
+#include <string>
+
+#include "dialogs/Cells.h"
+#include "dialogs/ChooserWindow.h"
+#include "dialogs/Choosers.h"
+#include "dialogs/FolderTree.h"
+#include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Text.h"
+
+// Full path of the file chosen, file-system bytes.
+gchar FileName[PathSize];
+// Kind of file listed: 0 projects, 1 layouts, 2 pictures.
+gint FileType = 0;
+
+namespace {
+
+enum Column { LabelColumn, PathColumn, ColumnCount };
+constexpr gint PictureType = 2;
+
+constexpr const gchar* ProjectPatterns[] = {"*.prj"};
+constexpr const gchar* LayoutPatterns[] = {"*.ptn"};
+constexpr const gchar* PicturePatterns[] = {"*.bmp", "*.BMP", "*.jpg", "*.JPG", "*.png", "*.PNG"};
+const std::span<const gchar* const> Patterns[] = {ProjectPatterns, LayoutPatterns, PicturePatterns};
+
+// File selected in the list; becomes the result when it is confirmed.
+gchar SelectedFile[PathSize];
+GtkWidget* FileList = nullptr;
+GtkWidget* FileSelect_Button = nullptr;
+
+gint CheckFileType(const gchar* filename) {
+  if (FileType < 0 || FileType > PictureType) return 0;
+  for (const gchar* pattern : Patterns[FileType])
+    if (fnmatch(pattern, filename, 0) == 0) return 1;
+  return 0;
+}
+
+GtkListStore* ListRows() {
+  return GTK_LIST_STORE(gtk_tree_view_get_model(GTK_TREE_VIEW(FileList)));
+}
+
+void AddFile(const std::string& path, const gchar* name) {
+  gchar base[PathSize];
+  CopyText(base, name);
+  if (FileType != PictureType) SplitPath(name, nullptr, base, nullptr);
+  gtk_list_store_insert_with_values(ListRows(), nullptr, -1, LabelColumn, DisplayText(base).c_str(),
+                                    PathColumn, path.c_str(), -1);
+}
+
+void ClearFiles() {
+  gtk_list_store_clear(ListRows());
+  SelectedFile[0] = '\0';
+  gtk_widget_set_sensitive(FileSelect_Button, FALSE);
+}
+
+void CreateFileList(const std::string& path) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(path.c_str()), closedir);
+  if (folder == nullptr) return;
+  while (const dirent* entry = readdir(folder.get())) {
+    if (entry->d_name[0] == '.' || CheckFileType(entry->d_name) == 0) continue;
+    const std::string full = JoinPath(path, entry->d_name, "");
+    struct stat status;
+    // A path that the result cannot hold whole is not offered.
+    if (full.size() < PathSize && stat(full.c_str(), &status) == 0 && S_ISREG(status.st_mode))
+      AddFile(full, entry->d_name);
+  }
+}
+
+void FileSelect_Folder(const std::string& path) {
+  if (FileList == nullptr) return;
+  ClearFiles();
+  if (!path.empty()) CreateFileList(path);
+}
+
+void FileSelect_File(GtkTreeSelection* selection, gpointer /*data*/) {
+  GtkTreeModel* model = nullptr;
+  GtkTreeIter row;
+  gchar* path = nullptr;
+  if (gtk_tree_selection_get_selected(selection, &model, &row))
+    gtk_tree_model_get(model, &row, PathColumn, &path, -1);
+  CopyText(SelectedFile, path != nullptr ? path : "");
+  g_free(path);
+  if (FileSelect_Button != nullptr)
+    gtk_widget_set_sensitive(FileSelect_Button, SelectedFile[0] != '\0');
+}
+
+void FileSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
+  if (SelectedFile[0] == '\0') return;
+  CopyText(FileName, SelectedFile);
+  gtk_widget_destroy(window);
+}
+
+void FileSelect_CAN(GtkWidget* /*button*/, GtkWidget* window) {
+  gtk_widget_destroy(window);
+}
+
+void FileSelect_Activate(GtkTreeView* view, GtkTreePath* /*path*/, GtkTreeViewColumn* /*column*/,
+                         gpointer /*data*/) {
+  FileSelect_OK(nullptr, gtk_widget_get_toplevel(GTK_WIDGET(view)));
+}
+
+GtkWidget* NewFileList() {
+  GtkListStore* store = gtk_list_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING);
+  GtkWidget* view = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
+  g_object_unref(store);
+  gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(view), FALSE);
+  gtk_tree_view_insert_column_with_attributes(
+      GTK_TREE_VIEW(view), -1, nullptr, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
+  g_signal_connect(gtk_tree_view_get_selection(GTK_TREE_VIEW(view)), "changed",
+                   G_CALLBACK(FileSelect_File), nullptr);
+  g_signal_connect(view, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
+  gtk_widget_show(view);
+  return view;
+}
+
+}  // namespace
+
+gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type) {
+  FileType = type;
+  FileName[0] = '\0';
+  SelectedFile[0] = '\0';
+  GtkWidget* button = nullptr;
+  const DialogWindow dialog =
+      NewChooserWindow(title, G_CALLBACK(FileSelect_OK), G_CALLBACK(FileSelect_CAN), &button);
+  KeepWidget(&FileSelect_Button, button);
+  KeepWidget(&FileList, NewFileList());
+
+  GtkWidget* halves = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
+  gtk_box_set_homogeneous(GTK_BOX(halves), TRUE);
+  gtk_container_set_border_width(GTK_CONTAINER(halves), 10);
+  GtkWidget* tree = NewFolderTree(HomeFolder(), FileSelect_Folder);
+  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(tree, GTK_POLICY_AUTOMATIC), TRUE, TRUE, 0);
+  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(FileList, GTK_POLICY_NEVER), TRUE, TRUE, 0);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), halves, TRUE, TRUE, 0);
+  gtk_widget_show(halves);
+  RunModal(dialog.Window, parent);
+  return FileName;
+}

@@ -1,0 +1,94 @@
+// Choosing a folder; one that does not exist is made on request.
+#include <string>
+
+#include "dialogs/Cells.h"
+#include "dialogs/ChooserWindow.h"
+#include "dialogs/Choosers.h"
+#include "dialogs/FolderTree.h"
+#include "layout/Screen.h"
+#include "support/Files.h"
+#include "support/Text.h"
+
+// The folder chosen or being browsed, file-system bytes; shared with the file chooser.
+gchar FolderName[PathSize];
+
+namespace {
+
+constexpr const gchar* Title = "フォルダー選択";
+constexpr gint EntryLimit = 256;
+
+GtkWidget* FolderSelect_Entry = nullptr;
+GtkWidget* FolderSelect_Button = nullptr;
+
+void FolderSelect_Input(GtkEditable* entry, gpointer /*data*/) {
+  const gchar* text = gtk_entry_get_text(GTK_ENTRY(entry));
+  CopyText(FolderName, text);
+  gtk_widget_set_sensitive(FolderSelect_Button, *text != '\0');
+}
+
+void FolderSelect_Slct(const std::string& path) {
+  if (path.empty()) return;
+  gtk_entry_set_text(GTK_ENTRY(FolderSelect_Entry), DisplayText(path).c_str());
+  CopyText(FolderName, path);
+  gtk_widget_set_sensitive(FolderSelect_Button, TRUE);
+}
+
+void Tell(GtkWidget* window, const gchar* text) {
+  Dlg_MessageBox(window, Title, text, "", 1);
+}
+
+void FolderSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
+  // A folder from the tree may have a name that is not text; then its bytes stand, not what the
+  // entry shows for them.
+  const gchar* text = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
+  if (DisplayText(FolderName) != text) CopyText(FolderName, text);
+  if (FolderName[0] == '\0') {
+    Tell(window, "フォルダーが設定されていません。");
+    return;
+  }
+  if (!g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
+    if (Dlg_MessageBox(window, Title, "フォルダーが存在しません。", "フォルダーを作成しますか ？。",
+                       2) != 1)
+      return;
+    if (CreateFolder(FolderName) == 0 || !g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
+      Tell(window, "フォルダーの作成に失敗しました。");
+      return;
+    }
+  }
+  gtk_widget_destroy(window);
+}
+
+void FolderSelect_CAN(GtkWidget* /*button*/, GtkWidget* window) {
+  FolderName[0] = '\0';
+  gtk_widget_destroy(window);
+}
+
+gboolean FolderSelect_Delete(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
+  FolderName[0] = '\0';
+  return FALSE;
+}
+
+}  // namespace
+
+gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
+  const std::string home = HomeFolder();
+  CopyText(FolderName, home);
+  GtkWidget* button = nullptr;
+  const DialogWindow dialog =
+      NewChooserWindow(title, G_CALLBACK(FolderSelect_OK), G_CALLBACK(FolderSelect_CAN), &button);
+  g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(FolderSelect_Delete), nullptr);
+  KeepWidget(&FolderSelect_Button, button);
+
+  GtkWidget* entry = gtk_entry_new();
+  gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
+  gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(home).c_str());
+  g_signal_connect(entry, "changed", G_CALLBACK(FolderSelect_Input), nullptr);
+  KeepWidget(&FolderSelect_Entry, entry);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 5);
+  gtk_widget_show(entry);
+  GtkWidget* tree = NewFolderTree(home, FolderSelect_Slct);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), NewScrolled(tree, GTK_POLICY_AUTOMATIC), TRUE, TRUE,
+                     5);
+  RunModal(dialog.Window, parent);
+  return FolderName;
+}
