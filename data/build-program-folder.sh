@@ -40,7 +40,7 @@ mkdir -p "$fresh"/{Sample/Bitmap,SampleProgram,VarnixData/{Bitmap,Ptrn}}
 iconv -f UTF-8 -t EUC-JP "$data/profile/VarnixMaster.ini" | with_program_folder >"$fresh/VarnixMaster.ini"
 cp "$data"/artwork/start/*.bmp "$data/artwork/icon/VarnixMaster.png" "$fresh"
 cp "$data"/artwork/bitmap/* "$fresh/Sample/Bitmap"
-cp "$data"/artwork/template/* "$fresh/VarnixData/Bitmap"
+cp "$data"/artwork/bitmap/{logo.png,water.bmp} "$fresh/VarnixData/Bitmap"
 
 sample=$data/sample
 with_program_folder <"$sample/project.json" >"$fresh/project.json"
