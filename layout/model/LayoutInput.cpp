@@ -52,11 +52,11 @@ int LayoutInput::NextTextByte() {
 void LayoutInput::ReadText(gchar* field, std::size_t limit) {
   std::size_t length = 0;
   while (const int byte = NextTextByte()) {
-    if (length == limit) {
-      length = CutEuc(std::string_view(field, limit), limit).size();
+    field[length++] = static_cast<gchar>(byte);
+    if (length > limit) {
+      length = CutEuc(std::string_view(field, length), limit).size();
       break;
     }
-    field[length++] = static_cast<gchar>(byte);
   }
-  std::memset(field + length, 0, limit + 1 - length);
+  std::memset(field + length, 0, limit + 2 - length);
 }

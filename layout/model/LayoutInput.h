@@ -19,9 +19,9 @@ class LayoutInput {
   bool Read(void* buffer, std::size_t size);
   // Starts the text block: the next `size` bytes. False when the file holds less.
   bool BeginTexts(gint size);
-  // The next text of the block into `field`, at most `limit` of its bytes (field is larger). A
-  // longer text is cut there, and what is left of it past one more byte is taken for the next text.
-  // Past the end of the block texts are empty.
+  // The next text of the block into `field`, at most `limit` of its bytes (field is larger by two).
+  // A longer text is cut there, and what is left of it past one more byte is taken for the next
+  // text. Past the end of the block texts are empty.
   void ReadText(gchar* field, std::size_t limit);
 
  private:
