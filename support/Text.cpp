@@ -75,9 +75,10 @@ bool HasStrayBytes(std::string_view euc) {
 }
 
 // Characters that input methods produce for one that EUC-JP has under another code.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 6> LookAlikes = {{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 7> LookAlikes = {{
     {"\uFF5E", "\u301C"},  // full-width tilde -> wave dash
     {"\uFF0D", "\u2212"},  // full-width hyphen-minus -> minus sign
+    {"\u2014", "\u2015"},  // em dash -> horizontal bar
     {"\u2225", "\u2016"},  // parallel to -> double vertical line
     {"\uFFE0", "\u00A2"},  // full-width cent sign
     {"\uFFE1", "\u00A3"},  // full-width pound sign

@@ -10,8 +10,8 @@
 
 // UTF-8 of EUC-JP bytes, nothing when the bytes are not EUC-JP.
 std::optional<std::string> Utf8FromEuc(std::string_view euc);
-// EUC-JP of a UTF-8 text after folding of look-alikes (full-width tilde, minus, parallel, currency
-// signs); nothing when a character has no place in EUC-JP or the text is not UTF-8.
+// EUC-JP of a UTF-8 text after folding of look-alikes (full-width tilde, minus, parallel, dash,
+// currency signs); nothing when a character has no place in EUC-JP or the text is not UTF-8.
 std::optional<std::string> EucFromUtf8(std::string_view utf8);
 // Record or path bytes made fit to show: as EUC-JP when valid, else as UTF-8 when valid, else with
 // every byte above 0x7F escaped as "\xNN". Always valid UTF-8.
