@@ -22,15 +22,10 @@ struct Content {
   off_t Size() const { return offset + static_cast<off_t>(bytes.size()); }
 };
 
-enum class Outcome { Done, Failed, Refused };  // Refused = the folder takes no new entry
+enum class Outcome { Done, Failed, Refused };  // Refused = by the folder, not by the disk
 
 bool FolderRefuses(int error) {
   return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
-}
-
-// Devices and pipes cannot be flushed, which is no failure.
-bool Flush(const FileHandle& file) {
-  return fsync(file.Get()) == 0 || errno == EINVAL;
 }
 
 bool SetLength(const FileHandle& file, off_t length) {
@@ -42,17 +37,20 @@ bool SetOwner(const FileHandle& file, uid_t owner, gid_t group) {
 }
 
 bool SetMode(const FileHandle& file, mode_t mode) {
-  return fchmod(file.Get(), mode & 07777) == 0;
+  return fchmod(file.Get(), mode) == 0;
 }
 
+// Overwrites first and cuts last, so that a file written in place keeps the room it has.
 bool Fill(const FileHandle& file, const Content& content) {
-  return SetLength(file, content.offset) && file.WriteAt(content.bytes, content.offset);
+  if (content.offset > 0 && !SetLength(file, 0)) return false;
+  return file.WriteAt(content.bytes, content.offset) && SetLength(file, content.Size()) &&
+         fsync(file.Get()) == 0;
 }
 
 // The new file takes over whose the old one is and who may use it, as far as the system lets it.
 void KeepAttributes(const FileHandle& file, const struct stat& old) {
   if (!SetOwner(file, old.st_uid, old.st_gid)) SetOwner(file, static_cast<uid_t>(-1), old.st_gid);
-  SetMode(file, old.st_mode);
+  SetMode(file, old.st_mode & 0777);
 }
 
 // A new hidden file in the folder of `path`; its name tells nothing, so no name is too long for it.
@@ -72,7 +70,7 @@ Outcome ReplaceByRename(const std::string& path, const Content& content, const s
   const FileHandle file = OpenTemporary(path, name);
   if (!file) return FolderRefuses(errno) ? Outcome::Refused : Outcome::Failed;
   Outcome outcome = Outcome::Failed;
-  if (Fill(file, content) && Flush(file)) {
+  if (Fill(file, content)) {
     if (old != nullptr) KeepAttributes(file, *old);
     if (rename(name.c_str(), path.c_str()) == 0) return Outcome::Done;
     if (FolderRefuses(errno)) outcome = Outcome::Refused;
@@ -81,30 +79,21 @@ Outcome ReplaceByRename(const std::string& path, const Content& content, const s
   return outcome;
 }
 
-// Reserves the room first, so that a full disk is found out while the old content still stands.
-bool Reserve(const FileHandle& file, off_t size) {
-  struct stat old;
-  if (fstat(file.Get(), &old) != 0) return false;
-  if (!S_ISREG(old.st_mode) || size <= old.st_size) return true;
-  if (fallocate(file.Get(), 0, 0, size) == 0) return true;
+// Finds out that the disk is full while the old content still stands.
+bool Reserve(const FileHandle& file, off_t size, off_t old_size) {
+  if (size <= old_size || fallocate(file.Get(), 0, 0, size) == 0) return true;
   if (errno == EOPNOTSUPP || errno == ENOSYS) return true;
-  SetLength(file, old.st_size);  // part of the room may have been added
+  SetLength(file, old_size);  // part of the room may have been added
   return false;
 }
 
-bool WriteInPlace(const std::string& path, const Content& content, int flags) {
-  const FileHandle file(open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | flags, NewFileMode));
-  if (!file || !Reserve(file, content.Size())) return false;
-  struct stat status;
-  if (fstat(file.Get(), &status) != 0) return false;
-  if (!S_ISREG(status.st_mode))
-    return write(file.Get(), content.bytes.data(), content.bytes.size()) ==
-           static_cast<ssize_t>(content.bytes.size());
-  return Fill(file, content) && Flush(file);
+bool WriteInPlace(const std::string& path, const Content& content, const struct stat& old) {
+  const FileHandle file(open(path.c_str(), O_WRONLY | O_CLOEXEC));
+  return file && Reserve(file, content.Size(), old.st_size) && Fill(file, content);
 }
 
-// The file that a link leads to: it is replaced, and the link stays. A path without a file at its
-// end stays as given.
+// The file that a link leads to: it is replaced, and the link stays. A link that leads nowhere is
+// replaced itself.
 std::string Resolved(const std::string& path) {
   const std::unique_ptr<char, decltype(&free)> real(realpath(path.c_str(), nullptr), &free);
   return real ? real.get() : path;
@@ -116,14 +105,13 @@ bool ReplaceFile(const std::string& path, std::string_view content, std::size_t 
   const Content wanted{content, static_cast<off_t>(offset)};
   const std::string target = Resolved(path);
   struct stat old;
-  if (lstat(target.c_str(), &old) != 0) {
+  if (stat(target.c_str(), &old) != 0) {
     return errno == ENOENT && ReplaceByRename(target, wanted, nullptr) == Outcome::Done;
   }
-  if (S_ISLNK(old.st_mode)) return WriteInPlace(target, wanted, O_CREAT);
-  if (!S_ISREG(old.st_mode)) return WriteInPlace(target, wanted, 0);
+  if (!S_ISREG(old.st_mode)) return false;
   // Renaming would pass over a write protection of the file.
   if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return false;
   const Outcome outcome = ReplaceByRename(target, wanted, &old);
-  if (outcome == Outcome::Refused) return WriteInPlace(target, wanted, 0);
+  if (outcome == Outcome::Refused) return WriteInPlace(target, wanted, old);
   return outcome == Outcome::Done;
 }
