@@ -1,0 +1,86 @@
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <vector>
+
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "support/FileTools.h"
+#include "tools/Commands.h"
+#include "tools/OpenProject.h"
+#include "tools/Report.h"
+
+namespace {
+
+// What changes when a file is written or replaced; all zeros for a missing one.
+using Stamp = std::array<gint64, 5>;
+
+Stamp StampOf(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) != 0) return {};
+  return {static_cast<gint64>(status.st_ino), status.st_size, status.st_mtim.tv_sec,
+          status.st_mtim.tv_nsec, status.st_ctim.tv_nsec};
+}
+
+// A file that generation writes.
+struct Product {
+  std::string Path;
+  bool Always;  // written by every run, not only when it is missing
+  Stamp Before = StampOf(Path);
+};
+
+std::vector<Product> Products() {
+  const std::string program = ProjData.ProgPath;
+  return {{JoinPath(ProjPath, "PtrnCode", ""), true},   {JoinPath(ProjPath, "PtrnFlag", ""), true},
+          {JoinPath(program, "VarnixCode", "h"), true}, {JoinPath(program, ProjName, "h"), false},
+          {JoinPath(program, ProjName, "cpp"), false},  {JoinPath(program, ProjName, "ini"), true}};
+}
+
+bool SetProgramFolder(const std::string& folder) {
+  if (folder.size() >= sizeof(ProjData.ProgPath)) return false;
+  g_strlcpy(ProjData.ProgPath, folder.c_str(), sizeof(ProjData.ProgPath));
+  return true;
+}
+
+// Whether `folder` can take files; else the reason has been told.
+bool UsableFolder(const std::string& folder) {
+  struct stat status {};
+  if (stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+    return Fail(folder, "no such folder"), false;
+  if (access(folder.c_str(), W_OK | X_OK) != 0) return Fail(folder, "cannot be written"), false;
+  // The longest name made there is that of a file with a four-character extension.
+  if (folder.size() + 1 + std::string_view(ProjName).size() + sizeof(".cpp") > PathSize)
+    return Fail(folder, "its path is longer than the program can hold"), false;
+  return true;
+}
+
+int ReportProducts(const std::vector<Product>& products) {
+  std::string written;
+  int result = ExitDone;
+  for (const Product& product : products) {
+    const Stamp now = StampOf(product.Path);
+    if (now != product.Before) written += ShownPath(product.Path) + "\n";
+    if (now == Stamp{} || (product.Always && now == product.Before))
+      result = Fail(product.Path, "cannot be written");
+  }
+  const int printed = Print(written);
+  return result == ExitDone ? printed : result;
+}
+
+}  // namespace
+
+int RunGenerate(const GenerateOptions& options) {
+  const ProfileInUse profile(options.Profile);
+  if (!profile.Good() || !OpenProject(options.Project)) return ExitFailed;
+  if (!options.ProgramFolder.empty() && !SetProgramFolder(options.ProgramFolder))
+    return Fail(options.ProgramFolder, "its path is longer than the program can hold");
+  if (ProjData.ProgPath[0] == '\0') return Fail(options.Project, "names no program folder");
+  if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath)) return ExitFailed;
+  const std::vector<Product> products = Products();
+  LogicDataEdit1();
+  LogicDataEdit2();
+  LogicDataEdit3();
+  LogicDataEdit4();
+  return ReportProducts(products);
+}

@@ -1,0 +1,34 @@
+#include "PtrnData.h"
+#include "PtrnDraw.h"
+#include "tools/Commands.h"
+#include "tools/LayoutView.h"
+#include "tools/OpenProject.h"
+#include "tools/Report.h"
+
+namespace {
+
+// The first item in store order decides, as for the mouse; not the one painted on top.
+std::string HitLine(const POINT& point) {
+  for (gint no = 0; no < GetPtrnCount(); ++no) {
+    const PTRNDATA* item = ViewPtrnData(no);
+    if (const gint hit = SearchPtrnData(&point, item))
+      return "index=" + std::to_string(no) + " type=" + std::to_string(item->Type) +
+             " hit=" + std::to_string(hit) + "\n";
+  }
+  return "none\n";
+}
+
+}  // namespace
+
+int RunHit(const HitOptions& options) {
+  const ProfileInUse profile(options.View.Profile);
+  if (!profile.Good() || !OpenProject(options.View.Project)) return ExitFailed;
+  const std::string name = FindLayout(options.Name);
+  if (name.empty()) return Fail(options.Name, "no such layout in the project");
+  PrepareDrawing(options.View);
+  const OpenLayout layout(name);
+  if (!layout.Error().empty()) return Fail(options.Name, layout.Error());
+  // Texts have an extent only once they have been painted.
+  const LayoutPicture picture;
+  return Print(HitLine({options.X, options.Y}));
+}

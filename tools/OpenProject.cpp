@@ -1,0 +1,72 @@
+#include "tools/OpenProject.h"
+
+#include <algorithm>
+
+#include "PtrnMisc.h"
+#include "project/model/LayoutNames.h"
+#include "tools/InputFile.h"
+#include "tools/Report.h"
+#include "tools/json/ProjectFile.h"
+
+namespace {
+
+constexpr std::string_view Suffix = ".prj";
+
+std::string FullPath(const std::string& path) {
+  const std::unique_ptr<gchar, decltype(&g_free)> full(
+      g_canonicalize_filename(path.c_str(), nullptr), g_free);
+  return full.get();
+}
+
+template <std::size_t Size>
+void EndField(gchar (&field)[Size]) {
+  CopyText(field, std::string(FieldText(field)));
+}
+
+// The record's texts may lack terminators.
+PROJDATA EndTexts(PROJDATA data) {
+  EndField(data.ProgPath);
+  EndField(data.LogoName);
+  EndField(data.PtrnStart);
+  EndField(data.PtrnStop);
+  return data;
+}
+
+}  // namespace
+
+bool OpenProject(const std::string& file) {
+  const std::string path = FullPath(ExistingPath(file));
+  const std::string_view base = BaseName(path);
+  if (!base.ends_with(Suffix)) return Fail(file, "not named \"*.prj\""), false;
+  const FileBytes input = ReadFileOfKind(FileKind::Project, path);
+  if (!input.Bytes) return Fail(file, input.Error), false;
+  const std::string name(base.substr(0, base.size() - Suffix.size()));
+  const std::string folder = FolderName(path);
+  const auto record = DecodeProject(*input.Bytes);
+  if (!record) return Fail(file, "not a whole project file"), false;
+  // The bitmap folder is the longest path made of the project's.
+  if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath))
+    return Fail(file, "its path is longer than the program can hold"), false;
+  ProjFlag = 1;
+  g_strlcpy(ProjName, name.c_str(), sizeof(ProjName));
+  g_strlcpy(ProjPath, folder.c_str(), sizeof(ProjPath));
+  ProjData = EndTexts(record->Data);
+  SetBmapPath();
+  return true;
+}
+
+std::vector<std::string> SortedLayouts() {
+  std::vector<std::string> names = LayoutNames(ProjPath);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+std::string FindLayout(const std::string& name) {
+  const std::vector<std::string> names = SortedLayouts();
+  const auto bytes = std::find(names.begin(), names.end(), name);
+  if (bytes != names.end()) return *bytes;
+  const auto shown = std::find_if(names.begin(), names.end(), [&name](const std::string& layout) {
+    return DisplayText(layout) == name;
+  });
+  return shown == names.end() ? std::string() : *shown;
+}

@@ -1,0 +1,59 @@
+#include <unistd.h>
+
+#include "PtrnMisc.h"
+#include "tools/InputFile.h"
+#include "tools/OpenProject.h"
+#include "tools/Report.h"
+
+namespace {
+
+constexpr std::string_view ProfileName = "VarnixMaster.ini";
+
+std::string ExecutableFolder() {
+  const std::unique_ptr<gchar, decltype(&g_free)> path(g_file_read_link("/proc/self/exe", nullptr),
+                                                       g_free);
+  return path ? FolderName(path.get()) : ".";
+}
+
+bool FitsPathName(const std::string& folder) {
+  return folder.size() + 1 + ProfileName.size() < sizeof(PathName);
+}
+
+}  // namespace
+
+ProfileInUse::ProfileInUse(const std::string& file) {
+  std::string folder = ExecutableFolder();
+  good_ = true;
+  if (!file.empty()) {
+    if (access(file.c_str(), R_OK) != 0) {
+      Fail(file, "cannot be read");
+      good_ = false;
+      return;
+    }
+    folder = FolderName(file);
+  }
+  const bool direct = (file.empty() || BaseName(file) == ProfileName) && FitsPathName(folder);
+  if (!direct) {
+    good_ = Link(file.empty() ? folder + "/" + std::string(ProfileName) : file);
+    folder = folder_;
+  }
+  g_strlcpy(PathName, folder.c_str(), sizeof(PathName));
+}
+
+bool ProfileInUse::Link(const std::string& file) {
+  const std::unique_ptr<gchar, decltype(&g_free)> folder(
+      g_dir_make_tmp("varnixtool-XXXXXX", nullptr), g_free);
+  const std::unique_ptr<gchar, decltype(&g_free)> target(
+      g_canonicalize_filename(file.c_str(), nullptr), g_free);
+  if (folder) folder_ = folder.get();
+  const std::string link = folder_ + "/" + std::string(ProfileName);
+  if (folder && FitsPathName(folder_) && symlink(target.get(), link.c_str()) == 0) return true;
+  Fail(file, "no temporary folder to reach it through");
+  return false;
+}
+
+ProfileInUse::~ProfileInUse() {
+  if (folder_.empty()) return;
+  unlink((folder_ + "/" + std::string(ProfileName)).c_str());
+  rmdir(folder_.c_str());
+}
