@@ -47,11 +47,11 @@ bool SetProgramFolder(const std::string& folder) {
 bool UsableFolder(const std::string& folder) {
   struct stat status {};
   if (stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
-    return Fail(folder, "no such folder"), false;
-  if (access(folder.c_str(), W_OK | X_OK) != 0) return Fail(folder, "cannot be written"), false;
+    return Refuse(folder, "no such folder");
+  if (access(folder.c_str(), W_OK | X_OK) != 0) return Refuse(folder, "cannot be written");
   // The longest name made there is that of a file with a four-character extension.
   if (folder.size() + 1 + std::string_view(ProjName).size() + sizeof(".cpp") > PathSize)
-    return Fail(folder, "its path is longer than the program can hold"), false;
+    return Refuse(folder, "its path is longer than the program can hold");
   return true;
 }
 

@@ -37,16 +37,16 @@ PROJDATA EndTexts(PROJDATA data) {
 bool OpenProject(const std::string& file) {
   const std::string path = FullPath(ExistingPath(file));
   const std::string_view base = BaseName(path);
-  if (!base.ends_with(Suffix)) return Fail(file, "not named \"*.prj\""), false;
+  if (!base.ends_with(Suffix)) return Refuse(file, "not named \"*.prj\"");
   const FileBytes input = ReadFileOfKind(FileKind::Project, path);
-  if (!input.Bytes) return Fail(file, input.Error), false;
+  if (!input.Bytes) return Refuse(file, input.Error);
   const std::string name(base.substr(0, base.size() - Suffix.size()));
   const std::string folder = FolderName(path);
   const auto record = DecodeProject(*input.Bytes);
-  if (!record) return Fail(file, "not a whole project file"), false;
+  if (!record) return Refuse(file, "not a whole project file");
   // The bitmap folder is the longest path made of the project's.
   if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath))
-    return Fail(file, "its path is longer than the program can hold"), false;
+    return Refuse(file, "its path is longer than the program can hold");
   ProjFlag = 1;
   g_strlcpy(ProjName, name.c_str(), sizeof(ProjName));
   g_strlcpy(ProjPath, folder.c_str(), sizeof(ProjPath));

@@ -25,11 +25,8 @@ ProfileInUse::ProfileInUse(const std::string& file) {
   std::string folder = ExecutableFolder();
   good_ = true;
   if (!file.empty()) {
-    if (access(file.c_str(), R_OK) != 0) {
-      Fail(file, "cannot be read");
-      good_ = false;
-      return;
-    }
+    good_ = access(file.c_str(), R_OK) == 0 || Refuse(file, "cannot be read");
+    if (!good_) return;
     folder = FolderName(file);
   }
   const bool direct = (file.empty() || BaseName(file) == ProfileName) && FitsPathName(folder);
@@ -48,8 +45,7 @@ bool ProfileInUse::Link(const std::string& file) {
   if (folder) folder_ = folder.get();
   const std::string link = folder_ + "/" + std::string(ProfileName);
   if (folder && FitsPathName(folder_) && symlink(target.get(), link.c_str()) == 0) return true;
-  Fail(file, "no temporary folder to reach it through");
-  return false;
+  return Refuse(file, "no temporary folder to reach it through");
 }
 
 ProfileInUse::~ProfileInUse() {

@@ -16,6 +16,11 @@ int Fail(std::string_view file, std::string_view reason) {
   return ExitFailed;
 }
 
+bool Refuse(std::string_view file, std::string_view reason) {
+  Fail(file, reason);
+  return false;
+}
+
 int Print(std::string_view text) {
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   if (written && std::fflush(stdout) == 0) return ExitDone;

@@ -1,8 +1,9 @@
 // The companion command line: what it accepts. The commands stand in files of their own.
 #include <CLI/CLI.hpp>
-#include <clocale>
+#include <exception>
 
 #include "tools/Commands.h"
+#include "tools/Report.h"
 #include "tools/TimeText.h"
 
 namespace {
@@ -108,6 +109,8 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? ExitDone : ExitUsage;
+  } catch (const std::exception& error) {
+    return Fail("failed", error.what());
   }
   return result;
 }

@@ -1,4 +1,5 @@
 // Palette and marks.
+#include <array>
 #include <cstring>
 #include <set>
 #include <vector>
@@ -79,7 +80,7 @@ void BuildDrawnMark(const JsonSource& source, const std::string& place, Marks& m
 
 Marks MarksOfHex(const JsonSource& list) {
   if (list.size() != MarkCount)
-    throw SourceError("list", "as many marks as " + std::to_string(MarkCount) + " are expected");
+    throw SourceError("list", std::to_string(MarkCount) + " hexadecimal texts are expected");
   Marks marks;
   for (const JsonSource& entry : list) {
     const std::string place = EntryPlace("list", marks.size());
