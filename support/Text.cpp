@@ -35,6 +35,7 @@ class Converter {
   }
 
  private:
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): this is how iconv_open tells its failure
   bool IsOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
   iconv_t handle_;
 };
