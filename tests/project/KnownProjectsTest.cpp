@@ -1,0 +1,72 @@
+#include "tests/project/ProjectFixture.h"
+
+namespace {
+
+using KnownProjectsTest = ProjectFixture;
+
+TEST_F(KnownProjectsTest, ANewProjectIsListedAndCurrent) {
+  ProfileRenew("/home/a", "A");
+  EXPECT_EQ(Profile(), "[PROJNAME]\nPROJNAME0=A,/home/a\n[PROJECT]\nPROJECT=A,/home/a\n");
+}
+
+TEST_F(KnownProjectsTest, AKnownProjectIsNotListedTwice) {
+  ProfileRenew("/home/a", "A");
+  ProfileRenew("/home/b", "B");
+  ProfileRenew("/home/a", "A");
+  EXPECT_EQ(Profile(),
+            "[PROJNAME]\nPROJNAME1=B,/home/b\nPROJNAME0=A,/home/a\n[PROJECT]\nPROJECT=A,/home/a\n");
+}
+
+TEST_F(KnownProjectsTest, NameAndFolderBothCount) {
+  WriteProfile("[PROJNAME]\nPROJNAME0=A,/home/a\n");
+  ProfileRenew("/home/b", "A");
+  ProfileRenew("/home/a", "B");
+  EXPECT_EQ(Profile(),
+            "[PROJNAME]\nPROJNAME2=B,/home/a\nPROJNAME1=A,/home/b\nPROJNAME0=A,/home/a\n"
+            "[PROJECT]\nPROJECT=B,/home/a\n");
+}
+
+TEST_F(KnownProjectsTest, TheFirstGapIsFilledFirst) {
+  WriteProfile("[PROJNAME]\nPROJNAME0=A,/a\nPROJNAME1=,/left\nPROJNAME3=D,/d\n");
+  ProfileRenew("/b", "B");
+  ProfileRenew("/c", "C");
+  EXPECT_EQ(Profile(),
+            "[PROJNAME]\nPROJNAME2=C,/c\nPROJNAME0=A,/a\nPROJNAME1=B,/b\nPROJNAME3=D,/d\n"
+            "[PROJECT]\nPROJECT=C,/c\n");
+}
+
+TEST_F(KnownProjectsTest, AKnownProjectBehindAGapIsFound) {
+  WriteProfile("[PROJNAME]\nPROJNAME99=Z,/z\n[PROJECT]\n");
+  ProfileRenew("/z", "Z");
+  EXPECT_EQ(Profile(), "[PROJNAME]\nPROJNAME99=Z,/z\n[PROJECT]\nPROJECT=Z,/z\n");
+}
+
+TEST_F(KnownProjectsTest, AFullListTakesNoMoreButTheProjectIsCurrent) {
+  std::string list = "[PROJNAME]\n";
+  for (gint no = 0; no < 100; ++no) {
+    list += "PROJNAME" + std::to_string(no) + "=P" + std::to_string(no) + ",/p\n";
+  }
+  WriteProfile(list);
+  ProfileRenew("/home/a", "A");
+  EXPECT_EQ(Profile(), list + "[PROJECT]\nPROJECT=A,/home/a\n");
+}
+
+TEST_F(KnownProjectsTest, ALongFolderIsListedOnce) {
+  const std::string folder = "/" + std::string(150, 'd');
+  ProfileRenew(folder.c_str(), "A");
+  ProfileRenew(folder.c_str(), "A");
+  EXPECT_EQ(Profile(),
+            "[PROJNAME]\nPROJNAME0=A," + folder + "\n[PROJECT]\nPROJECT=A," + folder + "\n");
+}
+
+TEST_F(KnownProjectsTest, ANameThatALineCannotHoldIsListedOnce) {
+  for (const char* name : {"a,b", "a;b", "a "}) {
+    std::filesystem::remove(folder_.Path("program/VarnixMaster.ini"));
+    ProfileRenew("/home/a", name);
+    const std::string first = Profile();
+    ProfileRenew("/home/a", name);
+    EXPECT_EQ(Profile(), first) << name;
+  }
+}
+
+}  // namespace
