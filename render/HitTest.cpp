@@ -88,7 +88,7 @@ gint SearchPtrnData(const POINT* point, const PTRNDATA* item) {
 
 gint SearchPtrnData01(const POINT* point, const PTRNDATA* item) {
   const POINT at = OnPlane(POINT{*point});
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   if (const gint corner = CornerHandle(at, box); corner != HitNone) return corner;
   if (const gint edge = EdgeHandle(at, box); edge != HitNone) return edge;
   // The edges only, and only of a box whose first point is its top left corner.
@@ -101,7 +101,7 @@ gint SearchPtrnData01(const POINT* point, const PTRNDATA* item) {
 
 gint SearchPtrnData02(const POINT* point, const PTRNDATA* item) {
   const POINT at = OnPlane(POINT{*point});
-  const ItemBox line = BoxOf(*item);
+  const ItemBox line = ItemBoxOf(*item);
   if (NearPoint(at, line.X1, line.Y1)) return 1;
   if (NearPoint(at, line.X2, line.Y2)) return 2;
   // Vertical lines are caught one dot further away than horizontal ones, on purpose.
@@ -118,7 +118,7 @@ gint SearchPtrnData02(const POINT* point, const PTRNDATA* item) {
 
 gint SearchPtrnData04(const POINT* point, const PTRNDATA* item) {
   const POINT at = OnPlane(POINT{*point});
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   if (const gint edge = EdgeHandle(at, box); edge != HitNone) return edge;
   if (box.X1 == box.X2 || box.Y1 == box.Y2) return HitNone;
   const double dx = at.x - (box.X1 + box.X2) / 2.0;

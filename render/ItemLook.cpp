@@ -37,7 +37,7 @@ std::string ItemText(const PTRNDATA& item) {
   }
 }
 
-void FillBox(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint colour) {
+void FillArea(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint colour) {
   DrawRect(drawable, gc, box.X1, box.Y1, box.X2, box.Y2, 0, 0, colour, colour);
 }
 

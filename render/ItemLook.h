@@ -21,6 +21,6 @@ inline gint OptionalColour(gint enabled, gint colour) {
 std::string ItemText(const PTRNDATA& item);
 
 // Fills the box between two corners, taken in any order.
-void FillBox(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint colour);
+void FillArea(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint colour);
 // A solid line one pixel wide, both ends included.
 void ThinLine(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint colour);

@@ -5,13 +5,13 @@
 #include "render/Primitives.h"
 
 void DrawPtrnData05(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   const bool horizontal = item->Parm[BarSlot::Direction] == 1;
   const gint barWidth = BoundedWidth(item->Parm[BarSlot::BarWidth]);
   const gint outlineWidth = BoundedWidth(item->Parm[BarSlot::OutlineWidth]);
   const gint barColour = SystemColour(*item, BarSlot::BarColour);
 
-  FillBox(drawable, gc, box, SystemColour(*item, BarSlot::BackColour));
+  FillArea(drawable, gc, box, SystemColour(*item, BarSlot::BackColour));
   if (barWidth != 0) {
     const ItemBox level = horizontal ? ItemBox{box.MiddleX(), box.Y1, box.MiddleX(), box.Y2}
                                      : ItemBox{box.X1, box.MiddleY(), box.X2, box.MiddleY()};
@@ -19,7 +19,7 @@ void DrawPtrnData05(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
   } else {
     const ItemBox area = horizontal ? ItemBox{box.X1, box.Y1, box.MiddleX(), box.Y2}
                                     : ItemBox{box.X1, box.MiddleY(), box.X2, box.Y2};
-    FillBox(drawable, gc, area, barColour);
+    FillArea(drawable, gc, area, barColour);
   }
   if (outlineWidth != 0) {
     DrawRect(drawable, gc, box.X1, box.Y1, box.X2, box.Y2, outlineWidth, 1,

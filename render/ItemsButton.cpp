@@ -41,9 +41,9 @@ void DrawCaption(Drawable* drawable, DrawGc* gc, const PTRNDATA& item, const Ite
 }  // namespace
 
 void DrawPtrnData09(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   const gint border = BoundedWidth(item->Parm[ButtonSlot::BorderWidth]);
-  FillBox(drawable, gc, box, item->Parm[ButtonSlot::FaceColour]);
+  FillArea(drawable, gc, box, item->Parm[ButtonSlot::FaceColour]);
   DrawTopLeftBorder(drawable, gc, box, border, item->Parm[ButtonSlot::TopLeftColour]);
   DrawBottomRightBorder(drawable, gc, box, border, item->Parm[ButtonSlot::BottomRightColour]);
   DrawCaption(drawable, gc, *item, box);

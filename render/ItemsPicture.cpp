@@ -11,7 +11,7 @@
 #include "support/Text.h"
 
 void DrawPtrnData12(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   const std::string name(FieldText(item->Text1));
   DrawBmap(drawable, gc, box.X1, box.Y1, std::abs(box.Width()), std::abs(box.Height()),
            OptionalColour(item->Parm[BitmapSlot::Transparent],
@@ -20,7 +20,7 @@ void DrawPtrnData12(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
 }
 
 void DrawPtrnData13(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   DrawMark(
       drawable, gc, box.X1, box.Y1, box.Width(), box.Height(),
       SystemColour(*item, MarkSlot::MarkColour),
@@ -29,7 +29,7 @@ void DrawPtrnData13(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
 }
 
 void DrawPtrnData15(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   DrawXpm(drawable, gc, box.X1, box.Y1, std::abs(box.Width()), std::abs(box.Height()),
           XPM_SpinButn);
 }

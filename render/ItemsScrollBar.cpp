@@ -27,7 +27,7 @@ void DrawBorderedBox(Drawable* drawable, DrawGc* gc, const PTRNDATA& item, const
 }  // namespace
 
 void DrawPtrnData14(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   const bool vertical = item->Parm[ScrollSlot::Direction] != 0;
   DrawBorderedBox(drawable, gc, *item, box, item->Parm[ScrollSlot::TroughColour]);
 

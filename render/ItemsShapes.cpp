@@ -9,7 +9,7 @@ namespace {
 using ShapePrimitive = void (*)(Drawable*, DrawGc*, gint, gint, gint, gint, gint, gint, gint, gint);
 
 void DrawShape(ShapePrimitive draw, Drawable* drawable, DrawGc* gc, const PTRNDATA& item) {
-  const ItemBox box = BoxOf(item);
+  const ItemBox box = ItemBoxOf(item);
   draw(drawable, gc, box.X1, box.Y1, box.X2, box.Y2, BoundedWidth(item.Parm[ShapeSlot::Width]),
        item.Parm[ShapeSlot::Position], SystemColour(item, ShapeSlot::LineColour),
        OptionalColour(item.Parm[ShapeSlot::Filled], SystemColour(item, ShapeSlot::FillColour)));
@@ -18,7 +18,7 @@ void DrawShape(ShapePrimitive draw, Drawable* drawable, DrawGc* gc, const PTRNDA
 }  // namespace
 
 void DrawPtrnData01(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
-  const ItemBox box = BoxOf(*item);
+  const ItemBox box = ItemBoxOf(*item);
   DrawGbox(
       drawable, gc, box.X1, box.Y1, box.X2, box.Y2, BoundedWidth(item->Parm[FrameSlot::TopWidth]),
       BoundedWidth(item->Parm[FrameSlot::BottomWidth]),
@@ -31,7 +31,7 @@ void DrawPtrnData01(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
 void DrawPtrnData02(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
   const gint width = BoundedWidth(item->Parm[LineSlot::Width]);
   if (width <= 0) return;
-  const ItemBox line = BoxOf(*item);
+  const ItemBox line = ItemBoxOf(*item);
   DrawLine(drawable, gc, line.X1, line.Y1, line.X2, line.Y2, item->Parm[LineSlot::Style], width,
            item->Parm[LineSlot::Position], SystemColour(*item, LineSlot::Colour));
 }

@@ -41,8 +41,8 @@ void DrawPageData(Drawable* drawable, DrawGc* gc) {
   const PageArea page;
   if (page.TitleHeight > 0) {
     if (page.Width > 0) {
-      FillBox(drawable, gc, {0, 0, page.Width, page.TitleHeight},
-              PtrnHedr.Parm1[HedrSlot::TitleAreaColour]);
+      FillArea(drawable, gc, {0, 0, page.Width, page.TitleHeight},
+               PtrnHedr.Parm1[HedrSlot::TitleAreaColour]);
     }
     DrawPageData1(drawable, gc);
     DrawPageData2(drawable, gc);

@@ -35,8 +35,8 @@ void DrawWorkArea(Drawable* drawable, DrawGc* gc, const PageArea& page) {
   } else if (PtrnHedr.Parm1[HedrSlot::Gradation] != 0) {
     DrawGradation(drawable, page);
   } else {
-    FillBox(drawable, gc, {0, page.TitleHeight, page.Width, page.Height - page.ButtonHeight},
-            PtrnHedr.Parm1[HedrSlot::WorkAreaColour]);
+    FillArea(drawable, gc, {0, page.TitleHeight, page.Width, page.Height - page.ButtonHeight},
+             PtrnHedr.Parm1[HedrSlot::WorkAreaColour]);
   }
 }
 
@@ -46,8 +46,8 @@ void DrawPageData3(Drawable* drawable, DrawGc* gc) {
   const PageArea page;
   DrawWorkArea(drawable, gc, page);
   if (page.ButtonHeight > 0 && page.Width > 0) {
-    FillBox(drawable, gc, {0, page.Height - page.ButtonHeight, page.Width, page.Height},
-            PtrnHedr.Parm1[HedrSlot::ButtonAreaColour]);
+    FillArea(drawable, gc, {0, page.Height - page.ButtonHeight, page.Width, page.Height},
+             PtrnHedr.Parm1[HedrSlot::ButtonAreaColour]);
   }
   const gint frameWidth = BoundedWidth(PtrnHedr.Parm1[HedrSlot::FrameWidth]);
   if (frameWidth != 0) {

@@ -45,7 +45,7 @@ void DrawMoveData(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint zoo
 void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
                     gint zoom) {
   const Outline outline{drawable, gc, OutlineColour(undefined)};
-  const ItemBox box = Zoomed(BoxOf(*item), zoom);
+  const ItemBox box = Zoomed(ItemBoxOf(*item), zoom);
   outline.Rectangle(box);
   if (undefined != 0) return;
   outline.RoundHandle(box.X1, box.Y1);
@@ -61,7 +61,7 @@ void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint u
 void DrawMoveData02(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
                     gint zoom) {
   const Outline outline{drawable, gc, OutlineColour(undefined)};
-  const ItemBox line = Zoomed(BoxOf(*item), zoom);
+  const ItemBox line = Zoomed(ItemBoxOf(*item), zoom);
   outline.Line(line.X1, line.Y1, line.X2, line.Y2);
   if (undefined != 0) return;
   outline.RoundHandle(line.X1, line.Y1);
@@ -71,7 +71,7 @@ void DrawMoveData02(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint u
 void DrawMoveData04(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
                     gint zoom) {
   const Outline outline{drawable, gc, OutlineColour(undefined)};
-  const ItemBox box = Zoomed(BoxOf(*item), zoom);
+  const ItemBox box = Zoomed(ItemBoxOf(*item), zoom);
   outline.Ellipse(box);
   if (undefined != 0) return;
   outline.RoundHandle(box.MiddleX(), box.Y1);

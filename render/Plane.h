@@ -38,7 +38,7 @@ struct ItemBox {
   gint Height() const { return Y2 - Y1; }
 };
 
-inline ItemBox BoxOf(const PTRNDATA& item) {
+inline ItemBox ItemBoxOf(const PTRNDATA& item) {
   const POINT first = OnPlane(POINT{item.Point1});
   const POINT second = OnPlane(POINT{item.Point2});
   return {first.x, first.y, second.x, second.y};
