@@ -66,7 +66,7 @@ TEST_F(GoldenItems, Lines) {
 }
 
 TEST_F(GoldenItems, RectanglesAndEllipses) {
-  Drawable& sheet = Sheet(330, 220);
+  Drawable& sheet = Sheet(350, 220);
   for (const gint type : {gint{TypeRectangle}, gint{TypeEllipse}}) {
     const gint top = type == TypeRectangle ? 15 : 120;
     for (gint position = 0; position < 3; ++position) {
@@ -117,6 +117,7 @@ TEST_F(GoldenItems, Texts) {
 
 TEST_F(GoldenItems, Buttons) {
   Drawable& sheet = Sheet(330, 190);
+  PaintBack(sheet, Ink::Cream);
   Paint(ButtonItem(10, 10, 100, 40, Font16, 1, "起動"));
   Paint(ButtonItem(110, 10, 210, 40, Font16, 3, "Start"));
   Paint(ButtonItem(220, 10, 320, 40, Font12, 0, "枠なし"));
@@ -166,8 +167,8 @@ TEST_F(GoldenItems, BitmapsMarksAndSpinButtons) {
   Paint(BitmapItem(10, 10, 42, 34, 0));
   Paint(BitmapItem(60, 10, 92, 34, 1));
   Paint(BitmapItem(110, 10, 206, 82, 0));
-  Paint(BitmapItem(220, 10, 316, 82, 1));
-  Paint(BitmapItem(350, 60, 330, 10, 0));  // absolute size from the first point
+  Paint(BitmapItem(215, 10, 311, 82, 1));
+  Paint(BitmapItem(335, 20, 315, 70, 0));  // absolute size from the first point
   Paint(BitmapItem(370, 10, 410, 50, 0, "missing.png"));
   gint x = 10;
   for (const gint mark : {SceneMark::Stripes16x32, SceneMark::Disc32x32, SceneMark::Wedge64x32,

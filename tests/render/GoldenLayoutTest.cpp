@@ -19,7 +19,7 @@ class GoldenLayout : public testing::Test {
 };
 
 TEST_F(GoldenLayout, WithEverythingInItsTitleArea) {
-  SetHeader(420, 120);
+  SetHeader(500, 120);
   SetTitleArea(32, "中央監視 MONITOR");
   SetButtonArea(24);
   SetFrame(4);
@@ -76,13 +76,13 @@ TEST_F(GoldenLayout, WithABackgroundPictureBeforeGradation) {
 }
 
 TEST_F(GoldenLayout, InEveryLanguage) {
-  SetHeader(220, 60);
+  SetHeader(300, 60);
   SetTitleArea(24, "日本語");
   CopyText(PtrnHedr.PtrnName2, Euc("English"));
   CopyText(PtrnHedr.PtrnName3, Euc("Русский"));
   PTRNDATA texts[] = {TextItem(TypeFixedString, 6, 32, Font16, {}, "温度"),
-                      ButtonItem(70, 30, 140, 54, Font16, 2, "開始"),
-                      ChoiceItem(TypeCheckBox, 146, 32, Font16, 0, "手動")};
+                      ButtonItem(100, 30, 190, 54, Font16, 2, "開始"),
+                      ChoiceItem(TypeCheckBox, 206, 32, Font16, 0, "手動")};
   const char* const english[] = {"Heat", "Start", "Manual"};
   const char* const russian[] = {"Тепло", "Пуск", "Ручн"};
   for (std::size_t no = 0; no < 3; ++no) {
@@ -90,11 +90,11 @@ TEST_F(GoldenLayout, InEveryLanguage) {
     CopyText(texts[no].Text3, Euc(russian[no]));
     AddPtrnData(&texts[no]);
   }
-  Drawable sheet(220, 180);
+  Drawable sheet(300, 180);
   for (Language = 0; Language < 3; ++Language) {
     const auto picture = PaintLayout();
     for (gint y = 0; y < 60; ++y) {
-      std::copy_n(picture->Row(y), 220, sheet.Row(Language * 60 + y));
+      std::copy_n(picture->Row(y), 300, sheet.Row(Language * 60 + y));
     }
   }
   ExpectGolden(sheet, "languages");

@@ -13,6 +13,7 @@ class Overlay : public testing::Test {
   Overlay() {
     SetHeader(200, 120);
     PtrnHedr.Parm2[ViewSlot::GridColour] = Ink::Blue;
+    DrawSceneMarks();
   }
 
   // The overlay alone on white.
@@ -65,7 +66,7 @@ TEST_F(Overlay, ShowsHandlesOfEveryOutline) {
   text.Size = {48, 16};
   draw(text, 100);
   draw(MakeItem(TypeButton, 10, 60, 50, 105), 200);
-  draw(MakeItem(TypeEllipse, 200, 200, 380, 400), 50);
+  draw(MakeItem(TypeEllipse, 230, 200, 390, 400), 50);
   draw(MakeItem(TypeMark, 311, 200, 390, 280), 75);
   text.Point1 = {62, 25};
   text.Size = {9, 3};
@@ -90,7 +91,6 @@ TEST_F(Overlay, ShowsIncompleteItemsInRedWithoutHandles) {
 }
 
 TEST_F(Overlay, ShowsTheAreaAndTheItemInHandOverTheZoomedLayout) {
-  DrawSceneMarks();
   MakeSampleLayout();
   PtrnMode = ModeArea;
   AreaPoint1 = {100, 90};

@@ -95,6 +95,7 @@ class Scene {
     PtrnData = PTRNDATA{};
     std::memset(BmapPath, 0, sizeof BmapPath);
     std::memset(MarkData, 0, sizeof MarkData);
+    SetDrawMark();
     PtrnMode = ModeIdle;
     PtrnUndef = 0;
     ColorCode = 0;
