@@ -1,0 +1,146 @@
+// The pixel editor of one mark.
+#include <cmath>
+
+#include "dialogs/DialogWindow.h"
+#include "dialogs/Editors.h"
+
+namespace {
+
+constexpr gint Cell = 8;  // screen dots per mark pixel
+
+struct MarkEdit {
+  GtkWidget* Dialog;
+  GtkWidget* ActualSize;
+  GtkWidget* Enlarged;
+  MARKBOX* Marks;
+  gint Number;
+  SIZE Size;
+  MARKDATA Data;
+  gint Result;
+};
+
+gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
+  DrawMarkData(view, cairo, edit->Number, edit->Data);
+  return TRUE;
+}
+
+void PaintGridLine(cairo_t* cairo, gint index, double x1, double y1, double x2, double y2) {
+  constexpr double Dashes[] = {1, 1};
+  cairo_set_dash(cairo, Dashes, index % Cell == 0 ? 0 : 2, 0);
+  cairo_move_to(cairo, x1 + 0.5, y1 + 0.5);
+  cairo_line_to(cairo, x2 + 0.5, y2 + 0.5);
+  cairo_stroke(cairo);
+}
+
+gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdit* edit) {
+  const gint width = edit->Size.cx;
+  const gint height = edit->Size.cy;
+  cairo_set_antialias(cairo, CAIRO_ANTIALIAS_NONE);
+  cairo_set_line_width(cairo, 1);
+  cairo_set_source_rgb(cairo, 0, 0, 0);
+  for (gint i = 0; i <= width; ++i) PaintGridLine(cairo, i, i * Cell, 0, i * Cell, height * Cell);
+  for (gint j = 0; j <= height; ++j) PaintGridLine(cairo, j, 0, j * Cell, width * Cell, j * Cell);
+  for (gint y = 0; y < height; ++y)
+    for (gint x = 0; x < width; ++x) {
+      const double shade = MarkDataGet(edit->Number, &edit->Data, x, y) != 0 ? 0.0 : 1.0;
+      cairo_set_source_rgb(cairo, shade, shade, shade);
+      cairo_rectangle(cairo, Cell * x + 1, Cell * y + 1, 6, 6);
+      cairo_fill(cairo);
+    }
+  return TRUE;
+}
+
+void SetPixel(MarkEdit* edit, gint px, gint py, gint data) {
+  MarkDataSet(edit->Number, &edit->Data, px / Cell, py / Cell, data);
+  gtk_widget_queue_draw_area(edit->Enlarged, px / Cell * Cell, py / Cell * Cell, Cell, Cell);
+  gtk_widget_queue_draw(edit->ActualSize);
+}
+
+// A press on the right or bottom border passes, a motion there does not; the pixel beyond the mark
+// that such a press addresses does not exist.
+gboolean MakeMarkData_Button(GtkWidget* /*view*/, const GdkEventButton* event, MarkEdit* edit) {
+  if (event->type != GDK_BUTTON_PRESS || (event->button != 1 && event->button != 3)) return TRUE;
+  const gint px = static_cast<gint>(std::lround(event->x));
+  const gint py = static_cast<gint>(std::lround(event->y));
+  if (px >= 0 && px <= edit->Size.cx * Cell && py >= 0 && py <= edit->Size.cy * Cell)
+    SetPixel(edit, px, py, event->button == 1 ? 1 : 0);
+  return TRUE;
+}
+
+gboolean MakeMarkData_Motion(GtkWidget* /*view*/, const GdkEventMotion* event, MarkEdit* edit) {
+  gdk_event_request_motions(event);
+  const bool draw = (event->state & GDK_BUTTON1_MASK) != 0;
+  const bool erase = (event->state & GDK_BUTTON3_MASK) != 0;
+  const gint px = static_cast<gint>(std::floor(event->x));
+  const gint py = static_cast<gint>(std::floor(event->y));
+  if ((draw || erase) && px >= 0 && px < edit->Size.cx * Cell && py >= 0 &&
+      py < edit->Size.cy * Cell)
+    SetPixel(edit, px, py, draw ? 1 : 0);
+  return TRUE;
+}
+
+void MakeMarkData_OK(GtkWidget* /*button*/, MarkEdit* edit) {
+  edit->Result = 1;
+  gtk_widget_destroy(edit->Dialog);
+}
+
+void MakeMarkData_CAN(GtkWidget* /*button*/, MarkEdit* edit) {
+  gtk_widget_destroy(edit->Dialog);
+}
+
+// Takes another mark over from the top-left corner; what does not fit is cut.
+void MakeMarkData_Search(GtkWidget* /*button*/, MarkEdit* edit) {
+  const gint source = Dlg_MarkSearch(edit->Dialog, edit->Marks);
+  if (source == -1) return;
+  const MARKDATA from = edit->Marks[source].mark;
+  edit->Data = {};
+  for (gint y = 0; y < edit->Size.cy; ++y)
+    for (gint x = 0; x < edit->Size.cx; ++x)
+      MarkDataSet(edit->Number, &edit->Data, x, y, MarkDataGet(source, &from, x, y));
+  gtk_widget_queue_draw(edit->ActualSize);
+  gtk_widget_queue_draw(edit->Enlarged);
+}
+
+GtkWidget* NewView(gint width, gint height, GCallback draw, MarkEdit* edit) {
+  GtkWidget* view = gtk_drawing_area_new();
+  gtk_widget_set_size_request(view, width, height);
+  gtk_widget_set_halign(view, GTK_ALIGN_START);
+  gtk_widget_set_valign(view, GTK_ALIGN_START);
+  g_signal_connect(view, "draw", draw, edit);
+  return view;
+}
+
+void AddViews(GtkWidget* content, MarkEdit* edit) {
+  const SIZE size = edit->Size;
+  edit->ActualSize = NewView(size.cx + 32, size.cy + 8, G_CALLBACK(MakeMarkData_Expose1), edit);
+  edit->Enlarged =
+      NewView(size.cx * Cell + 2, size.cy * Cell + 2, G_CALLBACK(MakeMarkData_Expose2), edit);
+  gtk_widget_add_events(edit->Enlarged, GDK_BUTTON_PRESS_MASK | GDK_BUTTON_MOTION_MASK |
+                                            GDK_POINTER_MOTION_HINT_MASK);
+  g_signal_connect(edit->Enlarged, "button-press-event", G_CALLBACK(MakeMarkData_Button), edit);
+  g_signal_connect(edit->Enlarged, "motion-notify-event", G_CALLBACK(MakeMarkData_Motion), edit);
+  GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
+  gtk_container_set_border_width(GTK_CONTAINER(box), 10);
+  gtk_box_pack_start(GTK_BOX(box), edit->ActualSize, FALSE, FALSE, 0);
+  gtk_box_pack_start(GTK_BOX(box), edit->Enlarged, FALSE, FALSE, 0);
+  gtk_box_pack_start(GTK_BOX(content), box, TRUE, TRUE, 0);
+  gtk_widget_show_all(box);
+}
+
+}  // namespace
+
+gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox) {
+  const DialogWindow window = NewDialogWindow("マーク作成");
+  MarkEdit edit = {
+      window.Window,        nullptr, nullptr, markbox, markno, MarkDataSize[markno / 50],
+      markbox[markno].mark, 0};
+  gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
+  gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
+  AddViews(window.Content, &edit);
+  AddDialogButton(window, "設定", G_CALLBACK(MakeMarkData_OK), &edit);
+  AddDialogButton(window, "参照", G_CALLBACK(MakeMarkData_Search), &edit);
+  AddDialogButton(window, "取消", G_CALLBACK(MakeMarkData_CAN), &edit);
+  RunModal(window.Window, parent);
+  if (edit.Result == 1) markbox[markno].mark = edit.Data;
+  return edit.Result;
+}
