@@ -1,5 +1,8 @@
 #include "dialogs/Cells.h"
 
+#include "layout/Screen.h"
+#include "layout/Store.h"
+
 void PlaceControl(GtkWidget* table, GtkWidget* control, gint line, gint culm1, gint culm2) {
   gtk_widget_set_hexpand(control, TRUE);
   gtk_widget_set_vexpand(control, TRUE);
@@ -30,4 +33,8 @@ void KeepWidget(GtkWidget** slot, GtkWidget* widget) {
   *slot = widget;
   if (widget != nullptr)
     g_object_add_weak_pointer(G_OBJECT(widget), reinterpret_cast<gpointer*>(slot));
+}
+
+void RedrawLayout() {
+  if (PtrnFlag != 0) DrawRequest(1);
 }

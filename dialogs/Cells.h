@@ -29,6 +29,8 @@ GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding);
 void KeepWidget(GtkWidget** slot, GtkWidget* widget);
 // Shows record bytes in the entry of a text row without writing them back.
 void ShowRecordText(GtkWidget* entry, const gchar* text);
+// Renders an open layout anew after its colours or marks have changed.
+void RedrawLayout();
 
 // Bound integers may lie at odd addresses of a packed record.
 inline gint LoadInt(const gint* bound) {

@@ -47,8 +47,12 @@ void SetDialogParent(GtkWidget* window, GtkWidget* parent) {
 }
 
 void RunModal(GtkWidget* window, GtkWidget* parent) {
-  SetDialogParent(window, parent);
   gtk_window_set_modal(GTK_WINDOW(window), TRUE);
+  RunModeless(window, parent);
+}
+
+void RunModeless(GtkWidget* window, GtkWidget* parent) {
+  SetDialogParent(window, parent);
   GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
   g_signal_connect_swapped(window, "destroy", G_CALLBACK(g_main_loop_quit), loop);
   gtk_widget_show(window);

@@ -18,3 +18,5 @@ GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCall
 void SetDialogParent(GtkWidget* window, GtkWidget* parent);
 // Shows the window, holds the grab and returns when the window has been destroyed.
 void RunModal(GtkWidget* window, GtkWidget* parent);
+// The same without the grab: the windows below stay usable.
+void RunModeless(GtkWidget* window, GtkWidget* parent);

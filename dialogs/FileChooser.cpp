@@ -11,6 +11,7 @@
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/FolderTree.h"
+#include "dialogs/NameList.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Text.h"
@@ -22,7 +23,6 @@ gint FileType = 0;
 
 namespace {
 
-enum Column { LabelColumn, PathColumn, ColumnCount };
 constexpr gint PictureType = 2;
 
 constexpr const gchar* ProjectPatterns[] = {"*.prj"};
@@ -42,20 +42,15 @@ gint CheckFileType(const gchar* filename) {
   return 0;
 }
 
-GtkListStore* ListRows() {
-  return GTK_LIST_STORE(gtk_tree_view_get_model(GTK_TREE_VIEW(FileList)));
-}
-
 void AddFile(const std::string& path, const gchar* name) {
   gchar base[PathSize];
   CopyText(base, name);
   if (FileType != PictureType) SplitPath(name, nullptr, base, nullptr);
-  gtk_list_store_insert_with_values(ListRows(), nullptr, -1, LabelColumn, DisplayText(base).c_str(),
-                                    PathColumn, path.c_str(), -1);
+  AddName(FileList, base, path);
 }
 
 void ClearFiles() {
-  gtk_list_store_clear(ListRows());
+  ClearNames(FileList);
   SelectedFile[0] = '\0';
   gtk_widget_set_sensitive(FileSelect_Button, FALSE);
 }
@@ -80,15 +75,8 @@ void FileSelect_Folder(const std::string& path) {
 }
 
 void FileSelect_File(GtkTreeSelection* selection, gpointer /*data*/) {
-  GtkTreeModel* model = nullptr;
-  GtkTreeIter row;
-  gchar* path = nullptr;
-  if (gtk_tree_selection_get_selected(selection, &model, &row))
-    gtk_tree_model_get(model, &row, PathColumn, &path, -1);
-  CopyText(SelectedFile, path != nullptr ? path : "");
-  g_free(path);
-  if (FileSelect_Button != nullptr)
-    gtk_widget_set_sensitive(FileSelect_Button, SelectedFile[0] != '\0');
+  CopyText(SelectedFile, SelectedName(GTK_WIDGET(gtk_tree_selection_get_tree_view(selection))));
+  gtk_widget_set_sensitive(FileSelect_Button, SelectedFile[0] != '\0');
 }
 
 void FileSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
@@ -106,20 +94,6 @@ void FileSelect_Activate(GtkTreeView* view, GtkTreePath* /*path*/, GtkTreeViewCo
   FileSelect_OK(nullptr, gtk_widget_get_toplevel(GTK_WIDGET(view)));
 }
 
-GtkWidget* NewFileList() {
-  GtkListStore* store = gtk_list_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING);
-  GtkWidget* view = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
-  g_object_unref(store);
-  gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(view), FALSE);
-  gtk_tree_view_insert_column_with_attributes(
-      GTK_TREE_VIEW(view), -1, nullptr, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
-  g_signal_connect(gtk_tree_view_get_selection(GTK_TREE_VIEW(view)), "changed",
-                   G_CALLBACK(FileSelect_File), nullptr);
-  g_signal_connect(view, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
-  gtk_widget_show(view);
-  return view;
-}
-
 }  // namespace
 
 gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type) {
@@ -130,7 +104,9 @@ gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type) {
   const DialogWindow dialog =
       NewChooserWindow(title, G_CALLBACK(FileSelect_OK), G_CALLBACK(FileSelect_CAN), &button);
   KeepWidget(&FileSelect_Button, button);
-  KeepWidget(&FileList, NewFileList());
+  KeepWidget(&FileList, NewNameList());
+  OnNameSelected(FileList, G_CALLBACK(FileSelect_File), dialog.Window);
+  g_signal_connect(FileList, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
 
   GtkWidget* halves = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
   gtk_box_set_homogeneous(GTK_BOX(halves), TRUE);

@@ -1,6 +1,7 @@
 // The dialogs that show all marks: settings, picker, and the source of a copy.
 #include <memory>
 
+#include "dialogs/Cells.h"
 #include "dialogs/MarkSet.h"
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
@@ -36,6 +37,7 @@ void EditPickedMark(GtkWidget* swatch, gint number) {
   if (MakeMarkData(MarkSlct, number, Dlg_MarkBox->data()) != 1) return;
   MarkData[number] = (*Dlg_MarkBox)[static_cast<gsize>(number)].mark;
   SaveMarkFile();
+  RedrawLayout();
   gtk_widget_queue_draw(swatch);
 }
 
@@ -71,6 +73,7 @@ void EditMarkData(GtkWidget* parent, gpointer data) {
     for (gsize number = 0; number < EditMarkBox->size(); ++number)
       MarkData[number] = (*EditMarkBox)[number].mark;
     SaveMarkFile();
+    RedrawLayout();
   }
   EditMarkBox.reset();
 }

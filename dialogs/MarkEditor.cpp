@@ -1,5 +1,7 @@
 // The pixel editor of one mark.
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
@@ -17,6 +19,7 @@ struct MarkEdit {
   SIZE Size;
   MARKDATA Data;
   gint Result;
+  POINT Last;  // mark pixel under the latest press or drag
 };
 
 gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
@@ -50,10 +53,20 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
   return TRUE;
 }
 
-void SetPixel(MarkEdit* edit, gint px, gint py, gint data) {
-  MarkDataSet(edit->Number, &edit->Data, px / Cell, py / Cell, data);
-  gtk_widget_queue_draw_area(edit->Enlarged, px / Cell * Cell, py / Cell * Cell, Cell, Cell);
+void SetPixel(MarkEdit* edit, gint x, gint y, gint data) {
+  MarkDataSet(edit->Number, &edit->Data, x, y, data);
+  gtk_widget_queue_draw_area(edit->Enlarged, x * Cell, y * Cell, Cell, Cell);
   gtk_widget_queue_draw(edit->ActualSize);
+}
+
+// Every pixel from the latest one to (x, y), so that a fast drag leaves no gaps.
+void SetPixelsTo(MarkEdit* edit, gint x, gint y, gint data) {
+  const gint dx = x - edit->Last.x;
+  const gint dy = y - edit->Last.y;
+  const gint steps = std::max({std::abs(dx), std::abs(dy), 1});
+  for (gint step = 1; step <= steps; ++step)
+    SetPixel(edit, edit->Last.x + dx * step / steps, edit->Last.y + dy * step / steps, data);
+  edit->Last = {x, y};
 }
 
 // A press on the right or bottom border passes, a motion there does not; the pixel beyond the mark
@@ -62,8 +75,10 @@ gboolean MakeMarkData_Button(GtkWidget* /*view*/, const GdkEventButton* event, M
   if (event->type != GDK_BUTTON_PRESS || (event->button != 1 && event->button != 3)) return TRUE;
   const gint px = static_cast<gint>(std::lround(event->x));
   const gint py = static_cast<gint>(std::lround(event->y));
-  if (px >= 0 && px <= edit->Size.cx * Cell && py >= 0 && py <= edit->Size.cy * Cell)
-    SetPixel(edit, px, py, event->button == 1 ? 1 : 0);
+  if (px >= 0 && px <= edit->Size.cx * Cell && py >= 0 && py <= edit->Size.cy * Cell) {
+    edit->Last = {px / Cell, py / Cell};
+    SetPixel(edit, edit->Last.x, edit->Last.y, event->button == 1 ? 1 : 0);
+  }
   return TRUE;
 }
 
@@ -75,7 +90,7 @@ gboolean MakeMarkData_Motion(GtkWidget* /*view*/, const GdkEventMotion* event, M
   const gint py = static_cast<gint>(std::floor(event->y));
   if ((draw || erase) && px >= 0 && px < edit->Size.cx * Cell && py >= 0 &&
       py < edit->Size.cy * Cell)
-    SetPixel(edit, px, py, draw ? 1 : 0);
+    SetPixelsTo(edit, px / Cell, py / Cell, draw ? 1 : 0);
   return TRUE;
 }
 
@@ -133,7 +148,7 @@ gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox) {
   const DialogWindow window = NewDialogWindow("マーク作成");
   MarkEdit edit = {
       window.Window,        nullptr, nullptr, markbox, markno, MarkDataSize[markno / 50],
-      markbox[markno].mark, 0};
+      markbox[markno].mark, 0,       {0, 0}};
   gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   AddViews(window.Content, &edit);

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
 #include "layout/Mouse.h"
@@ -91,6 +92,7 @@ void EditPickedColour(GtkWidget* box, gint number) {
   if (MakeColrData(ColrSlct.Window, number, ColrSlct.Boxes.data()) != 1) return;
   ColrData[number] = ColrSlct.Boxes[static_cast<gsize>(number)].colr;
   SaveColrFile();
+  RedrawLayout();
   gtk_widget_queue_draw(box);
 }
 
@@ -136,6 +138,7 @@ void EditColrData(GtkWidget* parent, gpointer data) {
   std::transform(EditColr.Boxes.begin(), EditColr.Boxes.end(), ColrData,
                  [](const COLRBOX& entry) { return entry.colr; });
   SaveColrFile();
+  RedrawLayout();
 }
 
 gint Dlg_ColrSelect(GtkWidget* parent) {

@@ -12,6 +12,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
+#include "dialogs/NameList.h"
 #include "dialogs/ToolBox.h"
 #include "layout/Registry.h"
 #include "layout/Screen.h"
@@ -23,7 +24,6 @@ gchar SelectList[256];
 
 namespace {
 
-enum Column { LabelColumn, TextColumn, ColumnCount };
 enum ListKind { LayoutNames = 0, Codes = 1, FirstStrings = 2 };
 
 // Names of the project's layouts, in the folder's own order.
@@ -67,13 +67,7 @@ std::vector<std::string> ListOfKind(gint kind) {
 // An empty row is no choice: the picker stays.
 void ToolBoxList_Select(GtkTreeView* view, GtkTreePath* path, GtkTreeViewColumn* /*column*/,
                         gpointer /*data*/) {
-  GtkTreeModel* model = gtk_tree_view_get_model(view);
-  GtkTreeIter row;
-  gchar* text = nullptr;
-  if (gtk_tree_model_get_iter(model, &row, path))
-    gtk_tree_model_get(model, &row, TextColumn, &text, -1);
-  const std::string chosen = text != nullptr ? text : "";
-  g_free(text);
+  const std::string chosen = NameAt(GTK_WIDGET(view), path);
   if (chosen.empty()) {
     gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(view));
     return;
@@ -83,23 +77,14 @@ void ToolBoxList_Select(GtkTreeView* view, GtkTreePath* path, GtkTreeViewColumn*
 }
 
 GtkWidget* NewList(const std::vector<std::string>& texts) {
-  GtkListStore* store = gtk_list_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING);
-  for (const std::string& text : texts)
-    gtk_list_store_insert_with_values(store, nullptr, -1, LabelColumn, DisplayText(text).c_str(),
-                                      TextColumn, text.c_str(), -1);
-  GtkWidget* view = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
-  g_object_unref(store);
-  gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(view), FALSE);
+  GtkWidget* list = NewNameList();
+  for (const std::string& text : texts) AddName(list, text, text);
+  gtk_tree_view_column_set_min_width(gtk_tree_view_get_column(GTK_TREE_VIEW(list), 0), 280);
   // One click chooses. The selection alone would not do: a list that gets the keyboard focus
   // selects its first row by itself.
-  gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(view), TRUE);
-  GtkTreeViewColumn* column = gtk_tree_view_column_new_with_attributes(
-      "", gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
-  gtk_tree_view_column_set_min_width(column, 280);
-  gtk_tree_view_append_column(GTK_TREE_VIEW(view), column);
-  g_signal_connect(view, "row-activated", G_CALLBACK(ToolBoxList_Select), nullptr);
-  gtk_widget_show(view);
-  return view;
+  gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(list), TRUE);
+  g_signal_connect(list, "row-activated", G_CALLBACK(ToolBoxList_Select), nullptr);
+  return list;
 }
 
 gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
@@ -116,7 +101,7 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
 }
 
 // The text reaches the record as it is; the entry shows it.
-void TakeChoice(DLG_EDITBOX* edit, const gchar* text) {
+void TakeChoice(DLG_EDITBOX* edit, const std::string& text) {
   if (edit->entry != nullptr) gtk_entry_set_text(GTK_ENTRY(edit->entry), DisplayText(text).c_str());
   CopyText(edit->text, static_cast<gsize>(edit->size) + 1, text);
 }
@@ -147,17 +132,7 @@ void ToolBox_Text3(GtkWidget* /*widget*/, DLG_EDITBOX* edit) {
   PickFromList(edit, "固定文字列 (言語３) 選択", FirstStrings + 2);
 }
 
-// The stored name is EUC-JP, so the copy in the picture folder gets its name in EUC-JP, too.
 void ToolBox_Name(GtkWidget* /*widget*/, DLG_EDITBOX* edit) {
   const gchar* chosen = Dlg_FileSelect(ToolBox, "画像ファイル選択", 2);
-  if (*chosen == '\0') return;
-  gchar path[PathSize];
-  gchar name[PathSize];
-  gchar ext[PathSize];
-  SplitPath(chosen, path, name, ext);
-  const std::string stored = EucFromUtf8(name).value_or(name);
-  FileCopy(path, name, ext, BmapPath, stored.c_str(), ext);
-  gchar bare[PathSize];
-  MakePath(bare, "", stored.c_str(), ext);
-  TakeChoice(edit, bare);
+  if (*chosen != '\0') TakeChoice(edit, CopyToBitmapFolder(chosen));
 }

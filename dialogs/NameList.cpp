@@ -1,0 +1,65 @@
+#include "dialogs/NameList.h"
+
+#include "support/Text.h"
+
+namespace {
+
+enum Column { LabelColumn, BytesColumn, ColumnCount };
+
+GtkListStore* Rows(GtkWidget* list) {
+  return GTK_LIST_STORE(gtk_tree_view_get_model(GTK_TREE_VIEW(list)));
+}
+
+std::string BytesOf(GtkTreeModel* model, GtkTreeIter* row) {
+  gchar* bytes = nullptr;
+  gtk_tree_model_get(model, row, BytesColumn, &bytes, -1);
+  std::string result = bytes != nullptr ? bytes : "";
+  g_free(bytes);
+  return result;
+}
+
+// A list that goes away unselects its row; nobody is to hear of that.
+void StopReporting(GtkWidget* list, gpointer data) {
+  g_signal_handlers_disconnect_by_data(gtk_tree_view_get_selection(GTK_TREE_VIEW(list)), data);
+}
+
+}  // namespace
+
+GtkWidget* NewNameList() {
+  GtkListStore* store = gtk_list_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING);
+  GtkWidget* list = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
+  g_object_unref(store);
+  gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(list), FALSE);
+  gtk_tree_view_insert_column_with_attributes(
+      GTK_TREE_VIEW(list), -1, "", gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
+  gtk_widget_show(list);
+  return list;
+}
+
+void AddName(GtkWidget* list, const std::string& label, const std::string& bytes) {
+  gtk_list_store_insert_with_values(Rows(list), nullptr, -1, LabelColumn,
+                                    DisplayText(label).c_str(), BytesColumn, bytes.c_str(), -1);
+}
+
+void ClearNames(GtkWidget* list) {
+  gtk_list_store_clear(Rows(list));
+}
+
+std::string SelectedName(GtkWidget* list) {
+  GtkTreeModel* model = nullptr;
+  GtkTreeIter row;
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(list));
+  if (!gtk_tree_selection_get_selected(selection, &model, &row)) return "";
+  return BytesOf(model, &row);
+}
+
+std::string NameAt(GtkWidget* list, GtkTreePath* path) {
+  GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(list));
+  GtkTreeIter row;
+  return gtk_tree_model_get_iter(model, &row, path) ? BytesOf(model, &row) : "";
+}
+
+void OnNameSelected(GtkWidget* list, GCallback changed, gpointer data) {
+  g_signal_connect(gtk_tree_view_get_selection(GTK_TREE_VIEW(list)), "changed", changed, data);
+  g_signal_connect(list, "destroy", G_CALLBACK(StopReporting), data);
+}

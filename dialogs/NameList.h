@@ -1,0 +1,20 @@
+// A one-column list of names; each row carries bytes of its own (a path, a record text) beside what
+// it shows.
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <string>
+
+// A shown, empty list.
+GtkWidget* NewNameList();
+// Appends a row that shows `label` (record or path bytes) and carries `bytes`.
+void AddName(GtkWidget* list, const std::string& label, const std::string& bytes);
+void ClearNames(GtkWidget* list);
+// What the selected row carries, "" when none is selected.
+std::string SelectedName(GtkWidget* list);
+// What the row at `path` carries, "" when there is none.
+std::string NameAt(GtkWidget* list, GtkTreePath* path);
+// Calls `changed` (selection, data) whenever another row or none is selected, but not when the list
+// goes away.
+void OnNameSelected(GtkWidget* list, GCallback changed, gpointer data);

@@ -1,0 +1,77 @@
+// The dialog that decides what becomes of a changed layout.
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "dialogs/Cells.h"
+#include "dialogs/Kit.h"
+#include "dialogs/NameList.h"
+#include "layout/Screen.h"
+#include "layout/Store.h"
+#include "layout/dialog/LayoutList.h"
+#include "layout/dialog/LayoutNames.h"
+
+namespace {
+
+enum CloseResult { Cancelled = 0, Save = 1, Discard = 2 };
+
+gint PtrnFileClose_Result = Cancelled;
+GtkWidget* SaveButton = nullptr;
+GtkWidget* DiscardButton = nullptr;
+
+DLG_EDITBOX PtrnFileClose_Edit[] = {{0, 0, 0, 80, 0, PtrnFileName, nullptr},
+                                    {-1, 0, 0, 0, 0, nullptr, nullptr}};
+
+void PtrnFileClose_Entry(GtkEditable* /*entry*/, gpointer /*data*/) {
+  gtk_widget_set_sensitive(SaveButton, PtrnFileName[0] != '\0');
+  gtk_widget_set_sensitive(DiscardButton, PtrnFileName[0] != '\0');
+}
+
+// The question is about the name in the entry; the caller writes under the layout's own.
+void PtrnFileClose_Save(GtkWidget* /*button*/, GtkWidget* dialog) {
+  if (PtrnFileName[0] == '\0') return;
+  if (FileExist(ProjPath, PtrnFileName, "ptn") != 0 &&
+      Dlg_MessageBox(dialog, "レイアウト保存", "同一名称のレイアウトファイルが存在します。",
+                     "上書きしますか ？", 2) != 1)
+    return;
+  PtrnFileClose_Result = Save;
+  gtk_widget_destroy(dialog);
+}
+
+void PtrnFileClose_Delete(GtkWidget* /*button*/, GtkWidget* dialog) {
+  PtrnFileClose_Result = Discard;
+  gtk_widget_destroy(dialog);
+}
+
+void PtrnFileClose_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
+  PtrnFileClose_Result = Cancelled;
+  gtk_widget_destroy(dialog);
+}
+
+void AddNameEntry(const DialogWindow& dialog) {
+  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel("画面/帳票名"), FALSE, FALSE, 0);
+  GtkWidget* table = gtk_grid_new();
+  Dlg_EditBox(dialog.Window, table, PtrnFileClose_Edit);
+  g_signal_connect(PtrnFileClose_Edit[0].entry, "changed", G_CALLBACK(PtrnFileClose_Entry),
+                   nullptr);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), table, FALSE, FALSE, 0);
+  gtk_widget_show(table);
+}
+
+}  // namespace
+
+gint PtrnFileClose(GtkWidget* parent) {
+  PtrnFileClose_Result = Cancelled;
+  CopyText(PtrnFileName, FieldText(PtrnName));
+  const DialogWindow dialog = NewDialogWindow("レイアウトを閉じる");
+  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
+  AddNameEntry(dialog);
+  GtkWidget* list = NewNameList();
+  AddLayoutList(dialog, list);
+  ListLayouts(list, false);
+  KeepWidget(&SaveButton,
+             AddDialogButton(dialog, " 保存 ", G_CALLBACK(PtrnFileClose_Save), dialog.Window));
+  KeepWidget(&DiscardButton,
+             AddDialogButton(dialog, " 破棄 ", G_CALLBACK(PtrnFileClose_Delete), dialog.Window));
+  AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileClose_CAN), dialog.Window);
+  RunModal(dialog.Window, parent);
+  return PtrnFileClose_Result;
+}

@@ -1,0 +1,76 @@
+// The settings dialog of a layout, over the working copy EditHedr.
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "dialogs/Cells.h"
+#include "dialogs/Choosers.h"
+#include "dialogs/DialogWindow.h"
+#include "layout/ItemSlots.h"
+#include "layout/Screen.h"
+#include "layout/Store.h"
+#include "layout/dialog/LayoutSettingsPages.h"
+
+namespace {
+
+gint EditPtrnData_Result = 0;
+
+void EditPtrnData_OK(GtkWidget* /*button*/, GtkWidget* window) {
+  if (EditPtrnData_Check() == 0) return;
+  EditPtrnData_Renew();
+  EditPtrnData_Result = 1;
+  gtk_widget_destroy(window);
+}
+
+void EditPtrnData_CAN(GtkWidget* /*button*/, GtkWidget* window) {
+  EditPtrnData_Result = 0;
+  gtk_widget_destroy(window);
+}
+
+void EditPtrnData_Bmap(GtkWidget* button, DLG_EDITBOX* edit) {
+  const gchar* chosen = Dlg_FileSelect(gtk_widget_get_toplevel(button), "画像ファイル選択", 2);
+  if (*chosen == '\0') return;
+  const std::string name = CopyToBitmapFolder(chosen);
+  CopyText(edit->text, static_cast<gsize>(edit->size) + 1, name);
+  if (edit->entry != nullptr) ShowRecordText(edit->entry, edit->text);
+}
+
+void AddBrowseButton(GtkWidget* table, DLG_EDITBOX* edit) {
+  GtkWidget* button = gtk_button_new_with_label("参照");
+  g_signal_connect(button, "clicked", G_CALLBACK(EditPtrnData_Bmap), edit);
+  gtk_grid_attach(GTK_GRID(table), button, 4, edit->line, 1, 1);
+  gtk_widget_show(button);
+}
+
+GtkWidget* NewPage(const DialogWindow& dialog, const LayoutPage& page) {
+  GtkWidget* table = gtk_grid_new();
+  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
+  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
+  gtk_grid_set_column_spacing(GTK_GRID(table), 15);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
+  gtk_widget_show(table);
+  Dlg_String(dialog.Window, table, page.String);
+  Dlg_EditBox(dialog.Window, table, page.Edit);
+  Dlg_NumrBox(dialog.Window, table, page.Numr);
+  Dlg_ComboBox(dialog.Window, table, page.Combo);
+  Dlg_RadioButn(dialog.Window, table, page.Radio);
+  Dlg_CheckButn(dialog.Window, table, page.Check);
+  Dlg_ColrData(dialog.Window, table, page.Colr);
+  if (page.Bitmap != nullptr) AddBrowseButton(table, page.Bitmap);
+  return table;
+}
+
+}  // namespace
+
+gint EditPtrnData(GtkWidget* parent) {
+  EditPtrnData_Result = 0;
+  const LayoutPage page = PageOfKind(EditHedr.Parm1[HedrSlot::Kind]);
+  const DialogWindow dialog = NewDialogWindow(page.Title);
+  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
+  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
+  EditLayoutWindow = dialog.Window;
+  NewPage(dialog, page);
+  AddDialogButton(dialog, " 設定 ", G_CALLBACK(EditPtrnData_OK), dialog.Window);
+  AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditPtrnData_CAN), dialog.Window);
+  RunModal(dialog.Window, parent);
+  EditLayoutWindow = nullptr;
+  return EditPtrnData_Result;
+}

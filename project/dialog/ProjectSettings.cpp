@@ -1,0 +1,194 @@
+// The project settings dialog. It edits working copies; its callers take them over.
+#include <string>
+
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "dialogs/Cells.h"
+#include "dialogs/Choosers.h"
+#include "dialogs/DialogWindow.h"
+#include "dialogs/Editors.h"
+#include "layout/Screen.h"
+#include "project/dialog/ProjectSettingsPages.h"
+#include "support/FileTools.h"
+
+namespace {
+
+enum Result { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
+
+GtkWidget* EditProj = nullptr;
+gint EditResult = Cancelled;
+// Folder that a logo was chosen from, "" while none was.
+std::string EditLogoPath;
+
+enum EditRow { NameRow, FolderRow, ProgramRow };
+
+void Finish(gint result) {
+  EditResult = result;
+  gtk_widget_destroy(EditProj);
+}
+
+gint CheckProjData() {
+  const struct {
+    bool Broken;
+    const gchar* Message;
+  } rules[] = {
+      {EditName[0] == '\0', "プロジェクト名が設定されていません。"},
+      {EditPath[0] == '\0', "プロジェクトデータを格納するフォルダーが設定されていません。"},
+      {EditData.ProgPath[0] == '\0', "ロジックデータを格納するフォルダーが設定されていません。"},
+      {EditData.Parm2[5] != 0 && EditData.LogoName[0] == '\0',
+       "ロゴマーク名称が設定されていません。"},
+      {EditData.Parm2[0] < 0 || EditData.Parm2[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm2[12] < 0 || EditData.Parm2[12] > 99, "ボタン領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm3[0] < 0 || EditData.Parm3[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm3[6] < 0 || EditData.Parm3[6] > 99, "外形枠幅 (設定範囲 0 〜 99)"},
+  };
+  for (const auto& rule : rules)
+    if (rule.Broken) {
+      Dlg_MessageBox(EditProj, "入力エラー", rule.Message, "", 1);
+      return 0;
+    }
+  return 1;
+}
+
+// A logo goes into the bitmap folder of the folder that the project will have.
+void CopyLogo() {
+  const std::string folder = JoinPath(EditPath, "Bitmap", "");
+  if (EditLogoPath.empty() || EditLogoPath == folder) return;
+  CreateFolder(folder.c_str());
+  const std::string logo(FieldText(EditData.LogoName));
+  FileCopy(EditLogoPath.c_str(), logo.c_str(), "", folder.c_str(), logo.c_str(), "");
+}
+
+void EditProjData_OK(GtkWidget* /*button*/, gpointer /*data*/) {
+  if (CheckProjData() == 0) return;
+  CopyLogo();
+  Finish(Registered);
+}
+
+void EditProjData_CAN(GtkWidget* /*button*/, gpointer /*data*/) {
+  gtk_widget_destroy(EditProj);
+}
+
+void PickFolder(DLG_EDITBOX* row, const gchar* title) {
+  const gchar* folder = Dlg_FolderSelect(EditProj, title);
+  if (*folder == '\0') return;
+  CopyText(row->text, static_cast<gsize>(row->size) + 1, folder);
+  if (row->entry != nullptr) ShowRecordText(row->entry, row->text);
+}
+
+void ProjPage1_Button1(GtkWidget* /*button*/, gpointer /*data*/) {
+  PickFolder(&ProjPage1_Edit[FolderRow], "プロジェクト領域へのパス");
+}
+
+void ProjPage1_Button2(GtkWidget* /*button*/, gpointer /*data*/) {
+  PickFolder(&ProjPage1_Edit[ProgramRow], "プログラム領域へのパス");
+}
+
+void ProjPage1_Button3(GtkWidget* /*button*/, gpointer /*data*/) {
+  EditColrData(EditProj, GINT_TO_POINTER(1));
+}
+
+void ProjPage1_Button4(GtkWidget* /*button*/, gpointer /*data*/) {
+  const std::string program(FieldText(EditData.ProgPath));
+  ProjSetDefault();
+  if (EditData.ProgPath[0] == '\0') CopyText(EditData.ProgPath, program);
+  Finish(DefaultsRestored);
+}
+
+void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
+  const gchar* chosen = Dlg_FileSelect(EditProj, "ロゴマーク選択", 2);
+  if (*chosen == '\0') return;
+  DLG_EDITBOX& row = ProjPage21_Edit[0];
+  CopyText(EditData.LogoName, CopyToBitmapFolder(chosen, &EditLogoPath));
+  if (row.entry != nullptr) ShowRecordText(row.entry, row.text);
+}
+
+GtkWidget* NewTable() {
+  GtkWidget* table = gtk_grid_new();
+  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
+  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
+  gtk_grid_set_column_spacing(GTK_GRID(table), 15);
+  gtk_widget_show(table);
+  return table;
+}
+
+GtkWidget* NewFrame(const ProjectFrame& frame) {
+  GtkWidget* table = NewTable();
+  Dlg_String(EditProj, table, frame.String);
+  Dlg_EditBox(EditProj, table, frame.Edit);
+  Dlg_NumrBox(EditProj, table, frame.Numr);
+  Dlg_ComboBox(EditProj, table, frame.Combo);
+  Dlg_RadioButn(EditProj, table, frame.Radio);
+  Dlg_CheckButn(EditProj, table, frame.Check);
+  Dlg_ColrData(EditProj, table, frame.Colr);
+  return table;
+}
+
+void AddButton(GtkWidget* table, const gchar* label, gint line, gint culm, GCallback clicked) {
+  GtkWidget* button = gtk_button_new_with_label(label);
+  gtk_widget_set_halign(button, GTK_ALIGN_START);
+  g_signal_connect(button, "clicked", clicked, nullptr);
+  gtk_grid_attach(GTK_GRID(table), button, culm, line, 1, 1);
+  gtk_widget_show(button);
+}
+
+struct FrameButton {
+  gint Page;
+  gint Frame;
+  gint Line;
+  gint Culm;
+  const gchar* Label;
+  void (*Clicked)(GtkWidget*, gpointer);
+};
+constexpr FrameButton Buttons[] = {{0, 0, 1, 4, "参照", ProjPage1_Button1},
+                                   {0, 0, 2, 4, "参照", ProjPage1_Button2},
+                                   {0, 0, 6, 1, " 表示色設定 ", ProjPage1_Button3},
+                                   {0, 0, 6, 2, " 既定値に戻す ", ProjPage1_Button4},
+                                   {1, 0, 1, 3, "参照", ProjPage2_Button}};
+
+void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
+  GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 10);
+  gtk_container_set_border_width(GTK_CONTAINER(box), 10);
+  for (gsize frame = 0; frame < page.Frames.size(); ++frame) {
+    GtkWidget* table = NewFrame(page.Frames[frame]);
+    for (const FrameButton& button : Buttons)
+      if (button.Page == number && button.Frame == static_cast<gint>(frame))
+        AddButton(table, button.Label, button.Line, button.Culm, G_CALLBACK(button.Clicked));
+    GtkWidget* shown = table;
+    if (page.Frames[frame].Title != nullptr) {
+      shown = gtk_frame_new(page.Frames[frame].Title);
+      gtk_container_add(GTK_CONTAINER(shown), table);
+      gtk_widget_show(shown);
+    }
+    gtk_box_pack_start(GTK_BOX(box), shown, FALSE, FALSE, 0);
+  }
+  gtk_widget_show(box);
+  gtk_notebook_append_page(GTK_NOTEBOOK(notebook), box, NewLabel(page.Tab));
+}
+
+}  // namespace
+
+gint EditProjData(GtkWidget* parent, const gchar* title) {
+  // The main window stays usable meanwhile, and its menu could ask for a second one.
+  if (EditProj != nullptr) {
+    gtk_window_present(GTK_WINDOW(EditProj));
+    return Cancelled;
+  }
+  EditResult = Cancelled;
+  EditLogoPath.clear();
+  const DialogWindow dialog = NewDialogWindow(title);
+  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
+  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
+  EditProj = dialog.Window;
+  GtkWidget* notebook = gtk_notebook_new();
+  gint number = 0;
+  for (const ProjectPage& page : ProjectPages()) AddPage(notebook, number++, page);
+  gtk_container_set_border_width(GTK_CONTAINER(notebook), 10);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), notebook, TRUE, TRUE, 0);
+  gtk_widget_show(notebook);
+  AddDialogButton(dialog, " 登録 ", G_CALLBACK(EditProjData_OK), nullptr);
+  AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditProjData_CAN), nullptr);
+  RunModeless(dialog.Window, parent);
+  EditProj = nullptr;
+  return EditResult;
+}
