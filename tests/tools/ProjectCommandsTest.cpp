@@ -110,7 +110,7 @@ TEST(Generate, IntoAnotherFolder) {
 TEST(Generate, TakesFontsFromTheGivenProfile) {
   const SmallProject project;
   const TempFolder other;
-  const std::string profile = other.Write("fonts.ini", "[FONT]\nFONTNAME7 = name,-a-b-c\n");
+  const std::string profile = other.Write("fonts.ini", "[FONT]\nFONTNAME7=name,-a-b-c\n");
   ASSERT_EQ(
       RunTool({"generate", project.File(), "--program-dir", other.Path(), "--profile", profile})
           .Code,

@@ -144,13 +144,13 @@ TEST(Render, LayoutsOfNoSizeGiveOnePixel) {
 TEST(Render, LeavesProjectAndProfileAlone) {
   const SmallProject project;
   const std::string profile =
-      project.Folder().Write("own.ini", "[VARNIXPACK]\nLANGUAGE = 0\n[PROJECT]\n");
+      project.Folder().Write("own.ini", "[VARNIXPACK]\nLANGUAGE=0\n[PROJECT]\n");
   const std::string before = project.Folder().Read("Plant.prj");
   ASSERT_EQ(RunTool({"render", project.File(), "--out", project.Folder().Path("out"), "--profile",
                      profile})
                 .Code,
             0);
-  EXPECT_EQ(project.Folder().Read("own.ini"), "[VARNIXPACK]\nLANGUAGE = 0\n[PROJECT]\n");
+  EXPECT_EQ(project.Folder().Read("own.ini"), "[VARNIXPACK]\nLANGUAGE=0\n[PROJECT]\n");
   EXPECT_EQ(project.Folder().Read("Plant.prj"), before);
   EXPECT_EQ(RunTool({"render", project.File(), "--out", project.Folder().Path("out"), "--profile",
                      project.Folder().Path("none.ini")})
