@@ -22,8 +22,12 @@ void KeptResources::Restore() const {
   SetDrawMark();
 }
 
+bool KeptResources::FileRewritten() const {
+  return !FileName.empty() && ReadWholeFile(FileName) != FileContent;
+}
+
 void KeptResources::RestoreFile() const {
-  if (FileContent.has_value() && ReadWholeFile(FileName) != FileContent) {
+  if (FileContent.has_value() && FileRewritten()) {
     ReplaceFile(FileName, *FileContent);
   }
 }

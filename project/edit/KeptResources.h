@@ -13,7 +13,9 @@ class KeptResources {
   KeptResources();
   // Puts palette and marks back and rebuilds what is drawn with them.
   void Restore() const;
-  // Puts the palette file back if it was rewritten meanwhile.
+  // True when the palette file was written meanwhile.
+  bool FileRewritten() const;
+  // Puts the palette file back if it was.
   void RestoreFile() const;
 
  private:

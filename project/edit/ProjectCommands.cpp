@@ -94,7 +94,12 @@ void ProjDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
   EditData = ProjData;
   CopyText(EditName, FieldText(ProjName));
   CopyText(EditPath, FieldText(ProjPath));
+  const KeptResources kept;
   if (!SettingsConfirmed()) {
+    // Restored defaults go; a palette that its own editor saved stays.
+    if (!kept.FileRewritten()) {
+      kept.Restore();
+    }
     return;
   }
   ProjFileCopy2(ProjPath, EditPath);
