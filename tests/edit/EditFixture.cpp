@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <sstream>
 
 #include "ProjData.h"
 #include "PtrnData.h"
@@ -126,10 +127,10 @@ PTRNDATA Stored(gint no) {
 }
 
 std::string PointsOf(const PTRNDATA& item) {
-  const auto text = [](const POINT& point) {
-    return "(" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
-  };
-  return text(item.Point1) + "-" + text(item.Point2);
+  std::ostringstream text;
+  text << '(' << item.Point1.x << ',' << item.Point1.y << ")-(" << item.Point2.x << ','
+       << item.Point2.y << ')';
+  return text.str();
 }
 
 gpointer Entry(gint number) {
