@@ -20,6 +20,7 @@ void ResetEditing() {
   PtrnPoint1 = PtrnPoint2 = PtrnPoint3 = AreaPoint1 = AreaPoint2 = {0, 0};
   std::fill(std::begin(PtrnUnSlct), std::end(PtrnUnSlct), 0);
   PtrnUndef = 0;
+  std::fill(std::begin(FontHeight), std::end(FontHeight), 0);
   ColorCode = 0;
   Language = 0;
   PtrnData = {};
@@ -131,6 +132,10 @@ std::string PointsOf(const PTRNDATA& item) {
   text << '(' << item.Point1.x << ',' << item.Point1.y << ")-(" << item.Point2.x << ','
        << item.Point2.y << ')';
   return text.str();
+}
+
+std::vector<gint> PointParmsOf(const PTRNDATA& item) {
+  return {item.Parm, item.Parm + 4};
 }
 
 gpointer Entry(gint number) {

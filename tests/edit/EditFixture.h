@@ -38,6 +38,8 @@ PTRNDATA MakeValidItem(gint type, gint x1, gint y1, gint x2, gint y2);
 PTRNDATA Stored(gint no);
 // "(x1,y1)-(x2,y2)" of the item.
 std::string PointsOf(const PTRNDATA& item);
+// The four parameters that hold the points.
+std::vector<gint> PointParmsOf(const PTRNDATA& item);
 // Menu data of an entry.
 gpointer Entry(gint number);
 
