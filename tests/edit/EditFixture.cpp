@@ -20,7 +20,7 @@ void ResetEditing() {
   PtrnPoint1 = PtrnPoint2 = PtrnPoint3 = AreaPoint1 = AreaPoint2 = {0, 0};
   std::fill(std::begin(PtrnUnSlct), std::end(PtrnUnSlct), 0);
   PtrnUndef = 0;
-  std::fill(std::begin(FontHeight), std::end(FontHeight), 0);
+  std::fill(std::begin(FontHeight), std::end(FontHeight), 1);
   ColorCode = 0;
   Language = 0;
   PtrnData = {};
