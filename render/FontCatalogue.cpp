@@ -12,7 +12,7 @@
 namespace {
 
 constexpr const char* DefaultRoot = "/usr/share/fonts/X11";
-constexpr int MaxAliasDepth = 8;
+constexpr int MaxAliases = 100;  // followed for one name
 
 std::string Lower(std::string_view text) {
   std::string lower(text);
@@ -128,7 +128,7 @@ void FontCatalogue::ReadFolder(const std::string& folder) {
                    [](const Entry& a, const Entry& b) { return a.name < b.name; });
 }
 
-std::string FontCatalogue::Search(const std::string& pattern, int depth) const {
+std::string FontCatalogue::Search(const std::string& pattern, int& aliasesLeft) const {
   for (const Entry& entry : entries_) {
     if (!MatchesPattern(pattern, entry.name)) {
       continue;
@@ -137,9 +137,12 @@ std::string FontCatalogue::Search(const std::string& pattern, int depth) const {
       return entry.target;
     }
     // An alias may lead to nothing or in a circle; then the next match counts.
-    std::string file = depth < MaxAliasDepth ? Search(entry.target, depth + 1) : std::string();
-    if (!file.empty()) {
-      return file;
+    if (aliasesLeft > 0) {
+      --aliasesLeft;
+      std::string file = Search(entry.target, aliasesLeft);
+      if (!file.empty()) {
+        return file;
+      }
     }
   }
   return {};
@@ -149,7 +152,8 @@ std::string FontCatalogue::FindFile(const std::string& pattern) {
   const std::string lower = Lower(pattern);
   const auto [place, isNew] = found_.try_emplace(lower);
   if (isNew) {
-    place->second = Search(lower, 0);
+    int aliasesLeft = MaxAliases;
+    place->second = Search(lower, aliasesLeft);
   }
   return place->second;
 }

@@ -27,7 +27,7 @@ class FontCatalogue {
     bool alias;
   };
   void ReadFolder(const std::string& folder);
-  std::string Search(const std::string& pattern, int depth) const;
+  std::string Search(const std::string& pattern, int& aliasesLeft) const;
 
   std::vector<Entry> entries_;
   std::map<std::string, std::string> found_;
