@@ -1,5 +1,3 @@
-#include <algorithm>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -10,9 +8,7 @@ namespace {
 
 // Paths are the file system's bytes, so the cut knows no characters.
 void CopyPath(gchar* target, std::string_view text) {
-  const std::size_t length = std::min<std::size_t>(text.size(), PathSize - 1);
-  std::memmove(target, text.data(), length);
-  target[length] = '\0';
+  target[text.copy(target, PathSize - 1)] = '\0';
 }
 
 // "." without a "/", "/" for an entry of the root; several "/" count as one.

@@ -157,7 +157,7 @@ std::string_view CutEuc(std::string_view euc, std::size_t limit) {
 void CopyText(gchar* field, std::size_t size, std::string_view text) {
   if (size == 0) return;
   text = CutEuc(text.substr(0, text.find('\0')), size - 1);
-  std::memmove(field, text.data(), text.size());
+  if (!text.empty()) std::memmove(field, text.data(), text.size());
   std::memset(field + text.size(), 0, size - text.size());
 }
 

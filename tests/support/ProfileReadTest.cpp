@@ -11,7 +11,7 @@ class ProfileRead : public testing::Test {
  protected:
   // The profile that holds just these bytes.
   const gchar* With(const std::string& bytes) {
-    path_ = folder_.Write("test.ini", bytes);
+    folder_.Write("test.ini", bytes);
     return path_.c_str();
   }
   // The first field of key K of section S, read as text.
@@ -19,7 +19,7 @@ class ProfileRead : public testing::Test {
   gint Number(const std::string& bytes) { return ProfileReadInt1(With(bytes), "S", "K"); }
 
   TempFolder folder_;
-  std::string path_;
+  const std::string path_ = folder_.Path("test.ini");
 };
 
 TEST_F(ProfileRead, GivesEveryFieldAndTheirNumber) {
@@ -40,18 +40,23 @@ TEST_F(ProfileRead, AMissingFieldIsEmptyAndNotCounted) {
   EXPECT_STREQ("", path);
 }
 
-TEST_F(ProfileRead, AMissingFileSectionOrKeyEmptiesEveryDestination) {
-  const std::string missing = folder_.Path("missing.ini");
-  for (const gchar* profile : {missing.c_str(), With("[T]\nK=x,1,1\n"), With("[S]\nL=x,1,1\n")}) {
+TEST_F(ProfileRead, AMissingSectionOrKeyEmptiesEveryDestination) {
+  for (const gchar* bytes : {"[T]\nK=x,1,1\n", "[S]\nL=x,1,1\n"}) {
     gchar text[100] = "old";
     gint decimal = 7;
     guint16 hexadecimal = 7;
-    EXPECT_EQ(0, ProfileRead1(profile, "S", "K", "sih", text, &decimal, &hexadecimal));
+    EXPECT_EQ(0, ProfileRead1(With(bytes), "S", "K", "sih", text, &decimal, &hexadecimal));
     EXPECT_STREQ("", text);
     EXPECT_EQ(0, decimal);
     EXPECT_EQ(0, hexadecimal);
   }
-  EXPECT_FALSE(folder_.Exists("missing.ini"));
+}
+
+TEST_F(ProfileRead, AMissingFileReadsAsEmptyAndIsNotMade) {
+  gchar text[100] = "old";
+  EXPECT_EQ(0, ProfileRead1(path_.c_str(), "S", "K", "s", text));
+  EXPECT_STREQ("", text);
+  EXPECT_FALSE(folder_.Exists("test.ini"));
 }
 
 TEST_F(ProfileRead, AnEmptyFileOrAFolderHasNoSections) {

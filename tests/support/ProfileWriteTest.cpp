@@ -13,13 +13,13 @@ namespace {
 class ProfileWrite : public testing::Test {
  protected:
   const gchar* With(const std::string& bytes) {
-    path_ = folder_.Write("test.ini", bytes);
+    folder_.Write("test.ini", bytes);
     return path_.c_str();
   }
   std::string File() const { return folder_.Read("test.ini"); }
 
   TempFolder folder_;
-  std::string path_;
+  const std::string path_ = folder_.Path("test.ini");
 };
 
 TEST_F(ProfileWrite, TheFirstKeyMakesFileAndSection) {

@@ -138,6 +138,13 @@ TEST(CopyText, MayCopyAFieldOntoItself) {
   EXPECT_STREQ("bcde", field);
 }
 
+TEST(CopyText, TakesAViewOfNothing) {
+  gchar field[3] = "ab";
+  CopyText(field, std::string_view());
+  EXPECT_STREQ("", field);
+  EXPECT_EQ("", DisplayText(std::string_view()));
+}
+
 TEST(CopyText, LeavesAFieldWithoutRoomAlone) {
   gchar field = '#';
   CopyText(&field, 0, "ab");
