@@ -8,8 +8,9 @@
 
 // The layout's picture in layout dots.
 void DrawWindow1(Drawable* drawable, DrawGc* gc);
-// The editing overlay and the grid in zoomed pixels.
+// The editing overlay in zoomed pixels.
 void DrawWindow2(Drawable* drawable, DrawGc* gc);
+// The grid in zoomed pixels; draws only the lines that the surface shows.
 void DrawGridData(Drawable* drawable, DrawGc* gc);
 
 void DrawPageData(Drawable* drawable, DrawGc* gc);
