@@ -102,10 +102,9 @@ TEST_F(ViewCommandTest, ColourSystemRepaintsOnAChange) {
 
 TEST_F(ViewCommandTest, LanguageLoadsItsFonts) {
   WriteProfile("[FONT]\nFONTNAME20=second,-x-y-medium-r-normal--23-*-*-*-c-*-*-*\n");
-  FontHeight[0] = 1;
   Toggle(PtrnLangSet, 1, true);
   EXPECT_EQ(Language, 1);
-  EXPECT_NE(FontHeight[0], 1);
+  EXPECT_EQ(FontHeight[0], 23);
   EXPECT_EQ(Screen.Calls.back(), "DrawRequest 1");
   EXPECT_EQ(Screen.Count("Dlg_ToolBox 0"), 1);
 }

@@ -1,0 +1,258 @@
+// New, open and edit project, with the dialogs answered by script.
+#include "ProjData.h"
+#include "PtrnData.h"
+#include "PtrnMisc.h"
+#include "edit/EditFixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr const char* SettingsDialog = "EditProjData プロジェクトの新規作成";
+
+enum SettingsResult { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
+
+class ProjectCommandTest : public EditFixture {
+ protected:
+  ProjectCommandTest() {
+    PtrnFlag = 0;
+    ColrData[7] = {1, 2, 3};
+    MarkData[9].mark[0] = 0x5A;
+    SaveColrFile();
+    SaveMarkFile();
+  }
+  std::string NewFolder() const { return Folder.Path("new"); }
+  // The user enters name and folders and registers.
+  void RegisterNewProject() const {
+    Screen.ProjectSettings = [this] {
+      CopyText(EditName, "Fresh");
+      CopyText(EditPath, NewFolder());
+      CopyText(EditData.ProgPath, Folder.Path("new-program"));
+      ColrData[7] = {70, 80, 90};
+      return gint{Registered};
+    };
+  }
+  // A 466-byte layout file without items, of kind 0 (parent window) and 10 x 20 dots.
+  static std::string ParentLayout() {
+    PTRNHEDR header{};
+    header.Parm1[HedrSlot::Width] = 10;
+    header.Parm1[HedrSlot::Height] = 20;
+    return {reinterpret_cast<const char*>(&header), sizeof header};
+  }
+  PTRNHEDR HeaderOf(const std::string& file) const {
+    PTRNHEDR header{};
+    const std::string bytes = Folder.Read(file);
+    EXPECT_GE(bytes.size(), sizeof header);
+    bytes.copy(reinterpret_cast<char*>(&header), sizeof header);
+    return header;
+  }
+};
+
+TEST_F(ProjectCommandTest, ANewProjectBeginsWithTheDefaultsOfTheProfile) {
+  WriteProfile(
+      "[PROJDATA]\n"
+      "NAME=Untitled\n"
+      "PTRN=/tmp/somewhere\n"
+      "PTRNSIZE=2\n"
+      "COLOR5=11,22,33\n");
+  Screen.ProjectSettings = [] {
+    EXPECT_STREQ(EditName, "Untitled");
+    EXPECT_STREQ(EditPath, "/tmp/somewhere");
+    EXPECT_EQ(EditData.Parm1[0], 2);
+    EXPECT_EQ(ColrData[5].green, 22);
+    EXPECT_EQ(ColrData[7].red, 0);
+    EXPECT_EQ(MarkData[9].mark[0], 0);
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog));
+}
+
+TEST_F(ProjectCommandTest, ARegisteredNewProjectIsWrittenAndOpen) {
+  PtrnFlag = 1;
+  RegisterNewProject();
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_EQ(ProjFlag, 1);
+  EXPECT_EQ(PtrnFlag, 0);
+  EXPECT_STREQ(ProjName, "Fresh");
+  EXPECT_EQ(std::string(ProjPath), NewFolder());
+  EXPECT_EQ(std::string(BmapPath), NewFolder() + "/Bitmap");
+  EXPECT_EQ(std::string(ProjData.ProgPath), Folder.Path("new-program"));
+  EXPECT_EQ(Folder.Read("new/Fresh.prj").size(), 808U);
+  EXPECT_EQ(Folder.Read("new/PtrnMark"), std::string(350 * 512, '\0'));
+  EXPECT_EQ(Folder.Read("new/PtrnColr").substr(84, 12),
+            std::string("F\0\0\0P\0\0\0Z\0\0\0", 12));  // colour 7
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog, "SetMainMenu", "SetWindTitle [Fresh] []"));
+}
+
+TEST_F(ProjectCommandTest, TemplatesOfANewProjectTakeItsLook) {
+  Folder.Write("program/VarnixData/Ptrn/Start.ptn", ParentLayout());
+  Folder.Write("program/VarnixData/Bitmap/logo.bmp", "picture");
+  Screen.ProjectSettings = [this] {
+    CopyText(EditName, "Fresh");
+    CopyText(EditPath, NewFolder());
+    EditData.Parm1[0] = 1;   // 1024 x 768
+    EditData.Parm2[0] = 44;  // height of the title area
+    return gint{Registered};
+  };
+  ProjDataNew(nullptr, nullptr);
+  const PTRNHEDR header = HeaderOf("new/Start.ptn");
+  EXPECT_EQ(header.Parm1[HedrSlot::Width], 1024);
+  EXPECT_EQ(header.Parm1[HedrSlot::Height], 768);
+  EXPECT_EQ(header.Parm1[HedrSlot::TitleHeight], 44);
+  EXPECT_EQ(Folder.Read("new/Bitmap/logo.bmp"), "picture");
+}
+
+TEST_F(ProjectCommandTest, AStartLayoutThatDoesNotExistIsDropped) {
+  Screen.ProjectSettings = [this] {
+    CopyText(EditName, "Fresh");
+    CopyText(EditPath, NewFolder());
+    CopyText(EditData.PtrnStart, "Nowhere");
+    return gint{Registered};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_STREQ(ProjData.PtrnStart, "");
+}
+
+TEST_F(ProjectCommandTest, RestoredDefaultsReopenTheSettings) {
+  gint shown = 0;
+  Screen.ProjectSettings = [&shown] {
+    ++shown;
+    return shown < 3 ? gint{DefaultsRestored} : gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_EQ(shown, 3);
+}
+
+TEST_F(ProjectCommandTest, ACancelledNewProjectChangesNothing) {
+  const std::string palette = Folder.Read("project/PtrnColr");
+  Screen.ProjectSettings = [] {
+    CopyText(EditName, "Fresh");
+    ColrData[7] = {70, 80, 90};
+    SaveColrFile();  // as the palette editor of the dialog does
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_STREQ(ProjName, "Plant");
+  EXPECT_EQ(std::string(ProjPath), ProjectFolder);
+  EXPECT_EQ(ColrData[7].red, 1);
+  EXPECT_EQ(MarkData[9].mark[0], 0x5A);
+  EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
+}
+
+TEST_F(ProjectCommandTest, TheOldProjectKeepsItsPaletteWhenANewOneIsRegistered) {
+  const std::string palette = Folder.Read("project/PtrnColr");
+  Screen.ProjectSettings = [this] {
+    CopyText(EditName, "Fresh");
+    CopyText(EditPath, NewFolder());
+    ColrData[7] = {70, 80, 90};
+    SaveColrFile();
+    return gint{Registered};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
+  EXPECT_NE(Folder.Read("new/PtrnColr"), palette);
+  EXPECT_EQ(ColrData[7].red, 70);
+}
+
+TEST_F(ProjectCommandTest, OpeningLoadsTheChosenProject) {
+  RegisterNewProject();
+  ProjDataNew(nullptr, nullptr);
+  Screen.Take();
+  PtrnFlag = 1;
+  ColrData[7] = {};
+  Screen.ProjectOpen = [this] {
+    CopyText(EditName, "Fresh");
+    CopyText(EditPath, NewFolder());
+    return 1;
+  };
+  ProjFlag = 0;
+  ProjData = {};
+  CopyText(ProjName, "");
+  CopyText(BmapPath, "");
+  ProjDataOpen(nullptr, nullptr);
+  EXPECT_EQ(ProjFlag, 1);
+  EXPECT_EQ(PtrnFlag, 1);
+  EXPECT_STREQ(ProjName, "Fresh");
+  EXPECT_EQ(std::string(ProjData.ProgPath), Folder.Path("new-program"));
+  EXPECT_EQ(std::string(BmapPath), NewFolder() + "/Bitmap");
+  EXPECT_EQ(ColrData[7].blue, 90);
+  EXPECT_THAT(Screen.Take(), ElementsAre("ProjFileOpen", "SetMainMenu", "SetWindTitle [Fresh] []"));
+}
+
+TEST_F(ProjectCommandTest, ACancelledOpenChangesNothing) {
+  CopyText(EditName, "Other");
+  ProjDataOpen(nullptr, nullptr);
+  EXPECT_STREQ(ProjName, "Plant");
+  EXPECT_THAT(Screen.Take(), ElementsAre("ProjFileOpen"));
+}
+
+TEST_F(ProjectCommandTest, EditedSettingsAreWrittenUnderANewNameBesideTheOldFile) {
+  ProjFileWrite(ProjPath, ProjName);
+  Folder.Write("project/Main.ptn", ParentLayout());
+  Screen.ProjectSettings = [] {
+    EXPECT_STREQ(EditName, "Plant");
+    CopyText(EditName, "Plant2");
+    EditData.Parm2[0] = 30;
+    return gint{Registered};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_STREQ(ProjName, "Plant2");
+  EXPECT_TRUE(Folder.Exists("project/Plant.prj"));
+  EXPECT_TRUE(Folder.Exists("project/Plant2.prj"));
+  EXPECT_EQ(HeaderOf("project/Main.ptn").Parm1[HedrSlot::TitleHeight], 30);
+  EXPECT_THAT(Folder.Read("program/VarnixMaster.ini"),
+              HasSubstr("PROJNAME1=Plant2," + ProjectFolder + "\n"));
+  EXPECT_THAT(Screen.Take(),
+              ElementsAre(SettingsDialog, "SetMainMenu", "SetWindTitle [Plant2] []"));
+}
+
+TEST_F(ProjectCommandTest, AMovedProjectIsCopiedAndTheOldFolderStays) {
+  ProjFileWrite(ProjPath, ProjName);
+  Folder.Write("project/Main.ptn", ParentLayout());
+  Folder.Write("project/Bitmap/logo.bmp", "picture");
+  Folder.Write("old-program/Plant.cpp", "source");
+  std::filesystem::create_directories(Folder.Path("new-program"));
+  CopyText(ProjData.ProgPath, Folder.Path("old-program"));
+  Screen.ProjectSettings = [this] {
+    CopyText(EditPath, NewFolder());
+    CopyText(EditData.ProgPath, Folder.Path("new-program"));
+    return gint{Registered};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(std::string(ProjPath), NewFolder());
+  EXPECT_EQ(std::string(BmapPath), NewFolder() + "/Bitmap");
+  EXPECT_TRUE(Folder.Exists("new/Main.ptn"));
+  EXPECT_TRUE(Folder.Exists("new/PtrnColr"));
+  EXPECT_EQ(Folder.Read("new/Bitmap/logo.bmp"), "picture");
+  EXPECT_EQ(Folder.Read("new-program/Plant.cpp"), "source");
+  EXPECT_TRUE(Folder.Exists("project/Main.ptn"));
+  EXPECT_TRUE(Folder.Exists("old-program/Plant.cpp"));
+}
+
+TEST_F(ProjectCommandTest, CancelledSettingsKeepProjectAndPalette) {
+  ProjData.Parm2[0] = 12;
+  Screen.ProjectSettings = [] {
+    EditData.Parm2[0] = 30;
+    ColrData[7] = {70, 80, 90};  // the restored defaults
+    Screen.ProjectSettings = nullptr;
+    return gint{DefaultsRestored};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(ProjData.Parm2[0], 12);
+  EXPECT_EQ(ColrData[7].red, 1);
+  EXPECT_FALSE(Folder.Exists("project/Plant.prj"));
+}
+
+TEST_F(ProjectCommandTest, APaletteSavedByItsEditorOutlivesCancelledSettings) {
+  Screen.ProjectSettings = [] {
+    ColrData[7] = {70, 80, 90};
+    SaveColrFile();
+    return gint{Cancelled};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(ColrData[7].red, 70);
+}
+
+}  // namespace
