@@ -123,7 +123,9 @@ gint ProjFileOpen(GtkWidget* parent) {
   GtkWidget* open = AddDialogButton(dialog, " 開く ", G_CALLBACK(ProjFileOpen_Open), dialog.Window);
   gtk_widget_set_sensitive(open, FALSE);
   KeepWidget(&ProjFileOpen_Buttn, open);
-  AddDialogButton(dialog, " 取消 ", G_CALLBACK(ProjFileOpen_CAN), dialog.Window);
+  // Not the list first: it would select, and with that enable, its first row by itself.
+  gtk_widget_grab_focus(
+      AddDialogButton(dialog, " 取消 ", G_CALLBACK(ProjFileOpen_CAN), dialog.Window));
   RunModal(dialog.Window, parent);
   ProjTable.clear();
   return ProjFileOpen_Result;
