@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 #include <new>
 #include <vector>
 
@@ -8,10 +7,10 @@
 #include "layout/Store.h"
 #include "layout/model/LayoutInput.h"
 #include "support/FileTools.h"
+#include "support/Text.h"
 
 namespace {
 
-// Fields are larger by a terminator and one spare byte.
 constexpr std::size_t TextLimit = 100;
 constexpr std::size_t NameLimit = 80;
 constexpr std::size_t CodeLimit = 20;
@@ -64,12 +63,17 @@ bool ReadRecords(LayoutInput& input, gint count, std::vector<bool>& kept) {
   return true;
 }
 
+template <std::size_t Size>
+void ReadText(LayoutInput& input, gchar (&field)[Size], std::size_t limit) {
+  CopyText(field, input.NextText(limit));
+}
+
 void ReadTexts(LayoutInput& input, PTRNDATA& item) {
-  input.ReadText(item.Text1, TextLimit);
-  input.ReadText(item.Text2, TextLimit);
-  input.ReadText(item.Text3, TextLimit);
-  input.ReadText(item.ID_Name, NameLimit);
-  input.ReadText(item.ID_Code, CodeLimit);
+  ReadText(input, item.Text1, TextLimit);
+  ReadText(input, item.Text2, TextLimit);
+  ReadText(input, item.Text3, TextLimit);
+  ReadText(input, item.ID_Name, NameLimit);
+  ReadText(input, item.ID_Code, CodeLimit);
 }
 
 gint ReadLayout(LayoutInput& input) {
