@@ -65,5 +65,11 @@ done
     mv "$program/$file.new" "$program/$file"
   fi
 done
+# What is no longer shipped goes, unless it was changed there.
+(cd "$shipped" && find . -type f -print0) | while IFS= read -r -d '' file; do
+  if [ ! -e "$fresh/$file" ] && cmp -s "$shipped/$file" "$program/$file"; then
+    rm "$program/$file"
+  fi
+done
 rm -rf "$shipped"
 mv "$fresh" "$shipped"
