@@ -87,8 +87,8 @@ PixbufPtr CanvasShot() {
   FinishFrame(PtrnDraw);
   GdkWindow* window = gtk_widget_get_window(PtrnDraw);
   GtkWidget* viewport = gtk_widget_get_parent(PtrnDraw);
-  const gint width = std::min(gtk_widget_get_allocated_width(PtrnDraw),
-                              gtk_widget_get_allocated_width(viewport));
+  const gint width =
+      std::min(gtk_widget_get_allocated_width(PtrnDraw), gtk_widget_get_allocated_width(viewport));
   const gint height = std::min(gtk_widget_get_allocated_height(PtrnDraw),
                                gtk_widget_get_allocated_height(viewport));
   return PixbufPtr(gdk_pixbuf_get_from_window(window, 0, 0, width, height));
