@@ -1,4 +1,3 @@
-#include "Holders.h"
 #include "MenuRows.h"
 #include "ProjData.h"
 #include "PtrnData.h"
@@ -87,7 +86,7 @@ constexpr TopMenu TopMenus[] = {
     {"表示", GDK_KEY_v, ViewRows},
 };
 
-ObjectPtr<GtkAccelGroup> Keys;
+GtkAccelGroup* Keys;
 
 gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer entry) {
   return gtk_widget_mnemonic_activate(GTK_WIDGET(entry), FALSE);
@@ -95,17 +94,17 @@ gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer 
 }  // namespace
 
 GtkAccelGroup* MainMenuKeys() {
-  return Keys.get();
+  return Keys;
 }
 
 GtkWidget* CreateMainMenu() {
-  Keys.reset(gtk_accel_group_new());
   GtkWidget* bar = gtk_menu_bar_new();
+  g_set_weak_pointer(&Keys, NewKeys(bar));
   for (const TopMenu& top : TopMenus) {
     GtkWidget* menu = CreateTopMenu(bar, top.Label);
-    BuildMenu(menu, top.Rows, Keys.get());
+    BuildMenu(menu, top.Rows, Keys);
     GtkWidget* entry = gtk_menu_get_attach_widget(GTK_MENU(menu));
-    gtk_accel_group_connect(Keys.get(), top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
+    gtk_accel_group_connect(Keys, top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
                             g_cclosure_new_object(G_CALLBACK(OpenTopMenu), G_OBJECT(entry)));
   }
   gtk_widget_show(bar);

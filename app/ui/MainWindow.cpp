@@ -48,6 +48,7 @@ void CreateMainWindow() {
   gtk_box_pack_start(GTK_BOX(box), CreateScrolledCanvas(), TRUE, TRUE, 0);
   gtk_window_add_accel_group(GTK_WINDOW(window), MainMenuKeys());
 
+  g_signal_connect(window, "size-allocate", G_CALLBACK(RememberWindowSize), nullptr);
   g_signal_connect(window, "key-press-event", G_CALLBACK(CanvasKey), nullptr);
   g_signal_connect(window, "delete-event", G_CALLBACK(Delete_Event), nullptr);
   g_signal_connect(window, "destroy", G_CALLBACK(Destroy_Event), nullptr);
@@ -65,7 +66,6 @@ gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
 }
 
 void Destroy_Event(GtkWidget*, gpointer) {
-  RememberWindowSize();
   if (ToolBox != nullptr) gtk_widget_destroy(ToolBox);
   if (MainLoop != nullptr) g_main_loop_quit(MainLoop);
 }

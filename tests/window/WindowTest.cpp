@@ -137,7 +137,7 @@ void Drag(gint x1, gint y1, gint x2, gint y2) {
   SendButton(GDK_BUTTON_RELEASE, GDK_BUTTON_PRIMARY, x2, y2);
 }
 
-bool SendKey(guint key, GdkModifierType modifiers) {
+void SendKey(guint key, GdkModifierType modifiers) {
   const EventPtr event(gdk_event_new(GDK_KEY_PRESS));
   event->key.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(PtrnWnd)));
   GdkDisplay* display = gtk_widget_get_display(PtrnWnd);
@@ -150,7 +150,7 @@ bool SendKey(guint key, GdkModifierType modifiers) {
     event->key.hardware_keycode = static_cast<guint16>(keys[0].keycode);
     g_free(keys);
   }
-  return gtk_widget_event(PtrnWnd, event.get()) != FALSE;
+  gtk_main_do_event(event.get());
 }
 
 PTRNDATA BoxItem(gint x1, gint y1, gint x2, gint y2, gint colour) {

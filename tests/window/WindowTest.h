@@ -40,7 +40,7 @@ void SendMotion(gint x, gint y);
 // Presses button 1 at one point, moves, and lets go at another.
 void Drag(gint x1, gint y1, gint x2, gint y2);
 // A key of the main window.
-bool SendKey(guint key, GdkModifierType modifiers = {});
+void SendKey(guint key, GdkModifierType modifiers = {});
 
 // A filled rectangle item.
 PTRNDATA BoxItem(gint x1, gint y1, gint x2, gint y2, gint colour);
