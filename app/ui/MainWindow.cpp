@@ -31,9 +31,17 @@ GtkWidget* CreateScrolledCanvas() {
   gtk_container_add(GTK_CONTAINER(scrolled), viewport);
   return scrolled;
 }
+
+// Dialogs show it too. A missing file leaves the window manager's own.
+void UseProgramIcon() {
+  gchar path[PathSize];
+  MakePath(path, PathName, "VarnixMaster", "png");
+  gtk_window_set_default_icon_from_file(path, nullptr);
+}
 }  // namespace
 
 void CreateMainWindow() {
+  UseProgramIcon();
   GtkWidget* window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
   KeepWidget(&PtrnWnd, window);
   gtk_container_set_border_width(GTK_CONTAINER(window), 0);
