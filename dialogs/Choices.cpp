@@ -55,10 +55,10 @@ GtkWidget* NewCombo(DLG_COMBOBOX& row, gint count) {
 void Dlg_RadioButn(GtkWidget* parent, GtkWidget* table, DLG_RADIOBUTN* rows) {
   Dlg_RadioButn_Parent = parent;
   GtkRadioButton* group = nullptr;
-  const gint* groupData = nullptr;
+  const DLG_RADIOBUTN* previous = nullptr;
   ForEachRow(rows, [&](DLG_RADIOBUTN& row) {
-    if (row.data != groupData) group = nullptr;
-    groupData = row.data;
+    if (previous != nullptr && previous->data != row.data) group = nullptr;
+    previous = &row;
     GtkWidget* button = gtk_radio_button_new_with_label_from_widget(group, row.text);
     group = GTK_RADIO_BUTTON(button);
     if (LoadInt(row.data) == row.code)
