@@ -30,8 +30,8 @@ std::string Line(const char* label, const std::string& text) {
   return line + text + "\n";
 }
 
-std::string OrNone(std::string text) {
-  return text.empty() ? "(none)" : text;
+std::string OrNone(const std::string& text) {
+  return text.empty() ? std::string("(none)") : text;
 }
 
 std::string ProjectLines() {

@@ -1,9 +1,9 @@
 // The companion command line: what it accepts. The commands stand in files of their own.
 #include <CLI/CLI.hpp>
+#include <cstdio>
 #include <exception>
 
 #include "tools/Commands.h"
-#include "tools/Report.h"
 #include "tools/TimeText.h"
 
 namespace {
@@ -91,9 +91,7 @@ void AddInfo(CLI::App& app, Options& options, int& result) {
   command->callback([&] { result = RunInfo(options.File); });
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, const char* const* argv) {
   CLI::App app("Companion tool of VarnixMaster: shows, builds, renders and generates.",
                "varnixtool");
   app.require_subcommand(1);
@@ -109,8 +107,17 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? ExitDone : ExitUsage;
-  } catch (const std::exception& error) {
-    return Fail("failed", error.what());
   }
   return result;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "varnixtool: %s\n", error.what());
+    return ExitFailed;
+  }
 }

@@ -35,6 +35,10 @@ std::string FirstStranger(const std::string& text) {
   return text;
 }
 
+std::string KeyPlace(const std::string& place, const std::string& key) {
+  return place.empty() ? key : place + "." + key;
+}
+
 void ReadSlot(const JsonSource& value, const std::string& place, const ParmSlot& slot,
               std::span<gint> parm) {
   const auto first = static_cast<std::size_t>(slot.Index);
@@ -56,8 +60,8 @@ void ReadSlots(const JsonSource& value, const std::string& place, std::span<cons
     const std::string& name = key;
     const auto slot = std::find_if(slots.begin(), slots.end(),
                                    [&name](const ParmSlot& known) { return name == known.Name; });
-    if (slot == slots.end()) throw SourceError(place + "." + key, "unknown key");
-    ReadSlot(entry, place + "." + key, *slot, parm);
+    if (slot == slots.end()) throw SourceError(KeyPlace(place, key), "unknown key");
+    ReadSlot(entry, KeyPlace(place, key), *slot, parm);
   }
 }
 
@@ -117,7 +121,7 @@ ObjectReader::ObjectReader(const JsonSource& value, std::string place)
 }
 
 std::string ObjectReader::Place(const char* key) const {
-  return place_.empty() ? key : place_ + "." + key;
+  return KeyPlace(place_, key);
 }
 
 const JsonSource* ObjectReader::Find(const char* key) {
