@@ -6,12 +6,19 @@
 #include "ProjData.h"
 #include "support/FileTools.h"
 
+namespace {
+
+// A palette file has 1200 bytes; one that is absurdly larger is left alone.
+constexpr std::size_t LargestFile = 65536;
+
+}  // namespace
+
 KeptResources::KeptResources() {
   std::copy(std::begin(ColrData), std::end(ColrData), Colours.begin());
   std::copy(std::begin(MarkData), std::end(MarkData), Marks.begin());
   if (ProjFlag != 0) {
     FileName = JoinPath(ProjPath, "PtrnColr", "");
-    FileContent = ReadWholeFile(FileName);
+    FileContent = ReadWholeFile(FileName, LargestFile);
   }
 }
 
@@ -23,7 +30,7 @@ void KeptResources::Restore() const {
 }
 
 bool KeptResources::FileRewritten() const {
-  return !FileName.empty() && ReadWholeFile(FileName) != FileContent;
+  return !FileName.empty() && ReadWholeFile(FileName, LargestFile) != FileContent;
 }
 
 void KeptResources::RestoreFile() const {
