@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "support/FileTools.h"
 #include "tests/common/TempFolder.h"
 #include "tests/tools/Files.h"
 #include "tests/tools/Tool.h"
@@ -11,6 +12,13 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 namespace {
+
+TEST(CommandLine, RunsWithoutTheWindowToolkit) {
+  const auto executable = ReadWholeFile(TOOL_PATH);
+  ASSERT_TRUE(executable);
+  EXPECT_NE(executable->find("libcairo"), std::string::npos);
+  EXPECT_EQ(executable->find("libgtk"), std::string::npos);
+}
 
 TEST(CommandLine, HelpIsDone) {
   for (const char* command : {"show", "build", "render", "generate", "hit", "info"}) {
