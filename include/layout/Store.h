@@ -24,6 +24,8 @@ gint SetPtrnData(gint no, const PTRNDATA* in);
 void AddPtrnData(const PTRNDATA* in);
 // Removes an item, the later ones move down.
 void DelPtrnData(gint no);
+// Removes every item that `chosen` tells, at the cost of one; the number removed.
+gint DelPtrnDataIf(bool (*chosen)(const PTRNDATA* item));
 // The item itself, for reading without a copy; null outside the store. Gone with the next change.
 const PTRNDATA* ViewPtrnData(gint no);
 

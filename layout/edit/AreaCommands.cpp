@@ -50,14 +50,8 @@ gint AreaButnCheck(const PTRNDATA* item) {
 
 void AreaButn_Delt() {
   PushPtrnData();
-  for (gint no = 0; no < GetPtrnCount();) {
-    const PTRNDATA* item = ViewPtrnData(no);
-    if (item != nullptr && AreaButnCheck(item) != 0) {
-      DelPtrnData(no);
-      PtrnFlag = 2;
-    } else {
-      ++no;
-    }
+  if (DelPtrnDataIf([](const PTRNDATA* item) { return AreaButnCheck(item) != 0; }) > 0) {
+    PtrnFlag = 2;
   }
 }
 

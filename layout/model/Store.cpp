@@ -53,6 +53,11 @@ void DelPtrnData(gint no) {
   }
 }
 
+gint DelPtrnDataIf(bool (*chosen)(const PTRNDATA* item)) {
+  return static_cast<gint>(
+      std::erase_if(PtrnArray, [chosen](const PTRNDATA& item) { return chosen(&item); }));
+}
+
 const PTRNDATA* ViewPtrnData(gint no) {
   return IsStored(no) ? &PtrnArray[static_cast<std::size_t>(no)] : nullptr;
 }

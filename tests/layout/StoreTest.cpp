@@ -73,6 +73,15 @@ TEST_F(StoreTest, DeletingMovesLaterItemsDown) {
   EXPECT_EQ(NumberAt(2), 3);
 }
 
+TEST_F(StoreTest, DeletesEveryChosenItem) {
+  Fill(7);
+  const auto odd = [](const PTRNDATA* item) { return item->ID_No % 2 == 1; };
+  EXPECT_EQ(DelPtrnDataIf(odd), 3);
+  ASSERT_EQ(GetPtrnCount(), 4);
+  for (gint no = 0; no < 4; ++no) EXPECT_EQ(NumberAt(no), 2 * no);
+  EXPECT_EQ(DelPtrnDataIf(odd), 0);
+}
+
 TEST_F(StoreTest, IndexesOutsideDoNothing) {
   Fill(2);
   PTRNDATA item = Numbered(9);
