@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <array>
+#include <cstring>
 #include <new>
 #include <string>
 #include <vector>
@@ -56,7 +56,8 @@ void CountItems() {
 PTRNFILE RecordFromItem(const PTRNDATA& item) {
   PTRNFILE record{};
   record.Type = item.Type;
-  std::copy(std::begin(item.Parm), std::end(item.Parm), std::begin(record.Parm));
+  // Stored items are packed, so their numbers need not be aligned.
+  std::memcpy(record.Parm, item.Parm, sizeof record.Parm);
   record.ID_Type = item.ID_Type;
   record.ID_No = item.ID_No;
   record.UndfFlag = item.UndfFlag;
