@@ -8,5 +8,8 @@ void LoadColrFile() {
 
 void SaveColrFile() {
   SetDrawColr();
-  FileWrite(ProjPath, "PtrnColr", "", ColrData, sizeof ColrData, 0);
+  // The settings of the first project show the palette editor before there is a folder.
+  if (ProjPath[0] != '\0') {
+    FileWrite(ProjPath, "PtrnColr", "", ColrData, sizeof ColrData, 0);
+  }
 }

@@ -1,4 +1,6 @@
 // New, open and edit project, with the dialogs answered by script.
+#include <filesystem>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
@@ -154,6 +156,17 @@ TEST_F(ProjectCommandTest, TheOldProjectKeepsItsPaletteWhenANewOneIsRegistered) 
   EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
   EXPECT_NE(Folder.Read("new/PtrnColr"), palette);
   EXPECT_EQ(ColrData[7].red, 70);
+}
+
+TEST_F(ProjectCommandTest, ThePaletteOfTheFirstProjectWaitsForItsFolder) {
+  ProjFlag = 0;
+  CopyText(ProjPath, "");
+  Screen.ProjectSettings = [] {
+    SaveColrFile();
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_FALSE(std::filesystem::exists("PtrnColr"));
 }
 
 TEST_F(ProjectCommandTest, OpeningLoadsTheChosenProject) {
