@@ -135,7 +135,7 @@ std::string PointsOf(const PTRNDATA& item) {
 }
 
 std::vector<gint> PointParmsOf(const PTRNDATA& item) {
-  return {item.Parm, item.Parm + 4};
+  return {item.Parm[0], item.Parm[1], item.Parm[2], item.Parm[3]};
 }
 
 gpointer Entry(gint number) {

@@ -1,4 +1,6 @@
 // The menu command of logic generation.
+#include <filesystem>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "edit/EditFixture.h"
