@@ -105,17 +105,18 @@ FontCatalogue::FontCatalogue(const std::string& root) {
 
 void FontCatalogue::ReadFolder(const std::string& folder) {
   const auto first = static_cast<std::ptrdiff_t>(entries_.size());
+  const std::string prefix = folder + "/";
   std::string line;
-  std::ifstream fonts(folder + "/fonts.dir");
+  std::ifstream fonts(prefix + "fonts.dir");
   std::getline(fonts, line);  // the number of fonts
   while (std::getline(fonts, line)) {
     std::string_view rest = line;
     const std::string file = TakeWord(rest);
     if (IsBitmapFont(file) && !Trimmed(rest).empty()) {
-      entries_.push_back({Lower(Trimmed(rest)), folder + "/" + file, false});
+      entries_.push_back({Lower(Trimmed(rest)), prefix + file, false});
     }
   }
-  std::ifstream aliases(folder + "/fonts.alias");
+  std::ifstream aliases(prefix + "fonts.alias");
   while (std::getline(aliases, line)) {
     std::string_view rest = line;
     const std::string name = TakeWord(rest);

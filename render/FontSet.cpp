@@ -126,8 +126,8 @@ std::vector<std::string> RelatedNames(const std::string& descriptor, const std::
   return {sameFoundry, Join(free, Registry) + "-" + charset};
 }
 
-FontSet::FontSet(std::string descriptor)
-    : descriptor_(FontCatalogue::Get().ResolveAlias(std::move(descriptor))) {}
+FontSet::FontSet(const std::string& descriptor)
+    : descriptor_(FontCatalogue::Get().ResolveAlias(descriptor)) {}
 
 bool FontSet::NamesBitmapFont() const {
   return OpenBitmap(descriptor_, Charset::Ascii, ExactNames) != nullptr;

@@ -23,7 +23,7 @@ struct TextExtents {
 class FontSet {
  public:
   // An X font descriptor or alias. The fonts are looked up when a text first needs them.
-  explicit FontSet(std::string descriptor);
+  explicit FontSet(const std::string& descriptor);
 
   TextExtents Measure(std::string_view euc);
   // Draws with the origin at (x, baseline).

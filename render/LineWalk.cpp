@@ -9,8 +9,8 @@ class DashPattern {
  public:
   DashPattern(const gint8* dashes, gint64 start) {
     if (dashes != nullptr && dashes[0] > 0 && dashes[1] > 0) {
-      on_ = dashes[0];
-      period_ = on_ + dashes[1];
+      on_ = gint{dashes[0]};
+      period_ = on_ + gint{dashes[1]};
       start_ = start;
     }
   }
