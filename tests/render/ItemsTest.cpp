@@ -8,11 +8,18 @@
 
 namespace {
 
+// A packed SIZE may lie anywhere, so its members cannot be handed to EXPECT_EQ.
+struct Extent {
+  explicit Extent(SIZE size) : Width(size.cx), Height(size.cy) {}
+  gint Width;
+  gint Height;
+};
+
 class Items : public testing::Test {
  protected:
-  SIZE SizeOf(const PTRNDATA& item) {
+  Extent SizeOf(const PTRNDATA& item) {
     Drawable surface(200, 60);
-    return PaintItem(surface, item).Size;
+    return Extent(PaintItem(surface, item).Size);
   }
 
  private:
@@ -30,14 +37,14 @@ bool IsBlack(const Drawable& surface) {
 
 TEST_F(Items, OfTextAreAsLargeAsTheirInk) {
   // "#" of the 16-dot font is 8 dots wide; its ink leaves less than a dot's column at each end.
-  const SIZE one = SizeOf(TextItem(TypeVariableString, 0, 0, Font16, {{TextSlot::Length, 1}}));
-  const SIZE ten = SizeOf(TextItem(TypeVariableString, 0, 0, Font16, {{TextSlot::Length, 10}}));
-  EXPECT_EQ(ten.cx - one.cx, 72);
-  EXPECT_EQ(ten.cy, one.cy);
-  const SIZE sample = SizeOf(TextItem(TypeNumeric, 0, 0, Font16, {{TextSlot::Length, 6}}));
-  const SIZE asterisks = GetTextSize(Font16, "******");
-  EXPECT_EQ(sample.cx, asterisks.cx);
-  EXPECT_EQ(sample.cy, asterisks.cy);
+  const Extent one = SizeOf(TextItem(TypeVariableString, 0, 0, Font16, {{TextSlot::Length, 1}}));
+  const Extent ten = SizeOf(TextItem(TypeVariableString, 0, 0, Font16, {{TextSlot::Length, 10}}));
+  EXPECT_EQ(ten.Width - one.Width, 72);
+  EXPECT_EQ(ten.Height, one.Height);
+  const Extent sample = SizeOf(TextItem(TypeNumeric, 0, 0, Font16, {{TextSlot::Length, 6}}));
+  const Extent asterisks(GetTextSize(Font16, "******"));
+  EXPECT_EQ(sample.Width, asterisks.Width);
+  EXPECT_EQ(sample.Height, asterisks.Height);
 }
 
 TEST_F(Items, OfTextWithoutFontOrTextHaveNoExtent) {
@@ -47,23 +54,23 @@ TEST_F(Items, OfTextWithoutFontOrTextHaveNoExtent) {
         TextItem(TypeVariableString, 5, 5, Font16, {}), TextItem(TypeNumeric, 5, 5, 99, {})}) {
     PTRNDATA painted = item;
     painted.Size = {7, 7};
-    const SIZE size = SizeOf(painted);
-    EXPECT_EQ(size.cx, 0);
-    EXPECT_EQ(size.cy, 0);
+    const Extent size = SizeOf(painted);
+    EXPECT_EQ(size.Width, 0);
+    EXPECT_EQ(size.Height, 0);
   }
 }
 
 TEST_F(Items, OfChoicesAreASquareAndTheirCaption) {
   for (const gint type : {gint{TypeRadioButton}, gint{TypeCheckBox}}) {
-    const SIZE alone = SizeOf(ChoiceItem(type, 4, 4, Font16, 0, ""));
-    EXPECT_EQ(alone.cx, 16);
-    EXPECT_EQ(alone.cy, 16);
-    const SIZE captioned = SizeOf(ChoiceItem(type, 4, 4, Font16, 0, "自動"));
-    EXPECT_EQ(captioned.cx, 24 + GetTextSize(Font16, Euc("自動").c_str()).cx);
-    EXPECT_EQ(captioned.cy, 16);
-    const SIZE unnamed = SizeOf(ChoiceItem(type, 4, 4, NoFont, 0, "自動"));
-    EXPECT_EQ(unnamed.cx, 0);
-    EXPECT_EQ(unnamed.cy, 0);
+    const Extent alone = SizeOf(ChoiceItem(type, 4, 4, Font16, 0, ""));
+    EXPECT_EQ(alone.Width, 16);
+    EXPECT_EQ(alone.Height, 16);
+    const Extent captioned = SizeOf(ChoiceItem(type, 4, 4, Font16, 0, "自動"));
+    EXPECT_EQ(captioned.Width, 24 + GetTextSize(Font16, Euc("自動").c_str()).cx);
+    EXPECT_EQ(captioned.Height, 16);
+    const Extent unnamed = SizeOf(ChoiceItem(type, 4, 4, NoFont, 0, "自動"));
+    EXPECT_EQ(unnamed.Width, 0);
+    EXPECT_EQ(unnamed.Height, 0);
   }
 }
 
@@ -71,12 +78,12 @@ TEST_F(Items, FollowTheLanguage) {
   PTRNDATA item = TextItem(TypeFixedString, 0, 0, Font16, {}, "1");
   CopyText(item.Text2, "22");
   CopyText(item.Text3, "333");
-  const gint single = SizeOf(item).cx;
+  const gint single = SizeOf(item).Width;
   Language = 1;
-  EXPECT_EQ(SizeOf(item).cx - single, 8);
+  EXPECT_EQ(SizeOf(item).Width - single, 8);
   for (const gint third : {2, 3, -1, 1000}) {
     Language = third;
-    EXPECT_EQ(SizeOf(item).cx - single, 16) << third;
+    EXPECT_EQ(SizeOf(item).Width - single, 16) << third;
   }
 }
 
@@ -103,7 +110,7 @@ TEST_F(Items, GiveTheirSizesToTheStore) {
   for (gint no = 0; no < 5; ++no) {
     PTRNDATA item;
     ASSERT_EQ(GetPtrnData(no, &item), 1);
-    EXPECT_EQ(item.Size.cx, widths[no]) << no;
+    EXPECT_EQ(Extent(item.Size).Width, widths[no]) << no;
   }
 }
 
@@ -175,9 +182,9 @@ TEST_F(Items, OfAnyColourSystemStayInsideTheirParameters) {
 TEST_F(Items, MayFillTheirTextFieldsToTheLastByte) {
   PTRNDATA item = TextItem(TypeFixedString, 0, 0, Font16, {});
   std::memset(item.Text1, 'A', sizeof item.Text1);
-  const SIZE size = SizeOf(item);
-  EXPECT_GT(size.cx, 8 * 100);
-  EXPECT_LE(size.cx, 8 * 102);
+  const Extent size = SizeOf(item);
+  EXPECT_GT(size.Width, 8 * 100);
+  EXPECT_LE(size.Width, 8 * 102);
 }
 
 }  // namespace
