@@ -4,11 +4,6 @@
 
 namespace {
 
-// From any two corners.
-PlaneBox Normalised(gint64 x1, gint64 y1, gint64 x2, gint64 y2) {
-  return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
-}
-
 // The four sides, drawn round from the first corner, so that dashes run on from side to side.
 void StrokeBox(Drawable& drawable, const DrawGc& gc, const PlaneBox& box) {
   const LineEnds sides[] = {{box.x1, box.y1, box.x2, box.y1},

@@ -5,11 +5,6 @@
 
 namespace {
 
-// From any two corners; x2, y2 are the smaller corner plus width and height.
-PlaneBox Normalised(gint64 x1, gint64 y1, gint64 x2, gint64 y2) {
-  return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
-}
-
 // Pixels of one row of a figure, both included; empty when first > last.
 struct Span {
   gint64 first;

@@ -19,6 +19,11 @@ struct PlaneBox {
   }
 };
 
+// The box between any two corners.
+inline PlaneBox Normalised(gint64 x1, gint64 y1, gint64 x2, gint64 y2) {
+  return {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)};
+}
+
 inline PlaneBox BoxOf(const Drawable& drawable) {
   const gint64 x = drawable.X();
   const gint64 y = drawable.Y();

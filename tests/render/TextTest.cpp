@@ -191,6 +191,29 @@ TEST_F(TextOn, FontRootCanBeSet) {
   EXPECT_TRUE(FontSet(Gothic12).NamesBitmapFont());
 }
 
+// The face has its centred label 2 from the left, on the line that begins at its top.
+TEST_F(TextOn, ButtonIsAFramedBoxWithALabel) {
+  Paper paper(11, 15);
+  DrawButn(&paper.surface, &paper.gc, 0, 0, 10, 14, 1, 1, 0, ColourRed, ColourBlack, 0, 3, "A");
+  EXPECT_EQ(paper.Text(), R"(
+gggggggggog
+grrrrrrrro.
+grrr#rrrro.
+grrr#rrrro.
+grr#r#rrro.
+grr#r#rrro.
+grr#r#rrro.
+gr#####rro.
+gr#rrr#rro.
+gr#rrr#rro.
+gr#rrr#rro.
+grrrrrrrro.
+grrrrrrrro.
+goooooooooo
+g........o.
+)");
+}
+
 using Names = std::vector<std::string>;
 
 TEST(FontNames, CharsetIsPutIn) {
