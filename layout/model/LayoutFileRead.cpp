@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <cstring>
 #include <new>
 #include <vector>
 
@@ -38,7 +38,7 @@ bool ReadHeader(LayoutInput& input, PTRNHEDR& header) {
 PTRNDATA ItemFromRecord(const PTRNFILE& record) {
   PTRNDATA item{};
   item.Type = record.Type;
-  std::copy(std::begin(record.Parm), std::end(record.Parm), std::begin(item.Parm));
+  std::memcpy(item.Parm, record.Parm, sizeof item.Parm);
   item.ID_Type = record.ID_Type;
   item.ID_No = record.ID_No;
   item.UndfFlag = record.UndfFlag;

@@ -1,7 +1,8 @@
 #include "layout/Store.h"
 
-PTRNHEDR PtrnHedr;
-PTRNHEDR EditHedr;
-PTRNDATA PtrnData;
+// Packed records may start anywhere, but controls are bound to their numbers by address.
+alignas(gint) PTRNHEDR PtrnHedr;
+alignas(gint) PTRNHEDR EditHedr;
+alignas(gint) PTRNDATA PtrnData;
 gchar PtrnName[82];
 gint PtrnFlag;

@@ -4,7 +4,8 @@ gint ProjFlag;
 gchar ProjName[82];
 gchar ProjPath[258];
 gchar BmapPath[258];
-PROJDATA ProjData;
-PROJDATA EditData;
+// Packed records may start anywhere, but controls are bound to their numbers by address.
+alignas(gint) PROJDATA ProjData;
+alignas(gint) PROJDATA EditData;
 gchar EditName[82];
 gchar EditPath[258];

@@ -26,11 +26,11 @@ TEST(GuardsTest, DisplaySize) {
   const SIZE sizes[] = {{800, 600},  {1024, 768},  {1280, 1024}, {1152, 864},
                         {1280, 960}, {1400, 1050}, {1600, 1200}};
   for (gint i = 0; i < 7; ++i) {
-    EXPECT_EQ(DisplaySize(i).cx, sizes[i].cx);
-    EXPECT_EQ(DisplaySize(i).cy, sizes[i].cy);
+    EXPECT_EQ(+DisplaySize(i).cx, +sizes[i].cx);
+    EXPECT_EQ(+DisplaySize(i).cy, +sizes[i].cy);
   }
-  EXPECT_EQ(DisplaySize(7).cx, 800);
-  for (const gint index : Odd) EXPECT_EQ(DisplaySize(index).cy, 600) << index;
+  EXPECT_EQ(+DisplaySize(7).cx, 800);
+  for (const gint index : Odd) EXPECT_EQ(+DisplaySize(index).cy, 600) << index;
 }
 
 TEST(GuardsTest, CalendarFormat) {

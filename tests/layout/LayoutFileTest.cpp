@@ -76,30 +76,30 @@ TEST_F(LayoutFileTest, ReadsEveryField) {
   EXPECT_STREQ(PtrnHedr.PtrnName3, "C");
   EXPECT_STREQ(PtrnHedr.LogoName, "D");
   EXPECT_STREQ(PtrnHedr.BmapName, "E");
-  EXPECT_EQ(PtrnHedr.DataCount, 1);
-  EXPECT_EQ(PtrnHedr.TextSize, 14);
-  EXPECT_EQ(PtrnHedr.UndfFlag, 3);
+  EXPECT_EQ(+PtrnHedr.DataCount, 1);
+  EXPECT_EQ(+PtrnHedr.TextSize, 14);
+  EXPECT_EQ(+PtrnHedr.UndfFlag, 3);
 
   ASSERT_EQ(GetPtrnCount(), 1);
   const PTRNDATA item = Item(0);
   EXPECT_EQ(item.Type, 2);
   EXPECT_EQ(item.Parm[0], 300);
   EXPECT_EQ(item.Parm[29], 329);
-  EXPECT_EQ(item.Point1.x, 300);
-  EXPECT_EQ(item.Point1.y, 301);
-  EXPECT_EQ(item.Point2.x, 302);
-  EXPECT_EQ(item.Point2.y, 303);
+  EXPECT_EQ(+item.Point1.x, 300);
+  EXPECT_EQ(+item.Point1.y, 301);
+  EXPECT_EQ(+item.Point2.x, 302);
+  EXPECT_EQ(+item.Point2.y, 303);
   EXPECT_STREQ(item.Text1, "x");
   EXPECT_STREQ(item.Text2, "yy");
   EXPECT_STREQ(item.Text3, "");
   EXPECT_STREQ(item.ID_Name, "name");
   EXPECT_STREQ(item.ID_Code, "ID");
-  EXPECT_EQ(item.ID_Type, 6);
-  EXPECT_EQ(item.ID_No, 77);
-  EXPECT_EQ(item.UndfFlag, 1);
-  EXPECT_EQ(item.Size.cx, 0);
-  EXPECT_EQ(item.RegstFlag, 0);
-  EXPECT_EQ(item.CheckFlag, 0);
+  EXPECT_EQ(+item.ID_Type, 6);
+  EXPECT_EQ(+item.ID_No, 77);
+  EXPECT_EQ(+item.UndfFlag, 1);
+  EXPECT_EQ(+item.Size.cx, 0);
+  EXPECT_EQ(+item.RegstFlag, 0);
+  EXPECT_EQ(+item.CheckFlag, 0);
 }
 
 TEST_F(LayoutFileTest, WithoutItemsTheFileIsItsHeaderAndReadsAsNotRead) {
@@ -124,9 +124,9 @@ TEST_F(LayoutFileTest, ItemsAreGroupedByTypeInPaintingOrder) {
   const gint order[] = {1, 3, 4, 5, 2, 12, 13, 14, 15, 9, 10, 11, 6, 7, 8};
   for (gint i = 0; i < 15; ++i) {
     EXPECT_EQ(Item(2 * i).Type, order[i]);
-    EXPECT_EQ(Item(2 * i).ID_No, 1);
+    EXPECT_EQ(+Item(2 * i).ID_No, 1);
     EXPECT_EQ(Item(2 * i + 1).Type, order[i]);
-    EXPECT_EQ(Item(2 * i + 1).ID_No, 2);
+    EXPECT_EQ(+Item(2 * i + 1).ID_No, 2);
   }
 }
 
@@ -137,7 +137,7 @@ TEST_F(LayoutFileTest, CountsIncompleteItems) {
     AddPtrnData(&item);
   }
   Written();
-  EXPECT_EQ(PtrnHedr.UndfFlag, 3);
+  EXPECT_EQ(+PtrnHedr.UndfFlag, 3);
 }
 
 TEST_F(LayoutFileTest, AnUnknownTypeIsCountedButNotWritten) {
@@ -175,7 +175,7 @@ TEST_F(LayoutFileTest, ReadingDropsUnknownTypesAndTheirTexts) {
   EXPECT_EQ(Item(0).Type, 3);
   EXPECT_STREQ(Item(0).Text1, "3");
   EXPECT_STREQ(Item(0).ID_Code, "C");
-  EXPECT_EQ(PtrnHedr.DataCount, 3) << "the header stays as it was read";
+  EXPECT_EQ(+PtrnHedr.DataCount, 3) << "the header stays as it was read";
 }
 
 TEST_F(LayoutFileTest, ReadingAppendsToTheStore) {

@@ -1,4 +1,5 @@
-// An empty layout, and a folder for its file.
+// An empty layout, and a folder for its file. Numbers behind the texts of a record lie at odd
+// addresses, so tests compare them by value: "+item.ID_No".
 #pragma once
 
 #include <gtest/gtest.h>

@@ -44,9 +44,9 @@ class LayoutInitTest : public testing::Test {
     EXPECT_STREQ(EditHedr.PtrnName3, "Three");
     EXPECT_STREQ(EditHedr.BmapName, "");
     EXPECT_EQ(EditHedr.Version, 0);
-    EXPECT_EQ(EditHedr.DataCount, 0);
-    EXPECT_EQ(EditHedr.TextSize, 0);
-    EXPECT_EQ(EditHedr.UndfFlag, 0);
+    EXPECT_EQ(+EditHedr.DataCount, 0);
+    EXPECT_EQ(+EditHedr.TextSize, 0);
+    EXPECT_EQ(+EditHedr.UndfFlag, 0);
   }
 
   TempFolder folder_;

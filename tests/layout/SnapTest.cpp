@@ -25,8 +25,8 @@ class SnapTest : public testing::Test {
   }
   static void ExpectSnapped(POINT from, gint half, POINT to) {
     NormalizePoint(&from, half);
-    EXPECT_EQ(from.x, to.x);
-    EXPECT_EQ(from.y, to.y);
+    EXPECT_EQ(+from.x, +to.x);
+    EXPECT_EQ(+from.y, +to.y);
   }
   static PTRNDATA Snapped(gint type, POINT point1, POINT point2) {
     PTRNDATA item{};
@@ -38,10 +38,10 @@ class SnapTest : public testing::Test {
     return item;
   }
   static void ExpectPoints(const PTRNDATA& item, POINT point1, POINT point2) {
-    EXPECT_EQ(item.Point1.x, point1.x);
-    EXPECT_EQ(item.Point1.y, point1.y);
-    EXPECT_EQ(item.Point2.x, point2.x);
-    EXPECT_EQ(item.Point2.y, point2.y);
+    EXPECT_EQ(+item.Point1.x, +point1.x);
+    EXPECT_EQ(+item.Point1.y, +point1.y);
+    EXPECT_EQ(+item.Point2.x, +point2.x);
+    EXPECT_EQ(+item.Point2.y, +point2.y);
   }
 };
 
@@ -85,7 +85,7 @@ TEST_F(SnapTest, TheLargestNumbersDoNotOverflow) {
   SetGrid(11, 11);
   ExpectSnapped({G_MAXINT, G_MININT}, 0, {2147483640, -2147483600});
   const PTRNDATA item = Snapped(6, {G_MAXINT, G_MAXINT}, {G_MININT, G_MININT});
-  EXPECT_EQ(item.Point1.y, G_MAXINT);
+  EXPECT_EQ(+item.Point1.y, G_MAXINT);
 }
 
 TEST_F(SnapTest, TwoPointItemsSnapToTheHalfGridCornersInOrder) {
@@ -110,22 +110,22 @@ TEST_F(SnapTest, OnePointItemsSnapToTheGridAndCentreInWholeRows) {
 
 TEST_F(SnapTest, AnOddRestGoesAbove) {
   FontHeight[3] = 13;  // three dots are left, two of them above
-  EXPECT_EQ(Snapped(6, {0, 8}, {0, 0}).Point1.y, 10);
+  EXPECT_EQ(+Snapped(6, {0, 8}, {0, 0}).Point1.y, 10);
   FontHeight[3] = 16;
-  EXPECT_EQ(Snapped(6, {0, 8}, {0, 0}).Point1.y, 8);
+  EXPECT_EQ(+Snapped(6, {0, 8}, {0, 0}).Point1.y, 8);
   FontHeight[3] = 17;  // 7 dots are left of three rows
-  EXPECT_EQ(Snapped(6, {0, 8}, {0, 0}).Point1.y, 12);
+  EXPECT_EQ(+Snapped(6, {0, 8}, {0, 0}).Point1.y, 12);
 }
 
 TEST_F(SnapTest, WithoutAFontTheRowIsHalved) {
   FontHeight[3] = 0;
-  EXPECT_EQ(Snapped(6, {0, 8}, {0, 0}).Point1.y, 12);
+  EXPECT_EQ(+Snapped(6, {0, 8}, {0, 0}).Point1.y, 12);
 }
 
 TEST_F(SnapTest, AHugeFontOnTheFinestGridTakesNoTime) {
   SetGrid(0, 0);
   FontHeight[3] = G_MAXINT;
-  EXPECT_EQ(Snapped(6, {0, 8}, {0, 0}).Point1.y, 8);
+  EXPECT_EQ(+Snapped(6, {0, 8}, {0, 0}).Point1.y, 8);
 }
 
 TEST_F(SnapTest, AnUnknownTypeIsLeftAlone) {

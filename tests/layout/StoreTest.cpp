@@ -46,14 +46,14 @@ TEST_F(StoreTest, CopiesWholeItemsInAndOut) {
 
   PTRNDATA out{};
   ASSERT_EQ(GetPtrnData(0, &out), 1);
-  EXPECT_EQ(out.ID_No, 7);
+  EXPECT_EQ(+out.ID_No, 7);
   EXPECT_EQ(out.Parm[29], 12);
   EXPECT_EQ(out.Text3[101], 'x');
-  EXPECT_EQ(out.CheckFlag, 1);
+  EXPECT_EQ(+out.CheckFlag, 1);
 
   ASSERT_EQ(SetPtrnData(0, &item), 1);
   EXPECT_EQ(NumberAt(0), 8);
-  EXPECT_EQ(ViewPtrnData(0)->ID_No, 8);
+  EXPECT_EQ(+ViewPtrnData(0)->ID_No, 8);
 }
 
 TEST_F(StoreTest, GrowsPastItsFirstHundred) {
