@@ -1,0 +1,84 @@
+#include "window/Program.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+
+#include "window/Widgets.h"
+
+namespace {
+namespace fs = std::filesystem;
+
+// The folder's name stands in the profile.
+void ReplaceAll(std::string& text, const std::string& what, const std::string& with) {
+  for (std::size_t at = text.find(what); at != std::string::npos;
+       at = text.find(what, at + with.size()))
+    text.replace(at, what.size(), with);
+}
+}  // namespace
+
+ProgramFolder::ProgramFolder() {
+  const fs::path built = fs::path(TEST_BUILD_DIR) / "VarnixMaster";
+  fs::copy(built, folder_.Path(), fs::copy_options::recursive);
+  std::string profile = folder_.Read("VarnixMaster.ini");
+  ReplaceAll(profile, fs::canonical(built).string(), folder_.Path());
+  folder_.Write("VarnixMaster.ini", profile);
+}
+
+RunningProgram::RunningProgram(const ProgramFolder& folder, const std::string& display) {
+  const std::string errors = output_.Path("stderr");
+  const std::string program = folder.Executable();
+  pid_ = fork();
+  if (pid_ != 0) return;
+  const int file = open(errors.c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600);
+  dup2(file, STDERR_FILENO);
+  if (!display.empty()) setenv("DISPLAY", display.c_str(), 1);
+  execl(program.c_str(), program.c_str(), nullptr);
+  _exit(127);
+}
+
+RunningProgram::~RunningProgram() {
+  if (pid_ <= 0 || status_) return;
+  kill(pid_, SIGKILL);
+  waitpid(pid_, nullptr, 0);
+}
+
+std::optional<int> RunningProgram::Wait() {
+  WaitFor([this] {
+    int status = 0;
+    if (!status_ && waitpid(pid_, &status, WNOHANG) == pid_)
+      status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return status_.has_value();
+  });
+  return status_;
+}
+
+std::string RunningProgram::Complaints() const {
+  return output_.Exists("stderr") ? output_.Read("stderr") : "";
+}
+
+std::string XDoTool(const std::vector<std::string>& arguments) {
+  std::vector<const gchar*> words = {"xdotool"};
+  for (const std::string& argument : arguments) words.push_back(argument.c_str());
+  words.push_back(nullptr);
+  gchar* output = nullptr;
+  g_spawn_sync(nullptr, const_cast<gchar**>(words.data()), nullptr,
+               static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDERR_TO_DEV_NULL), nullptr,
+               nullptr, &output, nullptr, nullptr, nullptr);
+  std::string text = output != nullptr ? output : "";
+  g_free(output);
+  while (!text.empty() && text.back() == '\n') text.pop_back();
+  return text;
+}
+
+bool WaitForTitle(const std::string& title) {
+  return WaitFor([&] { return XDoTool({"getactivewindow", "getwindowname"}) == title; });
+}
+
+void PressKeys(const std::vector<std::string>& keys) {
+  for (const std::string& key : keys) XDoTool({"key", key});
+}

@@ -1,0 +1,123 @@
+#include <algorithm>
+#include <filesystem>
+
+#include "ProjData.h"
+#include "PtrnMisc.h"
+#include "render/Layout.h"
+#include "render/Primitives.h"
+#include "window/Program.h"
+#include "window/Widgets.h"
+#include "window/WindowTest.h"
+
+namespace {
+namespace fs = std::filesystem;
+
+const std::string ProjectTitle = "レイアウト作成  [WaterWorks]";
+
+PixbufPtr ScreenShot() {
+  GdkWindow* root = gdk_get_default_root_window();
+  return PixbufPtr(gdk_pixbuf_get_from_window(root, 0, 0, gdk_window_get_width(root),
+                                              gdk_window_get_height(root)));
+}
+
+// Whether the screen shows the picture somewhere, whole and exact.
+bool ScreenShows(const Drawable& picture) {
+  const PixbufPtr shot = ScreenShot();
+  const gint right = gdk_pixbuf_get_width(shot.get()) - picture.Width();
+  const gint bottom = gdk_pixbuf_get_height(shot.get()) - picture.Height();
+  for (gint y = 0; y <= bottom; y++)
+    for (gint x = 0; x <= right; x++)
+      if (Shows(shot.get(), x, y, picture)) return true;
+  return false;
+}
+
+// The program in its own process, its folder and records read by the test, too.
+class RealProgram : public WindowTest {
+ protected:
+  RealProgram() {
+    CopyText(PathName, Folder.Path());
+    InitDrawData();
+    ProjDataInit();
+  }
+
+  // Leaves one layout in the project, without a clock and shown at 100 %; opens it in the records.
+  void KeepOneLayout(const std::string& name) {
+    const std::string record = EucFromUtf8(name).value();
+    for (const fs::directory_entry& entry : fs::directory_iterator(ProjPath))
+      if (entry.path().extension() == ".ptn" && entry.path().stem() != record)
+        fs::remove(entry.path());
+    IntPtrnData();
+    ASSERT_EQ(PtrnFileRead(ProjPath, record.c_str()), 1);
+    PtrnHedr.Parm1[HedrSlot::DateFormat] = 0;
+    PtrnFileWrite(ProjPath, record.c_str());
+    gint zoom = 2;
+    ProfileWrite1("", "PTRNDATA", "ZOOM", "i", &zoom);
+  }
+
+  // Opens the only layout through the menu key and the dialog.
+  void OpenOnlyLayout() {
+    PressKeys({"ctrl+o"});
+    ASSERT_TRUE(WaitForTitle("レイアウトを開く"));
+    // From the cancel button on to the list, its row, and the third button after it.
+    PressKeys({"Tab", "space", "Tab", "Tab", "Tab", "space"});
+  }
+
+  ProgramFolder Folder;
+};
+
+TEST_F(RealProgram, ReopensTheLastProjectAndEndsByItsMenuKey) {
+  RunningProgram program(Folder);
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  PressKeys({"ctrl+q"});
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaints(), "");
+  EXPECT_NE(Folder.Profile().find("WINDOW=1120,900"), std::string::npos);
+}
+
+TEST_F(RealProgram, EndsWhenTheWindowManagerClosesIt) {
+  RunningProgram program(Folder);
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  PressKeys({"alt+F4"});
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaints(), "");
+  EXPECT_NE(Folder.Profile().find("WINDOW=1120,900"), std::string::npos);
+}
+
+TEST_F(RealProgram, ShowsTheStartPicture) {
+  RunningProgram program(Folder);
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  // 20 % of the canvas's height, which is a little less than the window's.
+  Drawable logo(1120 * 70 / 100, 100);
+  DrawGc gc;
+  EXPECT_TRUE(WaitFor([&] {
+    for (gint height = 880; height > 850; height--) {
+      FillPixels(&logo, 0, 0, logo.Width(), logo.Height(), 0xffffff);
+      DrawBmap(&logo, &gc, 0, 0, logo.Width(), height * 20 / 100, -1, PathName, "VarnixMaster.bmp");
+      if (ScreenShows(logo)) return true;
+    }
+    return false;
+  }));
+}
+
+TEST_F(RealProgram, ShowsALayoutAsTheCoreRendersIt) {
+  KeepOneLayout("全体監視");
+  RunningProgram program(Folder);
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  OpenOnlyLayout();
+  ASSERT_TRUE(WaitForTitle("レイアウト作成  [WaterWorks / 全体監視]"));
+  Drawable picture(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]);
+  DrawGc gc;
+  DrawWindow1(&picture, &gc);
+  EXPECT_TRUE(WaitFor([&] { return ScreenShows(picture); }));
+  PressKeys({"ctrl+q"});
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaints(), "");
+}
+
+TEST_F(RealProgram, SaysInOneLineThatThereIsNoDisplay) {
+  RunningProgram program(Folder, ":9999");
+  EXPECT_EQ(program.Wait(), 3);
+  const std::string complaint = program.Complaints();
+  EXPECT_EQ(std::count(complaint.begin(), complaint.end(), '\n'), 1) << complaint;
+}
+}  // namespace
