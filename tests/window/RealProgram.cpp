@@ -20,14 +20,25 @@ PixbufPtr ScreenShot() {
                                               gdk_window_get_height(root)));
 }
 
+// The first pixel that differs from the corner; few places of a screen have its colour.
+POINT Landmark(const Drawable& picture) {
+  for (gint y = 0; y < picture.Height(); y++)
+    for (gint x = 0; x < picture.Width(); x++)
+      if (picture.At(x, y) != picture.At(0, 0)) return {x, y};
+  return {0, 0};
+}
+
 // Whether the screen shows the picture somewhere, whole and exact.
 bool ScreenShows(const Drawable& picture) {
   const PixbufPtr shot = ScreenShot();
+  const POINT mark = Landmark(picture);
   const gint right = gdk_pixbuf_get_width(shot.get()) - picture.Width();
   const gint bottom = gdk_pixbuf_get_height(shot.get()) - picture.Height();
   for (gint y = 0; y <= bottom; y++)
     for (gint x = 0; x <= right; x++)
-      if (Shows(shot.get(), x, y, picture)) return true;
+      if (PixelAt(shot.get(), x + mark.x, y + mark.y) == picture.At(mark.x, mark.y) &&
+          Shows(shot.get(), x, y, picture))
+        return true;
   return false;
 }
 
