@@ -36,7 +36,10 @@ GtkWidget* CreateScrolledCanvas() {
 void UseProgramIcon() {
   gchar path[PathSize];
   MakePath(path, PathName, "VarnixMaster", "png");
-  gtk_window_set_default_icon_from_file(path, nullptr);
+  // Without a place for the error a missing file would be complained about.
+  GError* error = nullptr;
+  gtk_window_set_default_icon_from_file(path, &error);
+  g_clear_error(&error);
 }
 }  // namespace
 
