@@ -7,6 +7,7 @@ DialogWindow NewChooserWindow(const gchar* title, GCallback choose, GCallback ca
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   *chooseButton = AddDialogButton(dialog, " 選択 ", choose, dialog.Window);
   gtk_widget_set_sensitive(*chooseButton, FALSE);
+  SetDefaultButton(*chooseButton);
   AddDialogButton(dialog, " 取消 ", cancel, dialog.Window);
   return dialog;
 }

@@ -73,7 +73,8 @@ gint Dlg_Copy_Move(GtkWidget* parent, gint mode, const gchar* title, DLGPARM* pa
   gtk_widget_show(table);
   Dlg_String(dialog.Window, table, copy ? Dlg_Copy_String : Dlg_Move_String);
   Dlg_NumrBox(dialog.Window, table, copy ? Dlg_Copy_Numr : Dlg_Move_Numr);
-  AddDialogButton(dialog, copy ? " 複写 " : " 移動 ", G_CALLBACK(Dlg_CopyMove_OK), dialog.Window);
+  SetDefaultButton(AddDialogButton(dialog, copy ? " 複写 " : " 移動 ", G_CALLBACK(Dlg_CopyMove_OK),
+                                   dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(Dlg_CopyMove_CAN), dialog.Window);
   RunModal(dialog.Window, parent);
   if (CopyMoveResult == 1) *parm = EditParm;

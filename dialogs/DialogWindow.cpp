@@ -2,9 +2,18 @@
 
 namespace {
 
+// At once, not when the loop is idle as gtk_window_close does: a second press must find no window.
+void AskToClose(GtkWidget* window) {
+  GdkEvent* event = gdk_event_new(GDK_DELETE);
+  event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(window)));
+  event->any.send_event = TRUE;
+  gtk_main_do_event(event);
+  gdk_event_free(event);
+}
+
 gboolean CloseOnEscape(GtkWidget* window, const GdkEventKey* event, gpointer /*data*/) {
   if (event->keyval != GDK_KEY_Escape) return FALSE;
-  gtk_window_close(GTK_WINDOW(window));
+  AskToClose(window);
   return TRUE;
 }
 
@@ -37,6 +46,11 @@ GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCall
   gtk_box_pack_start(GTK_BOX(dialog.Actions), button, FALSE, FALSE, 0);
   gtk_widget_show(button);
   return button;
+}
+
+void SetDefaultButton(GtkWidget* button) {
+  gtk_widget_set_can_default(button, TRUE);
+  gtk_widget_grab_default(button);
 }
 
 void SetDialogParent(GtkWidget* window, GtkWidget* parent) {

@@ -14,6 +14,8 @@ DialogWindow NewDialogWindow(const gchar* title);
 // Adds a shown button; `clicked` gets (button, data).
 GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCallback clicked,
                            gpointer data);
+// Return in an entry of the dialog presses this button.
+void SetDefaultButton(GtkWidget* button);
 // Keeps `window` above the window that `parent` lies in; nothing happens without one.
 void SetDialogParent(GtkWidget* window, GtkWidget* parent);
 // Shows the window, holds the grab and returns when the window has been destroyed.

@@ -38,6 +38,12 @@ const gchar* ReasonToRefuse(const std::string& text, gint size) {
   return euc->size() > static_cast<gsize>(MAX(size, 0)) ? TooLong : nullptr;
 }
 
+// A change takes the mark of a refusal away, but not the deletion that makes room for a refused
+// text, which comes before it.
+void Dlg_EditBox_Delete(GtkEditable* entry, gint /*start*/, gint /*end*/, gpointer /*data*/) {
+  ClearRefusal(GTK_WIDGET(entry));
+}
+
 void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, const gint* position,
                         const DLG_EDITBOX* row) {
   std::string whole = gtk_entry_get_text(GTK_ENTRY(entry));
@@ -47,13 +53,20 @@ void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, cons
   if (const gchar* reason = ReasonToRefuse(whole, row->size)) {
     g_signal_stop_emission_by_name(entry, "insert-text");
     ShowRefusal(GTK_WIDGET(entry), reason);
+  } else {
+    ClearRefusal(GTK_WIDGET(entry));
   }
 }
 
+// Stored bytes that are no text show escaped and may then be longer than the field; until they are
+// shortened to what fits, the record keeps what it holds.
 void Dlg_EditBox_Entry(GtkEditable* entry, const DLG_EDITBOX* row) {
-  ClearRefusal(GTK_WIDGET(entry));
-  if (const auto euc = EucFromUtf8(gtk_entry_get_text(GTK_ENTRY(entry))))
-    CopyText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1, *euc);
+  const gchar* text = gtk_entry_get_text(GTK_ENTRY(entry));
+  if (const gchar* reason = ReasonToRefuse(text, row->size)) {
+    ShowRefusal(GTK_WIDGET(entry), reason);
+    return;
+  }
+  CopyText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1, EucFromUtf8(text).value_or(""));
 }
 
 }  // namespace
@@ -84,6 +97,9 @@ void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
     gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(FieldText(row.text, size + 1)).c_str());
     gtk_editable_set_position(GTK_EDITABLE(entry), 0);
     gtk_editable_set_editable(GTK_EDITABLE(entry), row.edit == 0);
+    g_object_set(entry, "truncate-multiline", TRUE, nullptr);
+    gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
+    g_signal_connect(entry, "delete-text", G_CALLBACK(Dlg_EditBox_Delete), nullptr);
     g_signal_connect(entry, "insert-text", G_CALLBACK(Dlg_EditBox_Insert), &row);
     g_signal_connect(entry, "changed", G_CALLBACK(Dlg_EditBox_Entry), &row);
     KeepWidget(&row.entry, entry);

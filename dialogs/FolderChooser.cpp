@@ -82,6 +82,7 @@ gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
   GtkWidget* entry = gtk_entry_new();
   gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
   gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(home).c_str());
+  gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
   g_signal_connect(entry, "changed", G_CALLBACK(FolderSelect_Input), nullptr);
   KeepWidget(&FolderSelect_Entry, entry);
   gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 5);

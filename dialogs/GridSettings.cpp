@@ -59,7 +59,7 @@ void PtrnGridSet(GtkWidget* /*parent*/, gpointer /*data*/) {
   Dlg_String(dialog.Window, table, PtrnGrid_String);
   Dlg_ComboBox(dialog.Window, table, PtrnGrid_Combo);
   Dlg_ColrData(dialog.Window, table, PtrnGrid_Colr);
-  AddDialogButton(dialog, " 設定 ", G_CALLBACK(PtrnGridSet_OK), dialog.Window);
+  SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(PtrnGridSet_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnGridSet_CAN), dialog.Window);
   RunModal(dialog.Window, PtrnWnd);
   DrawRequest(1);

@@ -20,6 +20,7 @@ void Dlg_NumrBox(GtkWidget* parent, GtkWidget* table, DLG_NUMRBOX* rows) {
     GtkWidget* spin = gtk_spin_button_new(adjustment, 0.0, 0);
     gtk_spin_button_set_wrap(GTK_SPIN_BUTTON(spin), FALSE);
     gtk_spin_button_set_numeric(GTK_SPIN_BUTTON(spin), TRUE);
+    gtk_entry_set_activates_default(GTK_ENTRY(spin), TRUE);
     g_signal_connect(adjustment, "value-changed", G_CALLBACK(Dlg_NumrBox_Change), &row);
     gtk_widget_show(spin);
 

@@ -69,6 +69,7 @@ gint PtrnFileClose(GtkWidget* parent) {
   ListLayouts(list, false);
   KeepWidget(&SaveButton,
              AddDialogButton(dialog, " 保存 ", G_CALLBACK(PtrnFileClose_Save), dialog.Window));
+  SetDefaultButton(SaveButton);
   KeepWidget(&DiscardButton,
              AddDialogButton(dialog, " 破棄 ", G_CALLBACK(PtrnFileClose_Delete), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileClose_CAN), dialog.Window);

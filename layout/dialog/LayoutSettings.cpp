@@ -68,7 +68,7 @@ gint EditPtrnData(GtkWidget* parent) {
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   EditLayoutWindow = dialog.Window;
   NewPage(dialog, page);
-  AddDialogButton(dialog, " 設定 ", G_CALLBACK(EditPtrnData_OK), dialog.Window);
+  SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(EditPtrnData_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditPtrnData_CAN), dialog.Window);
   RunModal(dialog.Window, parent);
   EditLayoutWindow = nullptr;

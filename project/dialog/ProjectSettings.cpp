@@ -186,7 +186,7 @@ gint EditProjData(GtkWidget* parent, const gchar* title) {
   gtk_container_set_border_width(GTK_CONTAINER(notebook), 10);
   gtk_box_pack_start(GTK_BOX(dialog.Content), notebook, TRUE, TRUE, 0);
   gtk_widget_show(notebook);
-  AddDialogButton(dialog, " 登録 ", G_CALLBACK(EditProjData_OK), nullptr);
+  SetDefaultButton(AddDialogButton(dialog, " 登録 ", G_CALLBACK(EditProjData_OK), nullptr));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditProjData_CAN), nullptr);
   RunModeless(dialog.Window, parent);
   EditProj = nullptr;

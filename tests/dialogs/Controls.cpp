@@ -1,0 +1,165 @@
+#include "dialogs/Controls.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "window/Widgets.h"
+
+namespace {
+
+struct EventFree {
+  void operator()(GdkEvent* event) const { gdk_event_free(event); }
+};
+using EventPtr = std::unique_ptr<GdkEvent, EventFree>;
+
+EventPtr NewEvent(GdkEventType type, GtkWidget* widget) {
+  EventPtr event(gdk_event_new(type));
+  event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(widget)));
+  event->any.send_event = TRUE;
+  return event;
+}
+
+GdkSeat* SeatOf(GtkWidget* widget) {
+  return gdk_display_get_default_seat(gtk_widget_get_display(widget));
+}
+
+std::vector<GtkWidget*> ChildrenOf(GtkWidget* grid) {
+  std::vector<GtkWidget*> children;
+  GList* list = gtk_container_get_children(GTK_CONTAINER(grid));
+  for (GList* link = list; link != nullptr; link = link->next)
+    children.push_back(GTK_WIDGET(link->data));
+  g_list_free(list);
+  // A grid tells its children newest first.
+  std::reverse(children.begin(), children.end());
+  return children;
+}
+
+gboolean IsKind(GtkWidget* widget, GType kind) {
+  return G_TYPE_CHECK_INSTANCE_TYPE(widget, kind);
+}
+
+GtkTreeView* FirstList(GtkWidget* root) {
+  GtkWidget* list =
+      FindWidget(root, [](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) != FALSE; });
+  return list != nullptr ? GTK_TREE_VIEW(list) : nullptr;
+}
+
+}  // namespace
+
+GtkWidget* FindGrid(GtkWidget* root) {
+  return FindWidget(root, [](GtkWidget* widget) { return GTK_IS_GRID(widget) != FALSE; });
+}
+
+CellPlace PlaceOf(GtkWidget* grid, GtkWidget* child) {
+  gint left = 0;
+  gint top = 0;
+  gint width = 0;
+  gtk_container_child_get(GTK_CONTAINER(grid), child, "left-attach", &left, "top-attach", &top,
+                          "width", &width, nullptr);
+  return {top, left, left + width - 1};
+}
+
+std::vector<GtkWidget*> ControlsAt(GtkWidget* grid, gint line, gint culm) {
+  std::vector<GtkWidget*> found;
+  for (GtkWidget* child : ChildrenOf(grid)) {
+    const CellPlace place = PlaceOf(grid, child);
+    if (place.Line == line && place.Culm1 == culm) found.push_back(child);
+  }
+  return found;
+}
+
+GtkWidget* ControlAt(GtkWidget* grid, gint line, gint culm, GType kind) {
+  for (GtkWidget* child : ControlsAt(grid, line, culm))
+    if (GtkWidget* found =
+            FindWidget(child, [kind](GtkWidget* widget) { return IsKind(widget, kind) != FALSE; }))
+      return found;
+  return nullptr;
+}
+
+gint CountOf(GtkWidget* root, GType kind) {
+  gint count = 0;
+  FindWidget(root, [&](GtkWidget* widget) {
+    if (IsKind(widget, kind)) count++;
+    return false;
+  });
+  return count;
+}
+
+std::string LabelText(GtkWidget* label) {
+  return GTK_IS_LABEL(label) ? gtk_label_get_text(GTK_LABEL(label)) : "";
+}
+
+std::string EntryText(GtkWidget* entry) {
+  return GTK_IS_ENTRY(entry) ? gtk_entry_get_text(GTK_ENTRY(entry)) : "";
+}
+
+std::string ComboText(GtkWidget* combo) {
+  gchar* text = gtk_combo_box_text_get_active_text(GTK_COMBO_BOX_TEXT(combo));
+  std::string result = text != nullptr ? text : "";
+  g_free(text);
+  return result;
+}
+
+void Type(GtkWidget* entry, const std::string& text) {
+  g_signal_emit_by_name(entry, "insert-at-cursor", text.c_str());
+}
+
+void Press(GtkWidget* area, guint button, gint x, gint y) {
+  const EventPtr event = NewEvent(GDK_BUTTON_PRESS, area);
+  gdk_event_set_device(event.get(), gdk_seat_get_pointer(SeatOf(area)));
+  event->button.button = button;
+  event->button.x = x;
+  event->button.y = y;
+  gtk_main_do_event(event.get());
+}
+
+void Move(GtkWidget* area, gint x, gint y, guint state) {
+  const EventPtr event = NewEvent(GDK_MOTION_NOTIFY, area);
+  gdk_event_set_device(event.get(), gdk_seat_get_pointer(SeatOf(area)));
+  event->motion.state = static_cast<GdkModifierType>(state);
+  event->motion.x = x;
+  event->motion.y = y;
+  gtk_main_do_event(event.get());
+}
+
+void PressKey(GtkWidget* window, guint key) {
+  const EventPtr event = NewEvent(GDK_KEY_PRESS, window);
+  gdk_event_set_device(event.get(), gdk_seat_get_keyboard(SeatOf(window)));
+  event->key.keyval = key;
+  GdkKeymapKey* keys = nullptr;
+  gint count = 0;
+  GdkKeymap* keymap = gdk_keymap_get_for_display(gtk_widget_get_display(window));
+  if (gdk_keymap_get_entries_for_keyval(keymap, key, &keys, &count)) {
+    event->key.hardware_keycode = static_cast<guint16>(keys[0].keycode);
+    g_free(keys);
+  }
+  gtk_main_do_event(event.get());
+}
+
+void CloseByManager(GtkWidget* window) {
+  const EventPtr event = NewEvent(GDK_DELETE, window);
+  gtk_main_do_event(event.get());
+}
+
+void SelectRow(GtkWidget* root, const std::string& path) {
+  GtkTreeView* list = FirstList(root);
+  ASSERT_NE(list, nullptr) << "no list";
+  GtkTreePath* row = gtk_tree_path_new_from_string(path.c_str());
+  gtk_tree_view_expand_to_path(list, row);
+  gtk_tree_selection_select_path(gtk_tree_view_get_selection(list), row);
+  gtk_tree_path_free(row);
+}
+
+std::vector<std::string> RowTexts(GtkWidget* list) {
+  std::vector<std::string> texts;
+  GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(list));
+  GtkTreeIter row;
+  for (gboolean more = gtk_tree_model_get_iter_first(model, &row); more;
+       more = gtk_tree_model_iter_next(model, &row)) {
+    gchar* text = nullptr;
+    gtk_tree_model_get(model, &row, 0, &text, -1);
+    texts.emplace_back(text != nullptr ? text : "");
+    g_free(text);
+  }
+  return texts;
+}
