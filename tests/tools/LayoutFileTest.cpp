@@ -21,8 +21,8 @@ TEST(LayoutFile, ProgramReadsAndWritesWhatTheToolBuilds) {
   IntPtrnData();
   ASSERT_EQ(PtrnFileRead(folder.Path().c_str(), "a"), 1);
   ASSERT_EQ(GetPtrnCount(), 2);
-  EXPECT_EQ(ViewPtrnData(0)->Type, 2);
-  EXPECT_EQ(ViewPtrnData(1)->Type, 9);
+  EXPECT_EQ(gint{ViewPtrnData(0)->Type}, 2);
+  EXPECT_EQ(gint{ViewPtrnData(1)->Type}, 9);
   EXPECT_STREQ(ViewPtrnData(1)->ID_Code, "GO");
   EXPECT_TRUE(WritePtrnFile(folder.Path().c_str(), "b"));
   ExtPtrnData();
