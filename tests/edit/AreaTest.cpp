@@ -101,7 +101,7 @@ TEST_F(AreaTest, MovingShiftsWhatLiesInside) {
   EXPECT_THAT(AllPoints(),
               ElementsAre("(110,17)-(130,37)", "(60,60)-(90,90)", "(140,19)-(120,45)"));
   EXPECT_THAT(PointParmsOf(Stored(0)), ElementsAre(110, 17, 130, 37));
-  EXPECT_EQ(Stored(0).ID_No, 0);
+  EXPECT_EQ(gint{Stored(0).ID_No}, 0);
   EXPECT_EQ(PtrnFlag, 2);
   EXPECT_EQ(Screen.Count("Dlg_AreaMove"), 1);
 }
@@ -112,8 +112,8 @@ TEST_F(AreaTest, CopiesStandBehindAllExistingItems) {
   EXPECT_THAT(AllPoints(), ElementsAre("(10,10)-(30,30)", "(60,60)-(90,90)", "(40,12)-(20,38)",  //
                                        "(11,12)-(31,32)", "(12,14)-(32,34)", "(13,16)-(33,36)",  //
                                        "(41,14)-(21,40)", "(42,16)-(22,42)", "(43,18)-(23,44)"));
-  EXPECT_EQ(Stored(5).ID_No, 30);
-  EXPECT_EQ(Stored(6).ID_No, 10);
+  EXPECT_EQ(gint{Stored(5).ID_No}, 30);
+  EXPECT_EQ(gint{Stored(6).ID_No}, 10);
   EXPECT_EQ(Screen.Count("Dlg_AreaCopy"), 1);
 }
 

@@ -120,7 +120,7 @@ TEST_F(CommitTest, TheDefaultsOfATypeAreWrittenOnRequest) {
   EXPECT_FALSE(Folder.Exists("program/VarnixMaster.ini"));
   PtrnData.CheckFlag = 1;
   Push(Register);
-  EXPECT_EQ(PtrnData.CheckFlag, 0);
+  EXPECT_EQ(gint{PtrnData.CheckFlag}, 0);
   EXPECT_EQ(Folder.Read("program/VarnixMaster.ini"),
             "[PTRNDATA]\n"
             "PTRN-03=4,5,6,7,8,9,10,11,12,13,14,15,16,17,18,19,20,21,22,23,24,25,26,27,28,29\n");
@@ -176,9 +176,9 @@ TEST_F(CommitTest, CopiesStandInARowAndAreNumbered) {
   EXPECT_EQ(PointsOf(Stored(2)), "(20,34)-(60,74)");
   EXPECT_EQ(PointsOf(Stored(3)), "(25,41)-(65,81)");
   EXPECT_EQ(Stored(3).Parm[2], 65);
-  EXPECT_EQ(Stored(1).ID_No, 9999);
-  EXPECT_EQ(Stored(2).ID_No, 0);
-  EXPECT_EQ(Stored(3).ID_No, 1);
+  EXPECT_EQ(gint{Stored(1).ID_No}, 9999);
+  EXPECT_EQ(gint{Stored(2).ID_No}, 0);
+  EXPECT_EQ(gint{Stored(3).ID_No}, 1);
   EXPECT_EQ(PtrnSaveCount, 1);
   EXPECT_EQ(PtrnFlag, 2);
   EXPECT_EQ(Screen.Count("Dlg_ToolCopy"), 1);
@@ -220,7 +220,7 @@ TEST_F(CommitTest, NumbersOfADamagedFileDoNotOverflowInACopy) {
   };
   Push(Copy);
   EXPECT_EQ(PointsOf(Stored(1)), "(2147483647,0)-(2147483647,10)");
-  EXPECT_EQ(Stored(1).ID_No, 3646);
+  EXPECT_EQ(gint{Stored(1).ID_No}, 3646);
 }
 
 }  // namespace

@@ -47,8 +47,8 @@ TEST_F(ItemInHandTest, AnExistingItemTakesItsPointsFromItsParameters) {
   DispToolBox(1, TypeButton);
   EXPECT_EQ(PointsOf(PtrnData), "(10,20)-(30,40)");
   EXPECT_STREQ(PtrnData.ID_Code, "CODE");
-  EXPECT_EQ(PtrnData.RegstFlag, 0);
-  EXPECT_EQ(PtrnData.CheckFlag, 0);
+  EXPECT_EQ(gint{PtrnData.RegstFlag}, 0);
+  EXPECT_EQ(gint{PtrnData.CheckFlag}, 0);
   EXPECT_EQ(PtrnNo, 5);
 }
 

@@ -22,7 +22,7 @@ class RegistryTest : public EditFixture {
     PtrnData.RegstFlag = 1;
     PtrnNo = -1;
     ASSERT_EQ(ToolButn_OK(), 1);
-    EXPECT_EQ(PtrnData.RegstFlag, 0);
+    EXPECT_EQ(gint{PtrnData.RegstFlag}, 0);
   }
   // A registry record of 34 bytes.
   static std::string Record(std::string code, unsigned char count) {

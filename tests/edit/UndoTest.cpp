@@ -60,7 +60,7 @@ TEST_F(UndoTest, ElevenChangesKeepTenSnapshots) {
   for (gint count = 10; count >= 1; --count) {
     PopPtrnData();
     EXPECT_EQ(GetPtrnCount(), count);
-    EXPECT_EQ(Stored(count - 1).Point1.x, count);
+    EXPECT_EQ(gint{Stored(count - 1).Point1.x}, count);
   }
   Screen.Take();
   PopPtrnData();
@@ -78,7 +78,7 @@ TEST_F(UndoTest, AnUndoneSlotIsUsedAgain) {
   EXPECT_EQ(SnapshotCount(), 2);
   PopPtrnData();
   EXPECT_EQ(GetPtrnCount(), 1);
-  EXPECT_EQ(Stored(0).Point1.x, 1);
+  EXPECT_EQ(gint{Stored(0).Point1.x}, 1);
 }
 
 TEST_F(UndoTest, BothDirectionsBringTheMenusUpToDate) {

@@ -216,8 +216,8 @@ TEST_F(ValidationTest, ATextIsCentredInWholeGridRows) {
   PTRNDATA item = MakeValidItem(TypeFixedString, 7, 42, 0, 0);
   item.Parm[15] = 3;
   EXPECT_TRUE(Passes(item));
-  EXPECT_EQ(PtrnData.Point1.x, 7);
-  EXPECT_EQ(PtrnData.Point1.y, 44);  // 40, and half of the 7 dots that two rows leave
+  EXPECT_EQ(gint{PtrnData.Point1.x}, 7);
+  EXPECT_EQ(gint{PtrnData.Point1.y}, 44);  // 40, and half of the 7 dots that two rows leave
 }
 
 TEST_F(ValidationTest, ShapesThatSnapFlatAreRefused) {
