@@ -9,15 +9,30 @@ class Cursors : public WindowTest {
   void SetUp() override {
     WriteProfile("[COLOR]\nCURSOR_FG=65535,0,0\nCURSOR_BG=0,0,65535\n");
     OpenWindow();
-    GdkDisplay* display = gtk_widget_get_display(PtrnWnd);
-    GdkDevice* pointer = gdk_seat_get_pointer(gdk_display_get_default_seat(display));
-    gint x = 0;
-    gint y = 0;
-    gdk_window_get_origin(gtk_widget_get_window(PtrnWnd), &x, &y);
-    gdk_device_warp(pointer, gtk_widget_get_screen(PtrnWnd), x + 400, y + 300);
-    gdk_display_sync(display);
   }
 };
+
+// Moves the pointer to the window, wherever the window manager has put it by now.
+void PointAtWindow() {
+  GdkDisplay* display = gtk_widget_get_display(PtrnWnd);
+  GdkDevice* pointer = gdk_seat_get_pointer(gdk_display_get_default_seat(display));
+  gint x = 0;
+  gint y = 0;
+  gdk_window_get_origin(gtk_widget_get_window(PtrnWnd), &x, &y);
+  gdk_device_warp(pointer, gtk_widget_get_screen(PtrnWnd), x + 400, y + 300);
+  gdk_display_sync(display);
+}
+
+// The pointer over the window; the display's own is smaller.
+PointerImage PointerOverWindow() {
+  PointerImage pointer;
+  EXPECT_TRUE(WaitFor([&] {
+    PointAtWindow();
+    pointer = ShownPointer();
+    return pointer.Width == 32;
+  })) << "the pointer does not reach the window";
+  return pointer;
+}
 
 bool Bit(const guint8* bits, gint x, gint y) {
   return (bits[4 * y + x / 8] & (1 << (x % 8))) != 0;
@@ -30,8 +45,7 @@ TEST_F(Cursors, AreShownWithTheirHotSpotsAndColours) {
   constexpr guint32 Background = 0xff0000ff;
   for (gint no = 0; no < 8; no++) {
     SetCursor(no);
-    gdk_display_sync(gtk_widget_get_display(PtrnWnd));
-    const PointerImage pointer = ShownPointer();
+    const PointerImage pointer = PointerOverWindow();
     ASSERT_EQ(pointer.Width, 32) << no;
     ASSERT_EQ(pointer.Height, 32) << no;
     EXPECT_EQ(pointer.HotX, HotSpots[no].x) << no;

@@ -6,18 +6,47 @@ export GTK_MODULES= GTK_IM_MODULE=gtk-im-context-simple
 here=$(cd "$(dirname "$0")" && pwd)
 export LSAN_OPTIONS="suppressions=$here/lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 
-if [ "${1:-}" = --inside ]; then
+[ $# -gt 0 ] || {
+  echo "usage: run-under-xvfb.sh COMMAND [ARGUMENT...]" >&2
+  exit 2
+}
+work=$(mktemp -d)
+started=()
+finish() {
+  for ((i = ${#started[@]} - 1; i >= 0; i--)); do
+    kill "${started[i]}" 2>/dev/null || true
+    wait "${started[i]}" 2>/dev/null || true
+  done
+  rm -rf "$work"
+}
+trap finish EXIT
+trap 'exit 143' TERM
+trap 'exit 130' INT
+
+# until_true PID COMMAND...: waits for the command to succeed while the process lives.
+until_true() {
+  local pid=$1
   shift
-  # The window manager and its helpers are no part of the test and run without its checks.
-  openbox --sm-disable >/dev/null 2>&1 &
-  manager=$!
-  trap 'kill "$manager" 2>/dev/null || true' EXIT
-  until xdotool get_num_desktops >/dev/null 2>&1; do
-    kill -0 "$manager" || { echo "the window manager did not start" >&2; exit 1; }
+  until "$@" >/dev/null 2>&1; do
+    kill -0 "$pid" 2>/dev/null || {
+      echo "the display or its window manager did not start:" >&2
+      cat "$work/log" >&2
+      exit 1
+    }
     sleep 0.02
   done
-  status=0
-  "$@" || status=$?
-  exit "$status"
-fi
-exec xvfb-run -a -s "-screen 0 1600x1200x24 -nolisten tcp" dbus-run-session -- "$0" --inside "$@"
+}
+
+# The server itself takes the next free number, so displays that start at once do not meet.
+Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
+started+=($!)
+until_true $! grep -q . "$work/display"
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+openbox --sm-disable >"$work/log" 2>&1 &
+started+=($!)
+until_true $! xdotool get_num_desktops
+
+status=0
+dbus-run-session -- "$@" || status=$?
+exit "$status"
