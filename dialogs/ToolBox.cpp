@@ -75,6 +75,8 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
     ToolBox = nullptr;
   }
   ToolBox_Type = type;
+  // Outline and handles belong to the panel's item: they change with it.
+  DrawRequest(0);
   if (!IsItemType(type)) return;
   if (type == TypeVariableString || type == TypeNumeric) GetToolBoxCursor();
 

@@ -82,8 +82,9 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
     if (answer == Cancelled) {
       return;
     }
-    if (answer == Save) {
-      PtrnFileWrite(ProjPath, PtrnName);
+    // What could not be saved stays open, silently: closing would lose it.
+    if (answer == Save && !WritePtrnFile(ProjPath, PtrnName)) {
+      return;
     }
   }
   PtrnDataExit();
@@ -92,11 +93,10 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
 // The snapshots go, their count stays: undoing right after a save empties the store.
 void PtrnDataSave([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (PtrnFlag != 2) {
+  if (PtrnFlag != 2 || !WritePtrnFile(ProjPath, PtrnName)) {
     return;
   }
   PtrnFlag = 1;
-  PtrnFileWrite(ProjPath, PtrnName);
   PtrnSaveExit();
   SetMainMenu();
 }

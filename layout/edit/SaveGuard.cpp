@@ -29,8 +29,9 @@ gint SavePtrnData() {
     if (answer == AnswerCancel) {
       return 0;
     }
-    if (answer == AnswerSave) {
-      PtrnFileWrite(ProjPath, PtrnName);
+    // A layout that could not be saved is not released.
+    if (answer == AnswerSave && !WritePtrnFile(ProjPath, PtrnName)) {
+      return 0;
     }
   }
   PtrnFlag = 0;

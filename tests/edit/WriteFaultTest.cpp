@@ -66,8 +66,33 @@ TEST_F(WriteFaultTest, AFailedSaveKeepsLayoutAndOldFile) {
     PtrnDataSave(nullptr, nullptr);
   }
   EXPECT_EQ(GetPtrnCount(), 2);
+  EXPECT_EQ(PtrnFlag, 2) << "still to be saved";
   EXPECT_EQ(Folder.Read("project/Screen.ptn"), SavedFile);
   EXPECT_THAT(ProjectEntries(), testing::UnorderedElementsAre("Screen.ptn", "PtrnCode"));
+}
+
+TEST_F(WriteFaultTest, ALayoutThatCannotBeSavedIsNotClosed) {
+  Change();
+  Screen.CloseAnswers = {1};
+  {
+    const FullDisk full;
+    PtrnDataClose(nullptr, nullptr);
+  }
+  EXPECT_EQ(PtrnFlag, 2);
+  EXPECT_EQ(GetPtrnCount(), 2);
+  EXPECT_EQ(Folder.Read("project/Screen.ptn"), SavedFile);
+}
+
+TEST_F(WriteFaultTest, ALayoutThatCannotBeSavedStopsWhatWouldDropIt) {
+  Change();
+  Screen.MessageAnswers = {1};
+  Screen.CloseAnswers = {1};
+  {
+    const FullDisk full;
+    EXPECT_EQ(SavePtrnData(), 0);
+  }
+  EXPECT_EQ(PtrnFlag, 2);
+  EXPECT_EQ(GetPtrnCount(), 2);
 }
 
 TEST_F(WriteFaultTest, ACommitOnAFullDiskStandsInMemory) {
