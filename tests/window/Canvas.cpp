@@ -93,10 +93,10 @@ TEST_F(Canvas, SizesTruncate) {
   OpenWindow();
   ShowLayout(641, 481, Zoom50);
   EXPECT_EQ(PtrnDraw_Mode, 1);
-  EXPECT_EQ(PtrnDraw_Size1.cx, 641);
-  EXPECT_EQ(PtrnDraw_Size1.cy, 481);
-  EXPECT_EQ(PtrnDraw_Size2.cx, 320);
-  EXPECT_EQ(PtrnDraw_Size2.cy, 240);
+  EXPECT_EQ(gint{PtrnDraw_Size1.cx}, 641);
+  EXPECT_EQ(gint{PtrnDraw_Size1.cy}, 481);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cx}, 320);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cy}, 240);
   gint width = 0;
   gint height = 0;
   gtk_widget_get_size_request(PtrnDraw, &width, &height);
@@ -115,9 +115,9 @@ TEST_F(Canvas, ALayoutWithoutSizeHasOnePixel) {
 TEST_F(Canvas, ADamagedSizeIsBounded) {
   OpenWindow();
   SizeRequest(1, -20, 2000000000, 500);
-  EXPECT_EQ(PtrnDraw_Size1.cx, 1);
-  EXPECT_EQ(PtrnDraw_Size1.cy, 9999);
-  EXPECT_EQ(PtrnDraw_Size2.cy, 49995);
+  EXPECT_EQ(gint{PtrnDraw_Size1.cx}, 1);
+  EXPECT_EQ(gint{PtrnDraw_Size1.cy}, 9999);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cy}, 49995);
 }
 
 TEST_F(Canvas, ShowsTheLayoutAtEveryZoomWithAndWithoutGrid) {

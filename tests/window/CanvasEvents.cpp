@@ -58,10 +58,10 @@ TEST_F(CanvasEvents, TheStartPictureTakesNoMouse) {
 TEST_F(CanvasEvents, MotionDragsTheSelectedItem) {
   Drag(115, 100, 115, 100);
   Drag(115, 100, 135, 105);
-  EXPECT_EQ(PtrnData.Point1.x, 120);
-  EXPECT_EQ(PtrnData.Point1.y, 105);
-  EXPECT_EQ(PtrnData.Point2.x, 180);
-  EXPECT_EQ(PtrnData.Point2.y, 145);
+  EXPECT_EQ(gint{PtrnData.Point1.x}, 120);
+  EXPECT_EQ(gint{PtrnData.Point1.y}, 105);
+  EXPECT_EQ(gint{PtrnData.Point2.x}, 180);
+  EXPECT_EQ(gint{PtrnData.Point2.y}, 145);
 }
 
 TEST_F(CanvasEvents, RightPressOpensTheViewMenuWhileNothingIsEdited) {

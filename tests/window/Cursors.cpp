@@ -48,8 +48,8 @@ TEST_F(Cursors, AreShownWithTheirHotSpotsAndColours) {
     const PointerImage pointer = PointerOverWindow();
     ASSERT_EQ(pointer.Width, 32) << no;
     ASSERT_EQ(pointer.Height, 32) << no;
-    EXPECT_EQ(pointer.HotX, HotSpots[no].x) << no;
-    EXPECT_EQ(pointer.HotY, HotSpots[no].y) << no;
+    EXPECT_EQ(pointer.HotX, gint{HotSpots[no].x}) << no;
+    EXPECT_EQ(pointer.HotY, gint{HotSpots[no].y}) << no;
     for (gint y = 0; y < 32; y++)
       for (gint x = 0; x < 32; x++) {
         const guint32 colour = Bit(CursorData[no], x, y) ? Foreground : Background;

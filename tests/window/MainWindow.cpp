@@ -34,15 +34,15 @@ void CloseByManager() {
 
 TEST_F(MainWindow, OpensAt800By600WithoutASavedSize) {
   OpenWindow();
-  EXPECT_EQ(Allocated(PtrnWnd).cx, 800);
-  EXPECT_EQ(Allocated(PtrnWnd).cy, 600);
+  EXPECT_EQ(gint{Allocated(PtrnWnd).cx}, 800);
+  EXPECT_EQ(gint{Allocated(PtrnWnd).cy}, 600);
 }
 
 TEST_F(MainWindow, OpensInItsSavedSize) {
   WriteProfile("[PROJECT]\nWINDOW=1010,707\n");
   OpenWindow();
-  EXPECT_EQ(Allocated(PtrnWnd).cx, 1010);
-  EXPECT_EQ(Allocated(PtrnWnd).cy, 707);
+  EXPECT_EQ(gint{Allocated(PtrnWnd).cx}, 1010);
+  EXPECT_EQ(gint{Allocated(PtrnWnd).cy}, 707);
 }
 
 TEST_F(MainWindow, ASavedSizeThatNoDisplayHasCountsAsMissing) {
@@ -77,8 +77,8 @@ TEST_F(MainWindow, HoldsTheMenuBarAboveTheCanvas) {
   gtk_widget_translate_coordinates(PtrnDraw, PtrnWnd, 0, 0, &x, &canvasY);
   EXPECT_EQ(x, 0);
   EXPECT_EQ(canvasY, Allocated(MenuBar()).cy);
-  EXPECT_EQ(Allocated(PtrnDraw).cx, 800);
-  EXPECT_EQ(Allocated(PtrnDraw).cy, 600 - Allocated(MenuBar()).cy);
+  EXPECT_EQ(gint{Allocated(PtrnDraw).cx}, 800);
+  EXPECT_EQ(gint{Allocated(PtrnDraw).cy}, 600 - Allocated(MenuBar()).cy);
 }
 
 TEST_F(MainWindow, TitleNamesProjectAndLayout) {

@@ -196,12 +196,12 @@ TEST_F(Menus, MarksFollowTheView) {
 TEST_F(Menus, ZoomEntryChangesTheCanvasAndBothMarks) {
   ShowLayout(400, 300, 2);
   Choose(MenuEntry(MenuBar(), {"表示", "ズーム", "200%"}));
-  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::Zoom], 1);
-  EXPECT_EQ(PtrnDraw_Size2.cx, 800);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::Zoom]}, 1);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cx}, 800);
   EXPECT_EQ(Marks(PtrnZoom1), "01000");
   EXPECT_EQ(Marks(PtrnZoom2), "01000");
   Choose(MenuEntry(PopupMenu[0], {"ズーム", " 50%"}));
-  EXPECT_EQ(PtrnDraw_Size2.cx, 200);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cx}, 200);
   EXPECT_EQ(Marks(PtrnZoom1), "00001");
   EXPECT_EQ(Marks(PtrnZoom2), "00001");
 }
@@ -209,7 +209,7 @@ TEST_F(Menus, ZoomEntryChangesTheCanvasAndBothMarks) {
 TEST_F(Menus, TheEntryThatIsOnKeepsItsMark) {
   ShowLayout(400, 300, 2);
   Choose(MenuEntry(MenuBar(), {"表示", "ズーム", "100%"}));
-  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::Zoom], 2);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::Zoom]}, 2);
   EXPECT_EQ(Marks(PtrnZoom1), "00100");
   Choose(MenuEntry(MenuBar(), {"表示", "表示色", "表示色１"}));
   EXPECT_EQ(Marks(PtrnSetColr), "1000");
@@ -220,10 +220,10 @@ TEST_F(Menus, TheEntryThatIsOnKeepsItsMark) {
 TEST_F(Menus, GridEntryTurnsTheGridOnAndOff) {
   ShowLayout(400, 300, 2);
   Choose(MenuEntry(MenuBar(), {"表示", "方眼表示"}));
-  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::GridShown], 1);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::GridShown]}, 1);
   EXPECT_TRUE(Marked(DispMenu[3]));
   Choose(MenuEntry(PopupMenu[0], {"方眼表示"}));
-  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::GridShown], 0);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::GridShown]}, 0);
   EXPECT_FALSE(Marked(DispMenu[1]));
 }
 
@@ -245,10 +245,10 @@ TEST_F(Menus, TypeEntryChoosesAndUnchooses) {
 TEST_F(Menus, UnpickableEntryKeepsItsOwnMark) {
   ShowLayout(400, 300, 2);
   Choose(MenuEntry(MenuBar(), {"表示", "非検出", "直線"}));
-  EXPECT_EQ(PtrnUnSlct[1], 1);
+  EXPECT_EQ(gint{PtrnUnSlct[1]}, 1);
   EXPECT_EQ(Marks(PtrnSlct[2]), "010000000000000");
   Choose(MenuEntry(MenuBar(), {"表示", "非検出", "直線"}));
-  EXPECT_EQ(PtrnUnSlct[1], 0);
+  EXPECT_EQ(gint{PtrnUnSlct[1]}, 0);
 }
 
 TEST_F(Menus, ItemCommandsFollowTheBits) {
@@ -263,9 +263,9 @@ TEST_F(Menus, ItemCommandsFollowTheBits) {
 TEST_F(Menus, KeysWork) {
   ShowLayout(400, 300, 2);
   SendKey(GDK_KEY_2, GDK_CONTROL_MASK);
-  EXPECT_EQ(PtrnDraw_Size2.cx, 800);
+  EXPECT_EQ(gint{PtrnDraw_Size2.cx}, 800);
   SendKey(GDK_KEY_g, GDK_CONTROL_MASK);
-  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::GridShown], 1);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::GridShown]}, 1);
 }
 
 TEST_F(Menus, KeysAreShown) {
