@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "Holders.h"
-#include "Overlay.h"
+#include "OverlayRegion.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"

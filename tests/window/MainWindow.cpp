@@ -76,7 +76,7 @@ TEST_F(MainWindow, HoldsTheMenuBarAboveTheCanvas) {
   EXPECT_EQ(barY, 0);
   gtk_widget_translate_coordinates(PtrnDraw, PtrnWnd, 0, 0, &x, &canvasY);
   EXPECT_EQ(x, 0);
-  EXPECT_EQ(canvasY, Allocated(MenuBar()).cy);
+  EXPECT_EQ(canvasY, gint{Allocated(MenuBar()).cy});
   EXPECT_EQ(gint{Allocated(PtrnDraw).cx}, 800);
   EXPECT_EQ(gint{Allocated(PtrnDraw).cy}, 600 - Allocated(MenuBar()).cy);
 }

@@ -1,4 +1,4 @@
-#include "Overlay.h"
+#include "OverlayRegion.h"
 
 #include <algorithm>
 
