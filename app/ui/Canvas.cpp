@@ -113,7 +113,11 @@ void DrawRequest(gint mode) {
   }
   RegionPtr overlay = CanvasOverlay();
   if (mode != 0 || !ShownOverlay) {
-    if (mode != 0) RenderLayout();
+    if (mode != 0) {
+      RenderLayout();
+      // Every change of the layout ends here, and the first one makes it worth saving.
+      SetMainMenu();
+    }
     gtk_widget_queue_draw(PtrnDraw);
   } else {
     cairo_region_union(ShownOverlay.get(), overlay.get());

@@ -162,6 +162,18 @@ TEST_F(Menus, UndoFollowsTheSnapshots) {
   EXPECT_FALSE(Enabled({"編集", "元に戻す"}));
 }
 
+TEST_F(Menus, TheFirstChangeOffersSaving) {
+  IntPtrnData();
+  const PTRNDATA box = BoxItem(100, 100, 160, 140, 1);
+  AddPtrnData(&box);
+  ShowLayout(400, 300, 2);
+  EXPECT_FALSE(gtk_widget_get_sensitive(FileMenu[9]));
+  Drag(115, 100, 115, 100);
+  ToolBoxButn(nullptr, GINT_TO_POINTER(1));
+  EXPECT_EQ(PtrnFlag, 2);
+  EXPECT_TRUE(gtk_widget_get_sensitive(FileMenu[9]));
+}
+
 TEST_F(Menus, LanguagesAndColourSystemsFollowTheProject) {
   PtrnFlag = 1;
   ProjData.Parm1[1] = 1;

@@ -5,6 +5,7 @@
 #include "PtrnMisc.h"
 #include "render/Layout.h"
 #include "render/Primitives.h"
+#include "window/PopUps.h"
 #include "window/Program.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
@@ -28,8 +29,8 @@ POINT Landmark(const Drawable& picture) {
   return {0, 0};
 }
 
-// Whether the screen shows the picture somewhere, whole and exact.
-bool ScreenShows(const Drawable& picture) {
+// Where the screen shows the picture, whole and exact.
+std::optional<POINT> FindOnScreen(const Drawable& picture) {
   const PixbufPtr shot = ScreenShot();
   const POINT mark = Landmark(picture);
   const gint right = gdk_pixbuf_get_width(shot.get()) - picture.Width();
@@ -38,8 +39,34 @@ bool ScreenShows(const Drawable& picture) {
     for (gint x = 0; x <= right; x++)
       if (PixelAt(shot.get(), x + mark.x, y + mark.y) == picture.At(mark.x, mark.y) &&
           Shows(shot.get(), x, y, picture))
-        return true;
-  return false;
+        return POINT{x, y};
+  return std::nullopt;
+}
+
+bool ScreenShows(const Drawable& picture) {
+  return FindOnScreen(picture).has_value();
+}
+
+// The layout in the records as the core renders it.
+std::unique_ptr<Drawable> RenderedLayout() {
+  auto picture =
+      std::make_unique<Drawable>(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]);
+  DrawGc gc;
+  DrawWindow1(picture.get(), &gc);
+  return picture;
+}
+
+void MovePointer(gint x, gint y) {
+  XDoTool({"mousemove", "--sync", std::to_string(x), std::to_string(y)});
+}
+
+// Opens a pop-up menu at the pointer and chooses its entry number `entry`, counted from 1.
+void ChooseFromPopUp(gint entry) {
+  const int before = ShownPopUps();
+  XDoTool({"click", "3"});
+  ASSERT_TRUE(WaitFor([&] { return ShownPopUps() > before; }));
+  PressKeys(std::vector<std::string>(static_cast<std::size_t>(entry), "Down"));
+  PressKeys({"Return"});
 }
 
 // The program in its own process, its folder and records read by the test, too.
@@ -116,13 +143,59 @@ TEST_F(RealProgram, ShowsALayoutAsTheCoreRendersIt) {
   ASSERT_TRUE(WaitForTitle(ProjectTitle));
   OpenOnlyLayout();
   ASSERT_TRUE(WaitForTitle("レイアウト作成  [WaterWorks / 全体監視]"));
-  Drawable picture(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]);
-  DrawGc gc;
-  DrawWindow1(&picture, &gc);
-  EXPECT_TRUE(WaitFor([&] { return ScreenShows(picture); }));
+  const std::unique_ptr<Drawable> picture = RenderedLayout();
+  EXPECT_TRUE(WaitFor([&] { return ScreenShows(*picture); }));
   PressKeys({"ctrl+q"});
   EXPECT_EQ(program.Wait(), 0);
   EXPECT_EQ(program.Complaints(), "");
+}
+
+TEST_F(RealProgram, DrawsRegistersAndSavesAnItem) {
+  const std::string name = EucFromUtf8("終了確認").value();
+  const std::string title = "レイアウト作成  [WaterWorks / 終了確認]";
+  KeepOneLayout("終了確認");
+  IntPtrnData();
+  PtrnHedr.Parm2[ViewSlot::GridShown] = 0;
+  PtrnHedr.Parm2[ViewSlot::GridX] = PtrnHedr.Parm2[ViewSlot::GridY] = 0;
+  PtrnFileWrite(ProjPath, name.c_str());
+
+  RunningProgram program(Folder);
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  OpenOnlyLayout();
+  ASSERT_TRUE(WaitForTitle(title));
+  const std::unique_ptr<Drawable> empty = RenderedLayout();
+  std::optional<POINT> origin;
+  ASSERT_TRUE(WaitFor([&] {
+    origin = FindOnScreen(*empty);
+    return origin.has_value();
+  }));
+
+  MovePointer(origin->x + 40, origin->y + 60);
+  constexpr gint RectangleEntry = 6;
+  ChooseFromPopUp(RectangleEntry);
+  ASSERT_TRUE(WaitForTitle("矩形"));
+  XDoTool({"mousedown", "1"});
+  MovePointer(origin->x + 180, origin->y + 130);
+  MovePointer(origin->x + 240, origin->y + 200);
+  XDoTool({"mouseup", "1"});
+  constexpr gint RegisterEntry = 1;
+  ChooseFromPopUp(RegisterEntry);
+  XDoTool({"search", "--name", title, "windowactivate", "--sync"});
+  ASSERT_TRUE(WaitForTitle(title));
+  PressKeys({"ctrl+s", "ctrl+q"});
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaints(), "");
+
+  IntPtrnData();
+  PtrnFileRead(ProjPath, name.c_str());
+  ASSERT_EQ(GetPtrnCount(), 1);
+  PTRNDATA item{};
+  GetPtrnData(0, &item);
+  EXPECT_EQ(gint{item.Type}, TypeRectangle);
+  EXPECT_EQ(gint{item.Parm[ItemSlot::X1]}, 40);
+  EXPECT_EQ(gint{item.Parm[ItemSlot::Y1]}, 60);
+  EXPECT_EQ(gint{item.Parm[ItemSlot::X2]}, 240);
+  EXPECT_EQ(gint{item.Parm[ItemSlot::Y2]}, 200);
 }
 
 TEST_F(RealProgram, SaysInOneLineThatThereIsNoDisplay) {
