@@ -1,5 +1,6 @@
 // The dialog that asks how often and how far to copy, or how far to move.
 #include "dialogs/Cells.h"
+#include "dialogs/ControlTables.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Kit.h"
 #include "layout/Screen.h"
@@ -65,12 +66,8 @@ gint Dlg_Copy_Move(GtkWidget* parent, gint mode, const gchar* title, DLGPARM* pa
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER_ON_PARENT);
 
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 20);
+  GtkWidget* table = NewControlGrid(20);
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
-  gtk_widget_show(table);
   Dlg_String(dialog.Window, table, copy ? Dlg_Copy_String : Dlg_Move_String);
   Dlg_NumrBox(dialog.Window, table, copy ? Dlg_Copy_Numr : Dlg_Move_Numr);
   SetDefaultButton(AddDialogButton(dialog, copy ? " 複写 " : " 移動 ", G_CALLBACK(Dlg_CopyMove_OK),

@@ -1,5 +1,6 @@
 // The grid settings dialog of the open layout.
 #include "Constant.h"
+#include "dialogs/ControlTables.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
@@ -50,15 +51,10 @@ void PtrnGridSet(GtkWidget* /*parent*/, gpointer /*data*/) {
   const DialogWindow dialog = NewDialogWindow("方眼設定");
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 20);
+  GtkWidget* table = NewControlGrid(20);
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
-  gtk_widget_show(table);
-  Dlg_String(dialog.Window, table, PtrnGrid_String);
-  Dlg_ComboBox(dialog.Window, table, PtrnGrid_Combo);
-  Dlg_ColrData(dialog.Window, table, PtrnGrid_Colr);
+  BuildControls(dialog.Window, table,
+                {.String = PtrnGrid_String, .Combo = PtrnGrid_Combo, .Colr = PtrnGrid_Colr});
   SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(PtrnGridSet_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnGridSet_CAN), dialog.Window);
   RunModal(dialog.Window, PtrnWnd);

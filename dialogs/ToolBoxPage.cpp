@@ -38,12 +38,8 @@ void SetToolBoxContent(GtkWidget* window, GtkWidget* content) {
 // A grid grows with what is placed in it, so the size asked for needs no reservation.
 GtkWidget* ToolBox_Title(GtkWidget* window, const gchar* title, gint /*line*/, gint /*culm*/) {
   gtk_window_set_title(GTK_WINDOW(window), title);
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 10);
+  GtkWidget* table = NewControlGrid(10);
   gtk_box_pack_start(GTK_BOX(ToolBoxContent(window)), table, FALSE, FALSE, 0);
-  gtk_widget_show(table);
   return table;
 }
 
@@ -58,20 +54,14 @@ void AddBrowseButton(GtkWidget* table, const BrowseButton& browse) {
 
 void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
   GtkWidget* table = ToolBox_Title(window, page.Title, page.Lines, page.Culms);
-  if (page.SystemColours) ShowSystemColours(page.Colr1);
-  Dlg_String(window, table, page.String);
-  Dlg_EditBox(window, table, page.Edit);
-  Dlg_NumrBox(window, table, page.Numr);
-  Dlg_ComboBox(window, table, page.Combo);
-  Dlg_RadioButn(window, table, page.Radio);
-  Dlg_CheckButn(window, table, page.Check);
-  Dlg_ColrData(window, table, page.Colr1);
-  Dlg_ColrData(window, table, page.Colr2);
-  Dlg_MarkData(window, table, page.Mark);
+  if (page.SystemColours) ShowSystemColours(page.Tables.Colr);
+  BuildControls(window, table, page.Tables);
+  Dlg_ColrData(window, table, page.MoreColours);
   if (page.Browse.Open != nullptr) {
     // Pickers are given the first row of the one-language table whatever table is shown; it then
     // stands for the entry that the user sees.
-    if (page.Browse.Edit != page.Edit) KeepWidget(&page.Browse.Edit->entry, page.Edit->entry);
+    if (page.Browse.Edit != page.Tables.Edit)
+      KeepWidget(&page.Browse.Edit->entry, page.Tables.Edit->entry);
     AddBrowseButton(table, page.Browse);
   }
   ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);

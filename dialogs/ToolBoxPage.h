@@ -1,6 +1,7 @@
 // What a tool box page is made of.
 #pragma once
 
+#include "dialogs/ControlTables.h"
 #include "dialogs/ToolBox.h"
 
 using Picker = void (*)(GtkWidget* widget, DLG_EDITBOX* edit);
@@ -13,7 +14,6 @@ struct BrowseButton {
   DLG_EDITBOX* Edit;
 };
 
-// Tables that a page does not have are null.
 struct ToolBoxPage {
   const gchar* Title;
   gint Lines;
@@ -21,17 +21,10 @@ struct ToolBoxPage {
   gint CommonLine;
   gint OnePoint;
   gint Registers;  // its text can go to the string list
-  DLG_STRING* String = nullptr;
-  DLG_EDITBOX* Edit = nullptr;
-  DLG_NUMRBOX* Numr = nullptr;
-  DLG_COMBOBOX* Combo = nullptr;
-  DLG_RADIOBUTN* Radio = nullptr;
-  DLG_CHECKBUTN* Check = nullptr;
-  DLG_COLRDATA* Colr1 = nullptr;
-  DLG_COLRDATA* Colr2 = nullptr;
-  DLG_MARKDATA* Mark = nullptr;
+  ControlTables Tables;
+  DLG_COLRDATA* MoreColours = nullptr;
   BrowseButton Browse = {0, 0, nullptr, nullptr};
-  bool SystemColours = false;  // columns 3 and 4 of Colr1 belong to colour systems 2 and 3
+  bool SystemColours = false;  // columns 3 and 4 of the colours belong to colour systems 2 and 3
 };
 
 // The page of a type 1..15 for the display language and the project's colour systems.

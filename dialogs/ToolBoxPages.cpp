@@ -8,253 +8,200 @@
 
 namespace {
 
-bool FourSystems() {
-  return ProjData.Parm1[2] != 0;
-}
+// Index = display language.
+const ControlTables FixedStringTables[3] = {{.String = ToolFchr1_String,
+                                             .Edit = ToolFchr1_Edit,
+                                             .Combo = ToolFchr1_Combo,
+                                             .Check = ToolFchr1_Check,
+                                             .Colr = ToolFchr1_Colr},
+                                            {.String = ToolFchr2_String,
+                                             .Edit = ToolFchr2_Edit,
+                                             .Combo = ToolFchr2_Combo,
+                                             .Check = ToolFchr2_Check,
+                                             .Colr = ToolFchr2_Colr},
+                                            {.String = ToolFchr3_String,
+                                             .Edit = ToolFchr3_Edit,
+                                             .Combo = ToolFchr3_Combo,
+                                             .Check = ToolFchr3_Check,
+                                             .Colr = ToolFchr3_Colr}};
+const ControlTables ButtonTables[3] = {{.String = ToolButn1_String,
+                                        .Edit = ToolButn1_Edit,
+                                        .Numr = ToolButn1_Numr,
+                                        .Combo = ToolButn1_Combo,
+                                        .Radio = ToolButn1_Radio,
+                                        .Colr = ToolButn1_Colr},
+                                       {.String = ToolButn2_String,
+                                        .Edit = ToolButn2_Edit,
+                                        .Numr = ToolButn2_Numr,
+                                        .Combo = ToolButn2_Combo,
+                                        .Radio = ToolButn2_Radio,
+                                        .Colr = ToolButn2_Colr},
+                                       {.String = ToolButn3_String,
+                                        .Edit = ToolButn3_Edit,
+                                        .Numr = ToolButn3_Numr,
+                                        .Combo = ToolButn3_Combo,
+                                        .Radio = ToolButn3_Radio,
+                                        .Colr = ToolButn3_Colr}};
+const ControlTables RadioButtonTables[3] = {{.String = ToolRdio1_String,
+                                             .Edit = ToolRdio1_Edit,
+                                             .Numr = ToolRdio1_Numr,
+                                             .Combo = ToolRdio1_Combo,
+                                             .Check = ToolRdio1_Check,
+                                             .Colr = ToolRdio1_Colr},
+                                            {.String = ToolRdio2_String,
+                                             .Edit = ToolRdio2_Edit,
+                                             .Numr = ToolRdio2_Numr,
+                                             .Combo = ToolRdio2_Combo,
+                                             .Check = ToolRdio2_Check,
+                                             .Colr = ToolRdio2_Colr},
+                                            {.String = ToolRdio3_String,
+                                             .Edit = ToolRdio3_Edit,
+                                             .Numr = ToolRdio3_Numr,
+                                             .Combo = ToolRdio3_Combo,
+                                             .Check = ToolRdio3_Check,
+                                             .Colr = ToolRdio3_Colr}};
+const ControlTables CheckBoxTables[3] = {{.String = ToolChck1_String,
+                                          .Edit = ToolChck1_Edit,
+                                          .Combo = ToolChck1_Combo,
+                                          .Check = ToolChck1_Check,
+                                          .Colr = ToolChck1_Colr},
+                                         {.String = ToolChck2_String,
+                                          .Edit = ToolChck2_Edit,
+                                          .Combo = ToolChck2_Combo,
+                                          .Check = ToolChck2_Check,
+                                          .Colr = ToolChck2_Colr},
+                                         {.String = ToolChck3_String,
+                                          .Edit = ToolChck3_Edit,
+                                          .Combo = ToolChck3_Combo,
+                                          .Check = ToolChck3_Check,
+                                          .Colr = ToolChck3_Colr}};
 
+// A frame takes more tables, not more columns of one, where four colour systems are shown.
 ToolBoxPage FramePage() {
-  ToolBoxPage page = {"矩形枠", 13, ProjData.Parm1[1] == 0 ? 5 : 6, 8, 0, 0};
-  page.String = ToolGbox_String;
-  page.Numr = FourSystems() ? ToolGbox_Numr2 : ToolGbox_Numr1;
-  page.Colr1 = ToolGbox_Colr1;
-  page.Colr2 = FourSystems() ? ToolGbox_Colr2 : nullptr;
-  return page;
+  const bool four = ProjData.Parm1[2] != 0;
+  return {.Title = "矩形枠",
+          .Lines = 13,
+          .Culms = ProjData.Parm1[1] == 0 ? 5 : 6,
+          .CommonLine = 8,
+          .OnePoint = 0,
+          .Registers = 0,
+          .Tables = {.String = ToolGbox_String,
+                     .Numr = four ? ToolGbox_Numr2 : ToolGbox_Numr1,
+                     .Colr = ToolGbox_Colr1},
+          .MoreColours = four ? ToolGbox_Colr2 : nullptr};
 }
 
-ToolBoxPage LinePage() {
-  ToolBoxPage page = {"直線", 13, 5, 7, 0, 0};
-  page.String = ToolLine_String;
-  page.Numr = ToolLine_Numr;
-  page.Combo = ToolLine_Combo;
-  page.Radio = ToolLine_Radio;
-  page.Colr1 = ToolLine_Colr;
-  page.SystemColours = true;
-  return page;
+// The page of a type without a text.
+ToolBoxPage PlainPage(const gchar* title, gint lines, gint commonLine, gint onePoint,
+                      bool systemColours, const ControlTables& tables) {
+  return {.Title = title,
+          .Lines = lines,
+          .Culms = 5,
+          .CommonLine = commonLine,
+          .OnePoint = onePoint,
+          .Registers = 0,
+          .Tables = tables,
+          .SystemColours = systemColours};
 }
 
-ToolBoxPage RectanglePage() {
-  ToolBoxPage page = {"矩形", 13, 5, 8, 0, 0};
-  page.String = ToolRect_String;
-  page.Numr = ToolRect_Numr;
-  page.Radio = ToolRect_Radio;
-  page.Check = ToolRect_Check;
-  page.Colr1 = ToolRect_Colr;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage EllipsePage() {
-  ToolBoxPage page = {"楕円", 13, 5, 8, 0, 0};
-  page.String = ToolCrcl_String;
-  page.Numr = ToolCrcl_Numr;
-  page.Radio = ToolCrcl_Radio;
-  page.Check = ToolCrcl_Check;
-  page.Colr1 = ToolCrcl_Colr;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage BarGraphPage() {
-  ToolBoxPage page = {"棒グラフ", 13, 5, 9, 0, 0};
-  page.String = ToolBarg_String;
-  page.Numr = ToolBarg_Numr;
-  page.Radio = ToolBarg_Radio;
-  page.Colr1 = ToolBarg_Colr;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage FixedStringPage(gint language) {
-  static const struct {
-    DLG_STRING* String;
-    DLG_EDITBOX* Edit;
-    DLG_COMBOBOX* Combo;
-    DLG_CHECKBUTN* Check;
-    DLG_COLRDATA* Colr;
-  } Tables[3] = {
-      {ToolFchr1_String, ToolFchr1_Edit, ToolFchr1_Combo, ToolFchr1_Check, ToolFchr1_Colr},
-      {ToolFchr2_String, ToolFchr2_Edit, ToolFchr2_Combo, ToolFchr2_Check, ToolFchr2_Colr},
-      {ToolFchr3_String, ToolFchr3_Edit, ToolFchr3_Combo, ToolFchr3_Check, ToolFchr3_Colr}};
-  const auto& tables = Tables[language];
-  ToolBoxPage page = {"固定文字列", language + 14, 5, language + 7, 1, 1};
-  page.String = tables.String;
-  page.Edit = tables.Edit;
-  page.Combo = tables.Combo;
-  page.Check = tables.Check;
-  page.Colr1 = tables.Colr;
-  page.SystemColours = true;
-  page.Browse = {1, language + 4, ToolBox_Text1, ToolFchr1_Edit};
-  return page;
-}
-
-ToolBoxPage VariableStringPage() {
-  ToolBoxPage page = {"可変文字列", 16, 5, 10, 1, 0};
-  page.String = ToolChar_String;
-  page.Numr = ToolChar_Numr;
-  page.Combo = ToolChar_Combo;
-  page.Check = ToolChar_Check;
-  page.Colr1 = ToolChar_Colr;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage NumericPage() {
-  ToolBoxPage page = {"数値データ", 18, 5, 12, 1, 0};
-  page.String = ToolNumr_String;
-  page.Numr = ToolNumr_Numr;
-  page.Combo = ToolNumr_Combo;
-  page.Check = ToolNumr_Check;
-  page.Colr1 = ToolNumr_Colr;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage ButtonPage(gint language) {
-  static const struct {
-    DLG_STRING* String;
-    DLG_EDITBOX* Edit;
-    DLG_NUMRBOX* Numr;
-    DLG_COMBOBOX* Combo;
-    DLG_RADIOBUTN* Radio;
-    DLG_COLRDATA* Colr;
-  } Tables[3] = {{ToolButn1_String, ToolButn1_Edit, ToolButn1_Numr, ToolButn1_Combo,
-                  ToolButn1_Radio, ToolButn1_Colr},
-                 {ToolButn2_String, ToolButn2_Edit, ToolButn2_Numr, ToolButn2_Combo,
-                  ToolButn2_Radio, ToolButn2_Colr},
-                 {ToolButn3_String, ToolButn3_Edit, ToolButn3_Numr, ToolButn3_Combo,
-                  ToolButn3_Radio, ToolButn3_Colr}};
-  const auto& tables = Tables[language];
-  ToolBoxPage page = {"ボタン", language + 18, 5, language + 11, 0, 1};
-  page.String = tables.String;
-  page.Edit = tables.Edit;
-  page.Numr = tables.Numr;
-  page.Combo = tables.Combo;
-  page.Radio = tables.Radio;
-  page.Colr1 = tables.Colr;
-  page.Browse = {2, language + 4, ToolBox_Text1, ToolButn1_Edit};
-  return page;
-}
-
-ToolBoxPage RadioButtonPage(gint language) {
-  static const struct {
-    DLG_STRING* String;
-    DLG_EDITBOX* Edit;
-    DLG_NUMRBOX* Numr;
-    DLG_COMBOBOX* Combo;
-    DLG_CHECKBUTN* Check;
-    DLG_COLRDATA* Colr;
-  } Tables[3] = {{ToolRdio1_String, ToolRdio1_Edit, ToolRdio1_Numr, ToolRdio1_Combo,
-                  ToolRdio1_Check, ToolRdio1_Colr},
-                 {ToolRdio2_String, ToolRdio2_Edit, ToolRdio2_Numr, ToolRdio2_Combo,
-                  ToolRdio2_Check, ToolRdio2_Colr},
-                 {ToolRdio3_String, ToolRdio3_Edit, ToolRdio3_Numr, ToolRdio3_Combo,
-                  ToolRdio3_Check, ToolRdio3_Colr}};
-  const auto& tables = Tables[language];
-  ToolBoxPage page = {"ラジオボタン", language + 14, 5, language + 7, 1, 1};
-  page.String = tables.String;
-  page.Edit = tables.Edit;
-  page.Numr = tables.Numr;
-  page.Combo = tables.Combo;
-  page.Check = tables.Check;
-  page.Colr1 = tables.Colr;
-  page.Browse = {1, language + 4, ToolBox_Text1, ToolRdio1_Edit};
-  return page;
-}
-
-ToolBoxPage CheckBoxPage(gint language) {
-  static const struct {
-    DLG_STRING* String;
-    DLG_EDITBOX* Edit;
-    DLG_COMBOBOX* Combo;
-    DLG_CHECKBUTN* Check;
-    DLG_COLRDATA* Colr;
-  } Tables[3] = {
-      {ToolChck1_String, ToolChck1_Edit, ToolChck1_Combo, ToolChck1_Check, ToolChck1_Colr},
-      {ToolChck2_String, ToolChck2_Edit, ToolChck2_Combo, ToolChck2_Check, ToolChck2_Colr},
-      {ToolChck3_String, ToolChck3_Edit, ToolChck3_Combo, ToolChck3_Check, ToolChck3_Colr}};
-  const auto& tables = Tables[language];
-  ToolBoxPage page = {"チェックボックス", language + 13, 5, language + 6, 1, 1};
-  page.String = tables.String;
-  page.Edit = tables.Edit;
-  page.Combo = tables.Combo;
-  page.Check = tables.Check;
-  page.Colr1 = tables.Colr;
-  page.Browse = {1, language + 4, ToolBox_Text1, ToolChck1_Edit};
-  return page;
+// The page of a type with a text: it grows by one line with each further language, and its browse
+// button always serves the first text.
+ToolBoxPage TextPage(const gchar* title, gint lines, gint commonLine, gint onePoint,
+                     bool systemColours, const ControlTables (&tables)[3], gint browseLine) {
+  const gint language = TextIndex(Language);
+  return {.Title = title,
+          .Lines = language + lines,
+          .Culms = 5,
+          .CommonLine = language + commonLine,
+          .OnePoint = onePoint,
+          .Registers = 1,
+          .Tables = tables[language],
+          .Browse = {browseLine, language + 4, ToolBox_Text1, tables[0].Edit},
+          .SystemColours = systemColours};
 }
 
 ToolBoxPage BitmapPage() {
-  ToolBoxPage page = {"ビットマップ", 11, 5, 5, 0, 0};
-  page.String = ToolBmap_String;
-  page.Edit = ToolBmap_Edit;
-  page.Check = ToolBmap_Check;
-  page.Colr1 = ToolBmap_Colr;
+  ToolBoxPage page = PlainPage("ビットマップ", 11, 5, 0, false,
+                               {.String = ToolBmap_String,
+                                .Edit = ToolBmap_Edit,
+                                .Check = ToolBmap_Check,
+                                .Colr = ToolBmap_Colr});
   page.Browse = {2, 4, ToolBox_Name, ToolBmap_Edit};
-  return page;
-}
-
-ToolBoxPage MarkPage() {
-  ToolBoxPage page = {"マーク", 13, 5, 7, 0, 0};
-  page.String = ToolMark_String;
-  page.Check = ToolMark_Check;
-  page.Colr1 = ToolMark_Colr;
-  page.Mark = ToolMark_Mark;
-  page.SystemColours = true;
-  return page;
-}
-
-ToolBoxPage ScrollBarPage() {
-  ToolBoxPage page = {"スクロールバー", 18, 5, 12, 0, 0};
-  page.String = ToolSbar_String;
-  page.Numr = ToolSbar_Numr;
-  page.Radio = ToolSbar_Radio;
-  page.Check = ToolSbar_Check;
-  page.Colr1 = ToolSbar_Colr;
-  return page;
-}
-
-ToolBoxPage SpinButtonPage() {
-  ToolBoxPage page = {"スピンボタン", 10, 5, 4, 0, 0};
-  page.String = ToolSpin_String;
-  page.Numr = ToolSpin_Numr;
-  page.Colr1 = ToolSpin_Colr;
   return page;
 }
 
 }  // namespace
 
 ToolBoxPage PageOfType(gint type) {
-  const gint language = TextIndex(Language);
   switch (type) {
     case TypeFrame:
       return FramePage();
     case TypeLine:
-      return LinePage();
+      return PlainPage("直線", 13, 7, 0, true,
+                       {.String = ToolLine_String,
+                        .Numr = ToolLine_Numr,
+                        .Combo = ToolLine_Combo,
+                        .Radio = ToolLine_Radio,
+                        .Colr = ToolLine_Colr});
     case TypeRectangle:
-      return RectanglePage();
+      return PlainPage("矩形", 13, 8, 0, true,
+                       {.String = ToolRect_String,
+                        .Numr = ToolRect_Numr,
+                        .Radio = ToolRect_Radio,
+                        .Check = ToolRect_Check,
+                        .Colr = ToolRect_Colr});
     case TypeEllipse:
-      return EllipsePage();
+      return PlainPage("楕円", 13, 8, 0, true,
+                       {.String = ToolCrcl_String,
+                        .Numr = ToolCrcl_Numr,
+                        .Radio = ToolCrcl_Radio,
+                        .Check = ToolCrcl_Check,
+                        .Colr = ToolCrcl_Colr});
     case TypeBarGraph:
-      return BarGraphPage();
+      return PlainPage("棒グラフ", 13, 9, 0, true,
+                       {.String = ToolBarg_String,
+                        .Numr = ToolBarg_Numr,
+                        .Radio = ToolBarg_Radio,
+                        .Colr = ToolBarg_Colr});
     case TypeFixedString:
-      return FixedStringPage(language);
+      return TextPage("固定文字列", 14, 7, 1, true, FixedStringTables, 1);
     case TypeVariableString:
-      return VariableStringPage();
+      return PlainPage("可変文字列", 16, 10, 1, true,
+                       {.String = ToolChar_String,
+                        .Numr = ToolChar_Numr,
+                        .Combo = ToolChar_Combo,
+                        .Check = ToolChar_Check,
+                        .Colr = ToolChar_Colr});
     case TypeNumeric:
-      return NumericPage();
+      return PlainPage("数値データ", 18, 12, 1, true,
+                       {.String = ToolNumr_String,
+                        .Numr = ToolNumr_Numr,
+                        .Combo = ToolNumr_Combo,
+                        .Check = ToolNumr_Check,
+                        .Colr = ToolNumr_Colr});
     case TypeButton:
-      return ButtonPage(language);
+      return TextPage("ボタン", 18, 11, 0, false, ButtonTables, 2);
     case TypeRadioButton:
-      return RadioButtonPage(language);
+      return TextPage("ラジオボタン", 14, 7, 1, false, RadioButtonTables, 1);
     case TypeCheckBox:
-      return CheckBoxPage(language);
+      return TextPage("チェックボックス", 13, 6, 1, false, CheckBoxTables, 1);
     case TypeBitmap:
       return BitmapPage();
     case TypeMark:
-      return MarkPage();
+      return PlainPage("マーク", 13, 7, 0, true,
+                       {.String = ToolMark_String,
+                        .Check = ToolMark_Check,
+                        .Colr = ToolMark_Colr,
+                        .Mark = ToolMark_Mark});
     case TypeScrollBar:
-      return ScrollBarPage();
+      return PlainPage("スクロールバー", 18, 12, 0, false,
+                       {.String = ToolSbar_String,
+                        .Numr = ToolSbar_Numr,
+                        .Radio = ToolSbar_Radio,
+                        .Check = ToolSbar_Check,
+                        .Colr = ToolSbar_Colr});
     default:
-      return SpinButtonPage();
+      return PlainPage("スピンボタン", 10, 4, 0, false,
+                       {.String = ToolSpin_String, .Numr = ToolSpin_Numr, .Colr = ToolSpin_Colr});
   }
 }

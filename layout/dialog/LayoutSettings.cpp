@@ -40,22 +40,11 @@ void AddBrowseButton(GtkWidget* table, DLG_EDITBOX* edit) {
   gtk_widget_show(button);
 }
 
-GtkWidget* NewPage(const DialogWindow& dialog, const LayoutPage& page) {
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 15);
+void AddPage(const DialogWindow& dialog, const LayoutPage& page) {
+  GtkWidget* table = NewControlGrid(15);
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
-  gtk_widget_show(table);
-  Dlg_String(dialog.Window, table, page.String);
-  Dlg_EditBox(dialog.Window, table, page.Edit);
-  Dlg_NumrBox(dialog.Window, table, page.Numr);
-  Dlg_ComboBox(dialog.Window, table, page.Combo);
-  Dlg_RadioButn(dialog.Window, table, page.Radio);
-  Dlg_CheckButn(dialog.Window, table, page.Check);
-  Dlg_ColrData(dialog.Window, table, page.Colr);
+  BuildControls(dialog.Window, table, page.Tables);
   if (page.Bitmap != nullptr) AddBrowseButton(table, page.Bitmap);
-  return table;
 }
 
 }  // namespace
@@ -67,7 +56,7 @@ gint EditPtrnData(GtkWidget* parent) {
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   EditLayoutWindow = dialog.Window;
-  NewPage(dialog, page);
+  AddPage(dialog, page);
   SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(EditPtrnData_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditPtrnData_CAN), dialog.Window);
   RunModal(dialog.Window, parent);

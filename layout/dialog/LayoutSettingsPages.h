@@ -1,17 +1,11 @@
 // Control tables of the layout settings dialog.
 #pragma once
 
-#include "dialogs/Kit.h"
+#include "dialogs/ControlTables.h"
 
 struct LayoutPage {
   const gchar* Title;
-  DLG_STRING* String;
-  DLG_EDITBOX* Edit;
-  DLG_NUMRBOX* Numr;
-  DLG_COMBOBOX* Combo;
-  DLG_RADIOBUTN* Radio;
-  DLG_CHECKBUTN* Check;
-  DLG_COLRDATA* Colr;
+  ControlTables Tables;
   DLG_EDITBOX* Bitmap;  // row with a browse button, null for none
 };
 

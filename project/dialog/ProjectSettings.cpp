@@ -103,27 +103,6 @@ void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
   if (row.entry != nullptr) ShowRecordText(row.entry, row.text);
 }
 
-GtkWidget* NewTable() {
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 15);
-  gtk_widget_show(table);
-  return table;
-}
-
-GtkWidget* NewFrame(const ProjectFrame& frame) {
-  GtkWidget* table = NewTable();
-  Dlg_String(EditProj, table, frame.String);
-  Dlg_EditBox(EditProj, table, frame.Edit);
-  Dlg_NumrBox(EditProj, table, frame.Numr);
-  Dlg_ComboBox(EditProj, table, frame.Combo);
-  Dlg_RadioButn(EditProj, table, frame.Radio);
-  Dlg_CheckButn(EditProj, table, frame.Check);
-  Dlg_ColrData(EditProj, table, frame.Colr);
-  return table;
-}
-
 void AddButton(GtkWidget* table, const gchar* label, gint line, gint culm, GCallback clicked) {
   GtkWidget* button = gtk_button_new_with_label(label);
   gtk_widget_set_halign(button, GTK_ALIGN_START);
@@ -150,7 +129,8 @@ void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 10);
   gtk_container_set_border_width(GTK_CONTAINER(box), 10);
   for (gsize frame = 0; frame < page.Frames.size(); ++frame) {
-    GtkWidget* table = NewFrame(page.Frames[frame]);
+    GtkWidget* table = NewControlGrid(15);
+    BuildControls(EditProj, table, page.Frames[frame].Tables);
     for (const FrameButton& button : Buttons)
       if (button.Page == number && button.Frame == static_cast<gint>(frame))
         AddButton(table, button.Label, button.Line, button.Culm, G_CALLBACK(button.Clicked));

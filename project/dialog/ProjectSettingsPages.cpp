@@ -91,37 +91,36 @@ DLG_COMBOBOX ProjPage43_Combo[] = {Choice(0, 1, 1, Parm4(3), GridIntvList),
 DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Parm4(5), "表示色"), EndColrData};
 
 std::span<const ProjectPage> ProjectPages() {
-  static const ProjectFrame general[] = {{.Title = nullptr,
-                                          .String = ProjPage1_String,
-                                          .Edit = ProjPage1_Edit,
-                                          .Combo = ProjPage1_Combo,
-                                          .Radio = ProjPage1_Radio}};
+  static const ProjectFrame general[] = {{nullptr,
+                                          {.String = ProjPage1_String,
+                                           .Edit = ProjPage1_Edit,
+                                           .Combo = ProjPage1_Combo,
+                                           .Radio = ProjPage1_Radio}}};
   static const ProjectFrame parent[] = {
-      {.Title = "タイトル領域",
-       .String = ProjPage21_String,
-       .Edit = ProjPage21_Edit,
-       .Numr = ProjPage21_Numr,
-       .Combo = ProjPage21_Combo,
-       .Radio = ProjPage21_Radio,
-       .Check = ProjPage21_Check,
-       .Colr = ProjPage21_Colr},
-      {.Title = "作業領域", .Colr = ProjPage22_Colr},
-      {.Title = "ボタン領域", .Numr = ProjPage23_Numr, .Colr = ProjPage23_Colr}};
+      {"タイトル領域",
+       {.String = ProjPage21_String,
+        .Edit = ProjPage21_Edit,
+        .Numr = ProjPage21_Numr,
+        .Combo = ProjPage21_Combo,
+        .Radio = ProjPage21_Radio,
+        .Check = ProjPage21_Check,
+        .Colr = ProjPage21_Colr}},
+      {"作業領域", {.Colr = ProjPage22_Colr}},
+      {"ボタン領域", {.Numr = ProjPage23_Numr, .Colr = ProjPage23_Colr}}};
   static const ProjectFrame child[] = {
-      {.Title = "タイトル領域",
-       .String = ProjPage31_String,
-       .Numr = ProjPage31_Numr,
-       .Combo = ProjPage31_Combo,
-       .Radio = ProjPage31_Radio,
-       .Colr = ProjPage31_Colr},
-      {.Title = "作業領域", .Colr = ProjPage32_Colr},
-      {.Title = "外枠", .Numr = ProjPage33_Numr, .Colr = ProjPage33_Colr}};
-  static const ProjectFrame other[] = {{.Title = "マウスカーソル形状", .Radio = ProjPage41_Radio},
-                                       {.Title = "キー入力時", .Colr = ProjPage42_Colr},
-                                       {.Title = "方眼表示",
-                                        .String = ProjPage43_String,
-                                        .Combo = ProjPage43_Combo,
-                                        .Colr = ProjPage43_Colr}};
+      {"タイトル領域",
+       {.String = ProjPage31_String,
+        .Numr = ProjPage31_Numr,
+        .Combo = ProjPage31_Combo,
+        .Radio = ProjPage31_Radio,
+        .Colr = ProjPage31_Colr}},
+      {"作業領域", {.Colr = ProjPage32_Colr}},
+      {"外枠", {.Numr = ProjPage33_Numr, .Colr = ProjPage33_Colr}}};
+  static const ProjectFrame other[] = {
+      {"マウスカーソル形状", {.Radio = ProjPage41_Radio}},
+      {"キー入力時", {.Colr = ProjPage42_Colr}},
+      {"方眼表示",
+       {.String = ProjPage43_String, .Combo = ProjPage43_Combo, .Colr = ProjPage43_Colr}}};
   static const ProjectPage pages[] = {
       {"全般", general}, {"親ウィンドウ", parent}, {"子ウィンドウ", child}, {"その他", other}};
   return pages;

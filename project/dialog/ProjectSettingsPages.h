@@ -4,18 +4,12 @@
 
 #include <span>
 
-#include "dialogs/Kit.h"
+#include "dialogs/ControlTables.h"
 
-// A frame of a page with the tables in it; tables that it does not have are null.
+// A frame of a page with the controls in it.
 struct ProjectFrame {
-  const gchar* Title;  // null = no frame around it
-  DLG_STRING* String = nullptr;
-  DLG_EDITBOX* Edit = nullptr;
-  DLG_NUMRBOX* Numr = nullptr;
-  DLG_COMBOBOX* Combo = nullptr;
-  DLG_RADIOBUTN* Radio = nullptr;
-  DLG_CHECKBUTN* Check = nullptr;
-  DLG_COLRDATA* Colr = nullptr;
+  const gchar* Title;  // null = no frame around them
+  ControlTables Tables;
 };
 
 struct ProjectPage {
