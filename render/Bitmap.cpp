@@ -1,5 +1,7 @@
+#include <gdk-pixbuf/gdk-pixbuf.h>
+
+#include "KeptPictures.h"
 #include "PictureFiles.h"
-#include "ScaledPicture.h"
 #include "support/FileTools.h"
 
 void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint height,
@@ -8,14 +10,18 @@ void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint heig
   if (transparent > ColourRed || box.Clip(BoxOf(*drawable)).Empty()) {
     return;
   }
-  const GdkPixbuf* picture = PictureFile(JoinPath(path, name, ""));
+  const FilePicture file = PictureFile(JoinPath(path, name, ""));
+  if (file.picture == nullptr) {
+    return;
+  }
   if (transparent < 0) {
-    PaintScaled(*drawable, picture, box, false);
+    PaintKept(*drawable, box, {file.source, -1, -1}, false,
+              [&] { return PixbufPtr(GDK_PIXBUF(g_object_ref(file.picture))); });
     return;
   }
   // The low byte of each channel is the key, not the high one that is shown. That is meant so.
-  const DRAWCOLR& key = DrawColr[transparent];
-  const PixbufPtr keyed =
-      WithTransparent(picture, key.red & 0xff, key.green & 0xff, key.blue & 0xff);
-  PaintScaled(*drawable, keyed.get(), box, true);
+  const DRAWCOLR& colour = DrawColr[transparent];
+  const guint8 red = colour.red & 0xff, green = colour.green & 0xff, blue = colour.blue & 0xff;
+  PaintKept(*drawable, box, {file.source, -1, red << 16 | green << 8 | blue}, true,
+            [&] { return WithTransparent(file.picture, red, green, blue); });
 }

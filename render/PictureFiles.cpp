@@ -5,6 +5,8 @@
 
 #include <list>
 
+#include "KeptPictures.h"
+
 namespace {
 
 constexpr gint64 MaxPictureBytes = gint64{256} << 20;
@@ -27,6 +29,7 @@ struct KeptPicture {
   FileState state;
   PixbufPtr picture;  // null: the file holds none
   gint64 bytes;
+  guint64 source;
 };
 
 PixbufPtr ReadPicture(const std::string& path) {
@@ -55,10 +58,10 @@ void DropOldest() {
 
 }  // namespace
 
-const GdkPixbuf* PictureFile(const std::string& path) {
+FilePicture PictureFile(const std::string& path) {
   struct stat info = {};
   if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) {
-    return nullptr;
+    return {nullptr, 0};
   }
   const FileState state{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec,
                         info.st_mtim.tv_nsec};
@@ -68,14 +71,14 @@ const GdkPixbuf* PictureFile(const std::string& path) {
     }
     if (entry->state == state) {
       kept.splice(kept.begin(), kept, entry);
-      return entry->picture.get();
+      return {entry->picture.get(), entry->source};
     }
     kept.erase(entry);
     break;
   }
   PixbufPtr picture = ReadPicture(path);
   const gint64 bytes = picture ? static_cast<gint64>(gdk_pixbuf_get_byte_length(picture.get())) : 0;
-  kept.push_front({path, state, std::move(picture), bytes});
+  kept.push_front({path, state, std::move(picture), bytes, NewPictureSource()});
   DropOldest();
-  return kept.front().picture.get();
+  return {kept.front().picture.get(), kept.front().source};
 }

@@ -2,67 +2,95 @@
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
+#include <new>
+
 namespace {
 
-// The pixels of a picture, row by row.
-struct PixelRows {
-  const guchar* pixels;
-  std::ptrdiff_t stride;
-  gint channels;
-
-  explicit PixelRows(const GdkPixbuf* picture)
-      : pixels(gdk_pixbuf_read_pixels(picture)),
-        stride(gdk_pixbuf_get_rowstride(picture)),
-        channels(gdk_pixbuf_get_n_channels(picture)) {}
-  const guchar* At(gint64 x, gint64 y) const { return pixels + y * stride + x * channels; }
-};
-
-guint32 Mixed(guint32 below, guchar above, guint32 alpha) {
-  return (above * alpha + (below & 0xff) * (255 - alpha) + 127) / 255;
+PixbufPtr Scaled(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part) {
+  PixbufPtr scaled(gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(picture), 8,
+                                  static_cast<int>(part.x2 - part.x1),
+                                  static_cast<int>(part.y2 - part.y1)));
+  if (scaled) {
+    gdk_pixbuf_scale(picture, scaled.get(), 0, 0, gdk_pixbuf_get_width(scaled.get()),
+                     gdk_pixbuf_get_height(scaled.get()), static_cast<double>(box.x1 - part.x1),
+                     static_cast<double>(box.y1 - part.y1),
+                     static_cast<double>(box.x2 - box.x1) / gdk_pixbuf_get_width(picture),
+                     static_cast<double>(box.y2 - box.y1) / gdk_pixbuf_get_height(picture),
+                     GDK_INTERP_BILINEAR);
+  }
+  return scaled;
 }
 
-// Paints `part` of the plane from rows whose pixel (0, 0) belongs at (left, top).
-void PaintRows(Drawable& drawable, const PixelRows& rows, const PlaneBox& part, gint64 left,
-               gint64 top, bool blend) {
-  const bool mix = blend && rows.channels == 4;
-  for (gint64 y = part.y1; y < part.y2; ++y) {
-    const guchar* in = rows.At(part.x1 - left, y - top);
-    guint32* out = PixelAt(drawable, part.x1, y);
-    for (gint64 x = part.x1; x < part.x2; ++x, ++out, in += rows.channels) {
-      const guint32 alpha = mix ? in[3] : 255;
-      *out = 0xff000000 | Mixed(*out >> 16, in[0], alpha) << 16 |
-             Mixed(*out >> 8, in[1], alpha) << 8 | Mixed(*out, in[2], alpha);
-    }
+guint32 Mixed(guint32 below, guint32 above, guint32 alpha) {
+  return ((above & 0xff) * alpha + (below & 0xff) * (255 - alpha) + 127) / 255;
+}
+
+guint32 Blended(guint32 below, guint32 above) {
+  const guint32 alpha = above >> 24;
+  if (alpha == 255) {
+    return above;
   }
+  if (alpha == 0) {
+    return below;
+  }
+  return 0xff000000 | Mixed(below >> 16, above >> 16, alpha) << 16 |
+         Mixed(below >> 8, above >> 8, alpha) << 8 | Mixed(below, above, alpha);
 }
 
 }  // namespace
 
-void PaintScaled(Drawable& drawable, const GdkPixbuf* picture, const PlaneBox& box, bool blend) {
-  const PlaneBox part = box.Clip(BoxOf(drawable));
+ScaledPicture::ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part,
+                             bool blend)
+    : part_(part), blend_(blend) {
   if (picture == nullptr || part.Empty()) {
     return;
   }
-  const gint64 width = box.x2 - box.x1;
-  const gint64 height = box.y2 - box.y1;
-  if (width == gdk_pixbuf_get_width(picture) && height == gdk_pixbuf_get_height(picture)) {
-    PaintRows(drawable, PixelRows(picture), part, box.x1, box.y1, blend);
+  blend_ = blend && gdk_pixbuf_get_n_channels(picture) == 4;
+  try {
+    if (box.x2 - box.x1 == gdk_pixbuf_get_width(picture) &&
+        box.y2 - box.y1 == gdk_pixbuf_get_height(picture)) {
+      TakeRows(picture, part.x1 - box.x1, part.y1 - box.y1);
+    } else if (const PixbufPtr scaled = Scaled(picture, box, part)) {
+      TakeRows(scaled.get(), 0, 0);
+    }
+  } catch (const std::bad_alloc&) {
+    pixels_.clear();
+  }
+}
+
+void ScaledPicture::TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top) {
+  const guchar* rows = gdk_pixbuf_read_pixels(picture);
+  const gint channels = gdk_pixbuf_get_n_channels(picture);
+  pixels_.resize(static_cast<std::size_t>((part_.x2 - part_.x1) * (part_.y2 - part_.y1)));
+  guint32* out = pixels_.data();
+  for (gint64 y = top; y < top + part_.y2 - part_.y1; ++y) {
+    const guchar* in = rows + y * gdk_pixbuf_get_rowstride(picture) + left * channels;
+    for (gint64 x = part_.x1; x < part_.x2; ++x, in += channels) {
+      const guint32 alpha = blend_ ? in[3] : 255;
+      *out++ = alpha << 24 | guint32{in[0]} << 16 | guint32{in[1]} << 8 | in[2];
+    }
+  }
+}
+
+void ScaledPicture::Paint(Drawable& drawable) const {
+  PaintAt(drawable, part_.x1, part_.y1);
+}
+
+void ScaledPicture::PaintAt(Drawable& drawable, gint64 x, gint64 y) const {
+  const gint64 width = part_.x2 - part_.x1;
+  const PlaneBox shown = PlaneBox{x, y, x + width, y + part_.y2 - part_.y1}.Clip(BoxOf(drawable));
+  if (pixels_.empty() || shown.Empty()) {
     return;
   }
-  // Only what shows is scaled.
-  const PixbufPtr scaled(gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(picture), 8,
-                                        static_cast<int>(part.x2 - part.x1),
-                                        static_cast<int>(part.y2 - part.y1)));
-  if (!scaled) {
-    return;
+  for (gint64 row = shown.y1; row < shown.y2; ++row) {
+    const guint32* in = pixels_.data() + (row - y) * width + (shown.x1 - x);
+    guint32* out = PixelAt(drawable, shown.x1, row);
+    if (blend_) {
+      std::transform(out, out + (shown.x2 - shown.x1), in, out, Blended);
+    } else {
+      std::copy_n(in, shown.x2 - shown.x1, out);
+    }
   }
-  gdk_pixbuf_scale(picture, scaled.get(), 0, 0, gdk_pixbuf_get_width(scaled.get()),
-                   gdk_pixbuf_get_height(scaled.get()), static_cast<double>(box.x1 - part.x1),
-                   static_cast<double>(box.y1 - part.y1),
-                   static_cast<double>(width) / gdk_pixbuf_get_width(picture),
-                   static_cast<double>(height) / gdk_pixbuf_get_height(picture),
-                   GDK_INTERP_BILINEAR);
-  PaintRows(drawable, PixelRows(scaled.get()), part, part.x1, part.y1, blend);
 }
 
 PixbufPtr WithTransparent(const GdkPixbuf* picture, guint8 red, guint8 green, guint8 blue) {

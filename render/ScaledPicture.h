@@ -1,10 +1,29 @@
-// Pictures painted into a box of any size.
+// Pictures scaled to a box and turned into the surface's pixels.
 #pragma once
+
+#include <vector>
 
 #include "Paint.h"
 
-// Paints the picture scaled (bilinear) to the box; an empty box paints nothing. `blend`: by the
-// picture's alpha, else opaque.
-void PaintScaled(Drawable& drawable, const GdkPixbuf* picture, const PlaneBox& box, bool blend);
+// A part of a scaled picture, ready to be painted.
+class ScaledPicture {
+ public:
+  // `part` of the picture scaled (bilinear) to `box`. `blend`: by the picture's alpha, else opaque.
+  // Empty when there is no picture or no memory for it.
+  ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part, bool blend);
+
+  void Paint(Drawable& drawable) const;
+  // The same with the left upper corner at (x, y).
+  void PaintAt(Drawable& drawable, gint64 x, gint64 y) const;
+  std::size_t PixelCount() const { return pixels_.size(); }
+
+ private:
+  void TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top);
+
+  PlaneBox part_;
+  bool blend_;
+  std::vector<guint32> pixels_;  // 0xAARRGGBB, row by row
+};
+
 // Null when `picture` is or the memory cannot be had: a copy in which one colour is transparent.
 PixbufPtr WithTransparent(const GdkPixbuf* picture, guint8 red, guint8 green, guint8 blue);

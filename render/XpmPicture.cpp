@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdio>
+#include <optional>
 #include <string_view>
 
 namespace {
@@ -47,16 +48,38 @@ ColourTable ReadColours(const gchar* const* lines, gint count) {
   return table;
 }
 
+struct Header {
+  gint width = 0;
+  gint height = 0;
+  gint colours = 0;
+};
+
+std::optional<Header> ReadHeader(const gchar* const* xpm) {
+  Header header;
+  gint characters = 0;
+  if (xpm == nullptr || xpm[0] == nullptr ||
+      std::sscanf(xpm[0], "%d %d %d %d", &header.width, &header.height, &header.colours,
+                  &characters) != 4 ||
+      header.width < 1 || header.height < 1 || header.width > MaxSide || header.height > MaxSide ||
+      header.colours < 1 || header.colours > MaxColours || characters != 1) {
+    return std::nullopt;
+  }
+  return header;
+}
+
 }  // namespace
 
+gint XpmLineCount(const gchar* const* xpm) {
+  const std::optional<Header> header = ReadHeader(xpm);
+  return header ? 1 + header->colours + header->height : 0;
+}
+
 PixbufPtr PixbufFromXpm(const gchar* const* xpm) {
-  gint width = 0, height = 0, colours = 0, characters = 0;
-  if (xpm == nullptr || xpm[0] == nullptr ||
-      std::sscanf(xpm[0], "%d %d %d %d", &width, &height, &colours, &characters) != 4 ||
-      width < 1 || height < 1 || width > MaxSide || height > MaxSide || colours < 1 ||
-      colours > MaxColours || characters != 1) {
+  const std::optional<Header> header = ReadHeader(xpm);
+  if (!header) {
     return nullptr;
   }
+  const auto [width, height, colours] = *header;
   PixbufPtr pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, width, height));
   if (!pixbuf) {
     return nullptr;
