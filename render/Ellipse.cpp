@@ -68,15 +68,27 @@ void StrokeEllipse(Drawable& drawable, guint32 rgb, const PlaneBox& box) {
   if (part.Empty() || Encloses(box, clip)) {
     return;
   }
+  // A row is asked for by itself and by its neighbour.
+  struct {
+    gint64 y = G_MININT64;
+    Span span{};
+  } recent[2];
+  const auto enclosed = [&](gint64 y) -> Span {
+    auto& kept = recent[y & 1];
+    if (kept.y != y) {
+      kept = {y, EnclosedRow(box, y)};
+    }
+    return kept.span;
+  };
   for (gint64 y = part.y1; y < part.y2; ++y) {
-    const Span row = EnclosedRow(box, y);
+    const Span row = enclosed(y);
     // The neighbour row away from the middle is never the longer one.
     const gint64 outer = y - box.y1 <= box.y2 - y ? y - 1 : y + 1;
     if (outer < box.y1 || outer > box.y2) {
       FillBox(drawable, {row.first, y, row.last + 1, y + 1}, rgb);
       continue;
     }
-    const Span next = EnclosedRow(box, outer);
+    const Span next = enclosed(outer);
     FillBox(drawable, {row.first, y, std::max(row.first + 1, next.first), y + 1}, rgb);
     FillBox(drawable, {std::min(row.last, next.last + 1), y, row.last + 1, y + 1}, rgb);
   }

@@ -1,5 +1,9 @@
 // The items of a layout in painting order.
+#include <array>
+#include <vector>
+
 #include "Constant.h"
+#include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "render/Layout.h"
@@ -14,21 +18,24 @@ constexpr Renderer Renderers[16] = {nullptr,        DrawPtrnData01, DrawPtrnData
                                     DrawPtrnData08, DrawPtrnData09, DrawPtrnData10, DrawPtrnData11,
                                     DrawPtrnData12, DrawPtrnData13, DrawPtrnData14, DrawPtrnData15};
 
-void DrawItemsOfType(Drawable* drawable, DrawGc* gc, gint type, gint layer) {
-  const gint count = GetPtrnCount();
-  for (gint no = 0; no < count; ++no) {
-    const PTRNDATA* stored = ViewPtrnData(no);
-    if (stored == nullptr || stored->Type != type || stored->Parm[ItemSlot::TopLayer] != layer) {
-      continue;
-    }
-    PTRNDATA item = *stored;
-    Renderers[type](drawable, gc, &item);
-    SetPtrnData(no, &item);
-  }
+void DrawItem(Drawable* drawable, DrawGc* gc, gint no) {
+  PTRNDATA item;
+  GetPtrnData(no, &item);
+  Renderers[item.Type](drawable, gc, &item);
+  SetPtrnData(no, &item);
 }
 
 }  // namespace
 
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer) {
-  for (const gint type : PtrnTable) DrawItemsOfType(drawable, gc, type, layer);
+  std::array<std::vector<gint>, 16> byType;
+  for (gint no = 0; no < GetPtrnCount(); ++no) {
+    const PTRNDATA* item = ViewPtrnData(no);
+    if (IsItemType(item->Type) && item->Parm[ItemSlot::TopLayer] == layer) {
+      byType[static_cast<std::size_t>(item->Type)].push_back(no);
+    }
+  }
+  for (const gint type : PtrnTable) {
+    for (const gint no : byType[static_cast<std::size_t>(type)]) DrawItem(drawable, gc, no);
+  }
 }

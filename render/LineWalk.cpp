@@ -41,16 +41,21 @@ IndexRange VisibleIndexes(gint64 from, gint64 to, gint64 low, gint64 high) {
   return {std::max<gint64>(from - (high - 1), 0), std::min(from - low, length)};
 }
 
-void StrokeHorizontal(Drawable& drawable, const DrawGc& gc, const LineEnds& line,
-                      OffsetRange copies, const DashPattern& dashes) {
+void StrokeStraight(Drawable& drawable, const DrawGc& gc, const LineEnds& line, OffsetRange copies,
+                    const DashPattern& dashes) {
   const PlaneBox clip = BoxOf(drawable);
-  const auto [first, last] = VisibleIndexes(line.x1, line.x2, clip.x1, clip.x2);
-  const gint64 step = line.x1 <= line.x2 ? 1 : -1;
-  const auto paint = [&](gint64 from, gint64 to) {
-    const gint64 a = line.x1 + step * from;
-    const gint64 b = line.x1 + step * to;
-    FillBox(drawable,
-            {std::min(a, b), line.y1 + copies.low, std::max(a, b) + 1, line.y1 + copies.high + 1},
+  const bool upright = line.Vertical();
+  const gint64 from = upright ? line.y1 : line.x1;
+  const gint64 to = upright ? line.y2 : line.x2;
+  const gint64 low = (upright ? line.x1 : line.y1) + copies.low;
+  const gint64 high = (upright ? line.x1 : line.y1) + copies.high + 1;
+  const auto [first, last] =
+      VisibleIndexes(from, to, upright ? clip.y1 : clip.x1, upright ? clip.y2 : clip.x2);
+  const gint64 step = from <= to ? 1 : -1;
+  const auto paint = [&](gint64 i, gint64 j) {
+    const gint64 begin = std::min(from + step * i, from + step * j);
+    const gint64 end = std::max(from + step * i, from + step * j) + 1;
+    FillBox(drawable, upright ? PlaneBox{low, begin, high, end} : PlaneBox{begin, low, end, high},
             gc.Foreground);
   };
   if (dashes.Solid()) {
@@ -65,19 +70,6 @@ void StrokeHorizontal(Drawable& drawable, const DrawGc& gc, const LineEnds& line
       paint(i, std::min(i + dashes.OnLength() - place - 1, last));
     }
     i += dashes.Period() - place;
-  }
-}
-
-void StrokeVertical(Drawable& drawable, const DrawGc& gc, const LineEnds& line, OffsetRange copies,
-                    const DashPattern& dashes) {
-  const PlaneBox clip = BoxOf(drawable);
-  const auto [first, last] = VisibleIndexes(line.y1, line.y2, clip.y1, clip.y2);
-  const gint64 step = line.y1 <= line.y2 ? 1 : -1;
-  for (gint64 i = first; i <= last; ++i) {
-    if (dashes.On(i)) {
-      const gint64 y = line.y1 + step * i;
-      FillBox(drawable, {line.x1 + copies.low, y, line.x1 + copies.high + 1, y + 1}, gc.Foreground);
-    }
   }
 }
 
@@ -127,10 +119,8 @@ bool LineEnds::Flat() const {
 void StrokeLine(Drawable& drawable, const DrawGc& gc, const LineEnds& line, OffsetRange copies,
                 gint64 start) {
   const DashPattern dashes(gc.Dashes, start);
-  if (line.Vertical()) {
-    StrokeVertical(drawable, gc, line, copies, dashes);
-  } else if (line.Horizontal()) {
-    StrokeHorizontal(drawable, gc, line, copies, dashes);
+  if (line.Vertical() || line.Horizontal()) {
+    StrokeStraight(drawable, gc, line, copies, dashes);
   } else {
     StrokeSlanted(drawable, gc, line, copies, dashes);
   }

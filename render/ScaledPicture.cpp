@@ -27,12 +27,6 @@ guint32 Mixed(guint32 below, guint32 above, guint32 alpha) {
 
 guint32 Blended(guint32 below, guint32 above) {
   const guint32 alpha = above >> 24;
-  if (alpha == 255) {
-    return above;
-  }
-  if (alpha == 0) {
-    return below;
-  }
   return 0xff000000 | Mixed(below >> 16, above >> 16, alpha) << 16 |
          Mixed(below >> 8, above >> 8, alpha) << 8 | Mixed(below, above, alpha);
 }
@@ -41,33 +35,56 @@ guint32 Blended(guint32 below, guint32 above) {
 
 ScaledPicture::ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part,
                              bool blend)
-    : part_(part), blend_(blend) {
+    : part_(part) {
   if (picture == nullptr || part.Empty()) {
     return;
   }
-  blend_ = blend && gdk_pixbuf_get_n_channels(picture) == 4;
   try {
     if (box.x2 - box.x1 == gdk_pixbuf_get_width(picture) &&
         box.y2 - box.y1 == gdk_pixbuf_get_height(picture)) {
-      TakeRows(picture, part.x1 - box.x1, part.y1 - box.y1);
+      TakeRows(picture, part.x1 - box.x1, part.y1 - box.y1, blend);
     } else if (const PixbufPtr scaled = Scaled(picture, box, part)) {
-      TakeRows(scaled.get(), 0, 0);
+      TakeRows(scaled.get(), 0, 0, blend);
     }
+    FindRuns();
   } catch (const std::bad_alloc&) {
-    pixels_.clear();
+    runs_.clear();
   }
 }
 
-void ScaledPicture::TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top) {
+void ScaledPicture::TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend) {
   const guchar* rows = gdk_pixbuf_read_pixels(picture);
   const gint channels = gdk_pixbuf_get_n_channels(picture);
+  const bool hasAlpha = blend && channels == 4;
   pixels_.resize(static_cast<std::size_t>((part_.x2 - part_.x1) * (part_.y2 - part_.y1)));
   guint32* out = pixels_.data();
   for (gint64 y = top; y < top + part_.y2 - part_.y1; ++y) {
     const guchar* in = rows + y * gdk_pixbuf_get_rowstride(picture) + left * channels;
     for (gint64 x = part_.x1; x < part_.x2; ++x, in += channels) {
-      const guint32 alpha = blend_ ? in[3] : 255;
+      const guint32 alpha = hasAlpha ? in[3] : 255;
       *out++ = alpha << 24 | guint32{in[0]} << 16 | guint32{in[1]} << 8 | in[2];
+    }
+  }
+}
+
+void ScaledPicture::FindRuns() {
+  enum Kind { Hidden, Mixture, Solid };
+  const auto kindOf = [](guint32 pixel) {
+    const guint32 alpha = pixel >> 24;
+    return alpha == 0 ? Hidden : alpha == 255 ? Solid : Mixture;
+  };
+  const auto width = static_cast<gint32>(part_.x2 - part_.x1);
+  gint32 y = 0;
+  for (auto row = pixels_.cbegin(); row != pixels_.cend(); row += width, ++y) {
+    for (gint32 x = 0; x < width;) {
+      const gint32 start = x;
+      const Kind kind = kindOf(row[x]);
+      while (x < width && kindOf(row[x]) == kind) {
+        ++x;
+      }
+      if (kind != Hidden) {
+        runs_.push_back({start, y, x - start, kind == Mixture});
+      }
     }
   }
 }
@@ -78,17 +95,20 @@ void ScaledPicture::Paint(Drawable& drawable) const {
 
 void ScaledPicture::PaintAt(Drawable& drawable, gint64 x, gint64 y) const {
   const gint64 width = part_.x2 - part_.x1;
-  const PlaneBox shown = PlaneBox{x, y, x + width, y + part_.y2 - part_.y1}.Clip(BoxOf(drawable));
-  if (pixels_.empty() || shown.Empty()) {
-    return;
-  }
-  for (gint64 row = shown.y1; row < shown.y2; ++row) {
-    const guint32* in = pixels_.data() + (row - y) * width + (shown.x1 - x);
-    guint32* out = PixelAt(drawable, shown.x1, row);
-    if (blend_) {
-      std::transform(out, out + (shown.x2 - shown.x1), in, out, Blended);
+  const PlaneBox clip = BoxOf(drawable);
+  for (const Run& run : runs_) {
+    const gint64 row = y + run.y;
+    const gint64 begin = std::max(x + run.x, clip.x1);
+    const gint64 end = std::min(x + run.x + run.length, clip.x2);
+    if (row < clip.y1 || row >= clip.y2 || begin >= end) {
+      continue;
+    }
+    const guint32* in = pixels_.data() + run.y * width + (begin - x);
+    guint32* out = PixelAt(drawable, begin, row);
+    if (run.mixed) {
+      std::transform(out, out + (end - begin), in, out, Blended);
     } else {
-      std::copy_n(in, shown.x2 - shown.x1, out);
+      std::copy_n(in, end - begin, out);
     }
   }
 }

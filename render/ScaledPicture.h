@@ -18,11 +18,19 @@ class ScaledPicture {
   std::size_t PixelCount() const { return pixels_.size(); }
 
  private:
-  void TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top);
+  // Pixels of a row that are painted in the same way; those that do not show are in no run.
+  struct Run {
+    gint32 x;
+    gint32 y;
+    gint32 length;
+    bool mixed;  // with what is below
+  };
+  void TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend);
+  void FindRuns();
 
   PlaneBox part_;
-  bool blend_;
   std::vector<guint32> pixels_;  // 0xAARRGGBB, row by row
+  std::vector<Run> runs_;
 };
 
 // Null when `picture` is or the memory cannot be had: a copy in which one colour is transparent.
