@@ -57,3 +57,11 @@ int RunGenerate(const GenerateOptions& options);
 
 // Prints what a project holds.
 int RunInfo(const std::string& project);
+
+struct CheckOptions {
+  std::string Project;
+  std::string Profile;
+  bool Json = false;
+};
+// Prints what would hurt at run time; ExitFailed when there is something.
+int RunCheck(const CheckOptions& options);

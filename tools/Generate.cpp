@@ -2,12 +2,15 @@
 #include <unistd.h>
 
 #include <array>
+#include <cstdio>
 #include <vector>
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "project/check/Check.h"
 #include "support/FileTools.h"
 #include "tools/Commands.h"
+#include "tools/FindingText.h"
 #include "tools/OpenProject.h"
 #include "tools/Report.h"
 
@@ -68,6 +71,14 @@ int ReportProducts(const std::vector<Product>& products) {
   return result == ExitDone ? printed : result;
 }
 
+// Whether all names can stand in sources; else each that cannot has been told.
+bool UsableNames() {
+  const std::vector<Finding> findings = RunCheckRule(SourceNameRule(), LoadCheckedProject());
+  for (const Finding& finding : findings)
+    std::fputs(("varnixtool: " + FindingLine(finding)).c_str(), stderr);
+  return findings.empty();
+}
+
 }  // namespace
 
 int RunGenerate(const GenerateOptions& options) {
@@ -76,7 +87,8 @@ int RunGenerate(const GenerateOptions& options) {
   if (!options.ProgramFolder.empty() && !SetProgramFolder(options.ProgramFolder))
     return Fail(options.ProgramFolder, "its path is longer than the program can hold");
   if (ProjData.ProgPath[0] == '\0') return Fail(options.Project, "names no program folder");
-  if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath)) return ExitFailed;
+  if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath) || !UsableNames())
+    return ExitFailed;
   const std::vector<Product> products = Products();
   LogicDataEdit1();
   LogicDataEdit2();

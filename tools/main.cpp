@@ -16,6 +16,7 @@ struct Options {
   std::string Time;
   HitOptions Hit;
   GenerateOptions Generate;
+  CheckOptions Check;
 };
 
 std::string CheckTime(const std::string& text) {
@@ -91,9 +92,20 @@ void AddInfo(CLI::App& app, Options& options, int& result) {
   command->callback([&] { result = RunInfo(options.File); });
 }
 
+void AddCheck(CLI::App& app, Options& options, int& result) {
+  CLI::App* command =
+      app.add_subcommand("check", "Find what would hurt when the runtime program runs");
+  command->add_option("PROJECT", options.Check.Project, "Project file (*.prj)")->required();
+  command->add_flag("--json", options.Check.Json, "Print the findings as JSON");
+  command->add_option("--profile", options.Check.Profile,
+                      "Designer profile instead of the one beside the tool");
+  command->callback([&] { result = RunCheck(options.Check); });
+}
+
 int Run(int argc, const char* const* argv) {
-  CLI::App app("Companion tool of VarnixMaster: shows, builds, renders and generates.",
-               "varnixtool");
+  CLI::App app(
+      "Companion tool of VarnixMaster: shows, builds, compares, renders, checks, generates.",
+      "varnixtool");
   app.require_subcommand(1);
   Options options;
   int result = ExitDone;
@@ -103,6 +115,7 @@ int Run(int argc, const char* const* argv) {
   AddGenerate(app, options, result);
   AddHit(app, options, result);
   AddInfo(app, options, result);
+  AddCheck(app, options, result);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -1,0 +1,56 @@
+// Questions that several rules ask.
+#include <algorithm>
+
+#include "layout/ItemSlots.h"
+#include "project/check/Rules.h"
+#include "support/Text.h"
+
+gint LanguageCount(const CheckedProject& project) {
+  return std::clamp(gint{project.Settings.Parm1[1]}, 0, 2) + 1;
+}
+
+gint SystemCount(const CheckedProject& project) {
+  return project.Settings.Parm1[2] == 0 ? 2 : 4;
+}
+
+bool LayoutExists(const CheckedProject& project, std::string_view name) {
+  const auto bears = [name](const CheckedLayout& layout) { return layout.Name == name; };
+  return std::any_of(project.Layouts.begin(), project.Layouts.end(), bears) ||
+         std::find(project.Unreadable.begin(), project.Unreadable.end(), name) !=
+             project.Unreadable.end();
+}
+
+std::string_view TextOf(const PTRNDATA& item, gint language) {
+  if (language == 0) return FieldText(item.Text1);
+  return language == 1 ? FieldText(item.Text2) : FieldText(item.Text3);
+}
+
+std::string_view TitleOf(const PTRNHEDR& header, gint language) {
+  if (language == 0) return FieldText(header.PtrnName1);
+  return language == 1 ? FieldText(header.PtrnName2) : FieldText(header.PtrnName3);
+}
+
+std::string TextField(gint language) {
+  return "Text" + std::to_string(language + 1);
+}
+
+std::string TitleField(gint language) {
+  return "PtrnName" + std::to_string(language + 1);
+}
+
+bool IsWorded(gint type) {
+  return type == TypeFixedString || type == TypeButton || type == TypeRadioButton ||
+         type == TypeCheckBox;
+}
+
+std::string Quoted(std::string_view bytes) {
+  std::string text = "\"";
+  for (const char c : DisplayText(bytes)) {
+    constexpr char Digits[] = "0123456789ABCDEF";
+    if (g_ascii_iscntrl(c))
+      text += {'\\', 'x', Digits[c >> 4], Digits[c & 15]};
+    else
+      text += c;
+  }
+  return text + "\"";
+}

@@ -1,0 +1,60 @@
+// Fonts and pictures as the canvas uses them.
+#include <array>
+
+#include "ProjData.h"
+#include "PtrnDraw.h"
+#include "PtrnMisc.h"
+#include "layout/ItemSlots.h"
+#include "project/check/Check.h"
+#include "render/PictureFiles.h"
+#include "support/FileTools.h"
+
+namespace {
+
+void ShowLanguage(gint language) {
+  if (Language == language) return;
+  Language = language;
+  FontDataInit(0);
+}
+
+using Renderer = void (*)(Drawable*, DrawGc*, PTRNDATA*);
+
+// The one-point types; their renderers find the extent.
+constexpr std::array<Renderer, 16> Renderers = {
+    nullptr,        nullptr,        nullptr,        nullptr, nullptr,        nullptr,
+    DrawPtrnData06, DrawPtrnData07, DrawPtrnData08, nullptr, DrawPtrnData10, DrawPtrnData11,
+    nullptr,        nullptr,        nullptr,        nullptr};
+
+SIZE ItemExtent(gint language, const PTRNDATA& item) {
+  ShowLanguage(language);
+  const Renderer paint = Renderers[static_cast<std::size_t>(item.Type)];
+  if (paint == nullptr) return {};
+  // What is painted does not matter: one dot far from the item.
+  Drawable dot(1, 1);
+  DrawGc gc;
+  PTRNDATA painted = item;
+  paint(&dot, &gc, &painted);
+  return painted.Size;
+}
+
+SIZE TextExtent(gint language, gint font, const gchar* text) {
+  ShowLanguage(language);
+  return GetTextSize(font, text);
+}
+
+bool FontExists(gint language, gint font) {
+  ShowLanguage(language);
+  return font >= 0 && font < FontCount && FontName[font][0] != '\0';
+}
+
+PictureState Picture(const std::string& name) {
+  if (FileExist(BmapPath, name.c_str(), "") == 0) return PictureState::Missing;
+  return PictureFile(JoinPath(BmapPath, name, "")) != nullptr ? PictureState::Good
+                                                              : PictureState::Unreadable;
+}
+
+}  // namespace
+
+CheckSurroundings ProjectSurroundings() {
+  return {ItemExtent, TextExtent, FontExists, Picture};
+}
