@@ -4,7 +4,7 @@ set -euo pipefail
 export GDK_BACKEND=x11 GTK_THEME=Adwaita LC_ALL=C.UTF-8 NO_AT_BRIDGE=1 GSETTINGS_BACKEND=memory
 export GTK_MODULES= GTK_IM_MODULE=gtk-im-context-simple
 here=$(cd "$(dirname "$0")" && pwd)
-export LSAN_OPTIONS="suppressions=$here/lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
+export LSAN_OPTIONS="suppressions=$here/../lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 
 [ $# -gt 0 ] || {
   echo "usage: run-under-xvfb.sh COMMAND [ARGUMENT...]" >&2
