@@ -49,6 +49,16 @@ void PlaceToolBox(GtkWindow* window, const POINT& place) {
     gtk_window_move(window, place.x, place.y);
 }
 
+// The menu's keys work in the panel as in the window that it belongs to. Opening leaves the
+// keyboard with the canvas, where Delete and Escape act on the item just picked.
+void ShareKeyboard(GtkWindow* panel, GtkWidget* parent) {
+  gtk_window_set_focus_on_map(panel, FALSE);
+  if (parent == nullptr) return;
+  for (GSList* keys = gtk_accel_groups_from_object(G_OBJECT(parent)); keys != nullptr;
+       keys = keys->next)
+    gtk_window_add_accel_group(panel, GTK_ACCEL_GROUP(keys->data));
+}
+
 }  // namespace
 
 GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint start) {
@@ -91,6 +101,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   for (const auto& button : Buttons)
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
   SetDialogParent(dialog.Window, parent);
+  ShareKeyboard(GTK_WINDOW(dialog.Window), parent);
   gtk_widget_show(dialog.Window);
 }
 

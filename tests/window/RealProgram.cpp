@@ -173,14 +173,16 @@ TEST_F(RealProgram, DrawsRegistersAndSavesAnItem) {
   MovePointer(origin->x + 40, origin->y + 60);
   constexpr gint RectangleEntry = 6;
   ChooseFromPopUp(RectangleEntry);
-  ASSERT_TRUE(WaitForTitle("矩形"));
+  ASSERT_TRUE(WaitFor([] {
+    return !XDoTool({"search", "--onlyvisible", "--name", "^矩形$"}).empty();
+  }));
   XDoTool({"mousedown", "1"});
   MovePointer(origin->x + 180, origin->y + 130);
   MovePointer(origin->x + 240, origin->y + 200);
   XDoTool({"mouseup", "1"});
   constexpr gint RegisterEntry = 1;
   ChooseFromPopUp(RegisterEntry);
-  XDoTool({"search", "--name", title, "windowactivate", "--sync"});
+  // The tool box takes the keyboard from nobody.
   ASSERT_TRUE(WaitForTitle(title));
   PressKeys({"ctrl+s", "ctrl+q"});
   EXPECT_EQ(program.Wait(), 0);
