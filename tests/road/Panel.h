@@ -1,0 +1,47 @@
+// A dialog or the tool box, used by what its rows and buttons say.
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <string>
+#include <vector>
+
+// A control in a grid: `Below` rows under the label in the first column, in grid column `Column`.
+// Of several labels with one text, `Which` counts from the top.
+struct Cell {
+  std::string Label;
+  gint Column = 1;
+  gint Which = 0;
+  gint Below = 0;
+};
+
+class Panel {
+ public:
+  // Waits for the window with this title; fails the test when none comes.
+  explicit Panel(const std::string& title);
+  GtkWidget* Window() const { return window_; }
+  // The widget of this kind in the cell; null = none.
+  GtkWidget* Control(const Cell& cell, GType kind) const;
+
+  // Types digits into a spin button.
+  void Enter(const Cell& cell, gint number) const;
+  // Pastes a text into an entry.
+  void Enter(const Cell& cell, const std::string& text) const;
+  // Chooses an entry of a drop-down list.
+  void Choose(const Cell& cell, gint index) const;
+  // Clicks a check or radio button.
+  void Tick(const std::string& label) const;
+  void Tick(const Cell& cell) const;
+  // Clicks a swatch and a number in the picker that opens.
+  void PickColour(const Cell& cell, gint number) const;
+  void PickMark(const Cell& cell, gint number) const;
+  // Presses a button with this label.
+  void Press(const std::string& label) const;
+
+ private:
+  GtkWidget* window_;
+};
+
+// Chooses an entry of the menu bar or of an open menu with the pointer, through all its submenus.
+using Path = std::vector<std::string>;
+void ChooseMenu(GtkWidget* menu, const Path& path);

@@ -1,0 +1,32 @@
+// The whole program in the test's own process, in a copy of its folder, with the sample project
+// open; a user works in it.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "road/Panel.h"
+#include "road/User.h"
+#include "window/Program.h"
+#include "window/Widgets.h"
+#include "window/WindowTest.h"
+
+inline const std::string LayoutName = "試験画面";
+
+class RoadTest : public WindowTest {
+ protected:
+  RoadTest();
+  void SetUp() override { OpenWindow(); }
+
+  // Makes an empty layout through menu and dialog.
+  void NewLayout(gint width, gint height);
+  // A file of the project as the companion tool shows it; null when there is none.
+  nlohmann::json Saved(const std::string& name) const;
+
+  ProgramFolder Folder;
+};
+
+// Drags with the left button on the canvas, in canvas pixels.
+void DragOnCanvas(gint x1, gint y1, gint x2, gint y2);
+void ClickCanvas(gint x, gint y, Button button = LeftButton);
+// Saves by key and waits until it is done.
+void SaveByKey();

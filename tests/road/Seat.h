@@ -1,0 +1,27 @@
+// The pointer and the keyboard of the display, moved and pressed as hands do.
+#pragma once
+
+#include <glib.h>
+
+#include <memory>
+
+typedef struct _XDisplay Display;
+
+class Seat {
+ public:
+  Seat();
+  ~Seat();
+  Seat(const Seat&) = delete;
+  Seat& operator=(const Seat&) = delete;
+
+  // Each returns when the display has sent out what follows.
+  void MovePointer(gint x, gint y);
+  void MovePointerBy(gint x, gint y);
+  void SendButton(guint button, bool press);
+  void SendKey(guint key, bool press);
+  // Whether the key's symbol stands on its second level.
+  bool NeedsShift(guint key);
+
+ private:
+  Display* display_;
+};

@@ -1,0 +1,222 @@
+#include "road/User.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+#include "layout/Screen.h"
+#include "road/Seat.h"
+#include "window/Widgets.h"
+
+namespace {
+constexpr auto Patience = std::chrono::seconds(10);
+constexpr auto LookInterval = std::chrono::milliseconds(2);
+
+std::unique_ptr<Seat> Hands;
+
+// Presses of buttons that have reached the program. The window manager looks at a press first and
+// hands it on late; a release then comes straight, but not to a window that its press has closed.
+gint Presses;
+
+void CountPresses(GdkEvent* event, gpointer) {
+  if (event->type == GDK_BUTTON_PRESS) Presses++;
+  gtk_main_do_event(event);
+}
+
+struct Task {
+  std::function<void()> Run;
+};
+
+gboolean RunTask(gpointer task) {
+  static_cast<Task*>(task)->Run();
+  return G_SOURCE_REMOVE;
+}
+
+void DeleteTask(gpointer task) {
+  delete static_cast<Task*>(task);
+}
+
+void WhenIdle() {
+  std::promise<void> idle;
+  Post([&idle] { idle.set_value(); }, true);
+  idle.get_future().get();
+}
+
+// Lets the toplevel finish a frame, which hands out held-back motion before it paints.
+void Frame(GtkWidget* window) {
+  struct Wait {
+    std::promise<void> Done;
+    gulong Handler = 0;
+  };
+  const auto wait = std::make_shared<Wait>();
+  const bool waiting = Look([&] {
+    GdkFrameClock* clock = GTK_IS_WIDGET(window) && gtk_widget_get_mapped(window)
+                               ? gtk_widget_get_frame_clock(window)
+                               : nullptr;
+    if (clock == nullptr) return false;
+    using Shared = std::shared_ptr<Wait>;
+    const auto after = +[](GdkFrameClock* painted, gpointer data) {
+      const Shared shared = *static_cast<Shared*>(data);
+      g_signal_handler_disconnect(painted, shared->Handler);
+      shared->Done.set_value();
+    };
+    wait->Handler = g_signal_connect_data(
+        clock, "after-paint", G_CALLBACK(after), new Shared(wait),
+        [](gpointer data, GClosure*) { delete static_cast<Shared*>(data); }, GConnectFlags{});
+    gdk_frame_clock_request_phase(clock, GDK_FRAME_CLOCK_PHASE_FLUSH_EVENTS);
+    gdk_frame_clock_request_phase(clock, GDK_FRAME_CLOCK_PHASE_PAINT);
+    return true;
+  });
+  if (waiting) wait->Done.get_future().wait_for(Patience);
+}
+
+// What lies where on the screen.
+struct Spot {
+  gint X = 0;
+  gint Y = 0;
+  bool Ready = false;
+};
+
+Spot SpotOf(GtkWidget* widget, gint x, gint y) {
+  Spot spot;
+  GtkWidget* top = gtk_widget_get_toplevel(widget);
+  GdkWindow* window = gtk_widget_get_window(top);
+  gint topX = 0;
+  gint topY = 0;
+  if (window == nullptr || !gtk_widget_get_mapped(widget)) return spot;
+  if (!gtk_widget_translate_coordinates(widget, top, x, y, &topX, &topY)) return spot;
+  gdk_window_get_root_coords(window, topX, topY, &spot.X, &spot.Y);
+  spot.Ready = true;
+  return spot;
+}
+
+GdkWindow* WindowUnderPointer() {
+  GdkSeat* seat = gdk_display_get_default_seat(gdk_display_get_default());
+  GdkWindow* window =
+      gdk_device_get_window_at_position(gdk_seat_get_pointer(seat), nullptr, nullptr);
+  return window != nullptr ? gdk_window_get_toplevel(window) : nullptr;
+}
+
+void CloseAllButTheMainWindow() {
+  GList* windows = gtk_window_list_toplevels();
+  g_list_foreach(
+      windows, [](gpointer window, gpointer) { g_object_ref(window); }, nullptr);
+  for (GList* link = windows; link != nullptr; link = link->next) {
+    auto* window = static_cast<GtkWindow*>(link->data);
+    const bool menu = gtk_window_get_window_type(window) == GTK_WINDOW_POPUP;
+    if (!menu && GTK_WIDGET(window) != PtrnWnd && gtk_widget_get_visible(GTK_WIDGET(window)))
+      gtk_widget_destroy(GTK_WIDGET(window));
+  }
+  g_list_free_full(windows, g_object_unref);
+}
+}  // namespace
+
+void Post(std::function<void()> task, bool idle) {
+  g_idle_add_full(idle ? G_PRIORITY_LOW : G_PRIORITY_DEFAULT, RunTask, new Task{std::move(task)},
+                  DeleteTask);
+}
+
+void Play(const std::function<void()>& part) {
+  Hands = std::make_unique<Seat>();
+  GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
+  std::thread user([&] {
+    part();
+    Look(CloseAllButTheMainWindow);
+    Post([loop] { g_main_loop_quit(loop); }, true);
+  });
+  gdk_event_handler_set(CountPresses, nullptr, nullptr);
+  g_main_loop_run(loop);
+  user.join();
+  gdk_event_handler_set([](GdkEvent* event, gpointer) { gtk_main_do_event(event); }, nullptr,
+                        nullptr);
+  g_main_loop_unref(loop);
+  Hands.reset();
+}
+
+bool See(const std::function<bool()>& condition) {
+  const auto deadline = std::chrono::steady_clock::now() + Patience;
+  while (!Look(condition)) {
+    if (std::chrono::steady_clock::now() > deadline) return false;
+    std::this_thread::sleep_for(LookInterval);
+  }
+  return true;
+}
+
+GtkWidget* SeeWindow(const std::string& title) {
+  See([&] { return FindWindow(title) != nullptr; });
+  return Look([&] { return FindWindow(title); });
+}
+
+bool SeeGone(const std::string& title) {
+  return See([&] { return FindWindow(title) == nullptr; });
+}
+
+void Settle() {
+  WhenIdle();
+  Frame(PtrnWnd);
+  WhenIdle();
+}
+
+void PointAt(GtkWidget* widget, gint x, gint y) {
+  ASSERT_NE(widget, nullptr) << "nothing to point at";
+  const bool there = See([&] {
+    const Spot spot = SpotOf(widget, x, y);
+    if (!spot.Ready) return false;
+    Hands->MovePointer(spot.X, spot.Y);
+    return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget));
+  });
+  EXPECT_TRUE(there) << "another window lies over " << G_OBJECT_TYPE_NAME(widget);
+  WhenIdle();
+  Frame(Look([&] { return gtk_widget_get_toplevel(widget); }));
+  WhenIdle();
+}
+
+void PointAt(GtkWidget* widget) {
+  ASSERT_NE(widget, nullptr) << "nothing to point at";
+  const SIZE size = Look([&] {
+    return SIZE{gtk_widget_get_allocated_width(widget), gtk_widget_get_allocated_height(widget)};
+  });
+  PointAt(widget, size.cx / 2, size.cy / 2);
+}
+
+void ButtonDown(Button button) {
+  const gint before = Look([] { return Presses; });
+  Hands->SendButton(button, true);
+  EXPECT_TRUE(See([before] { return Presses > before; })) << "nothing was pressed";
+  WhenIdle();
+}
+
+void ButtonUp(Button button) {
+  Hands->SendButton(button, false);
+  WhenIdle();
+}
+
+void Click(GtkWidget* widget, Button button) {
+  PointAt(widget);
+  ButtonDown(button);
+  ButtonUp(button);
+}
+
+void PointBy(gint x, gint y) {
+  Hands->MovePointerBy(x, y);
+  Settle();
+}
+
+void PressKey(guint key, std::initializer_list<guint> held) {
+  for (const guint modifier : held) Hands->SendKey(modifier, true);
+  Hands->SendKey(key, true);
+  Hands->SendKey(key, false);
+  for (const guint modifier : held) Hands->SendKey(modifier, false);
+  WhenIdle();
+}
+
+void TypeText(const std::string& text) {
+  for (const char letter : text) {
+    const guint key = gdk_unicode_to_keyval(static_cast<guint32>(letter));
+    if (Hands->NeedsShift(key))
+      PressKey(key, {GDK_KEY_Shift_L});
+    else
+      PressKey(key);
+  }
+}
