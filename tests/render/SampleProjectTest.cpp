@@ -142,10 +142,10 @@ TEST_F(SampleProject, UsesEveryItemTypeAndLeavesNothingIncomplete) {
   for (const std::string& name : names_) {
     SCOPED_TRACE(Utf8(name.c_str()));
     Open(name);
-    EXPECT_EQ(PtrnHedr.UndfFlag, 0);
+    EXPECT_EQ(+PtrnHedr.UndfFlag, 0);
     for (const PTRNDATA& item : StoredItems()) {
-      types.insert(item.Type);
-      EXPECT_EQ(item.UndfFlag, 0) << Describe(item);
+      types.insert(+item.Type);
+      EXPECT_EQ(+item.UndfFlag, 0) << Describe(item);
     }
   }
   EXPECT_THAT(types, ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15));
@@ -251,7 +251,7 @@ TEST_F(SampleProject, RegistersExactlyTheCodesThatItsItemsUse) {
   std::vector<PTRNCODE> registry(slots.size() + 1);
   ASSERT_EQ(FileRead(ProjPath, "PtrnCode", "", registry.data(), size, 0), 1);
   EXPECT_STREQ(registry.front().ID_Code, "SYSTEM");
-  EXPECT_EQ(registry.front().DataCount, 100);
+  EXPECT_EQ(+registry.front().DataCount, 100);
   std::map<std::string, gint> registered;
   for (gsize no = 1; no < registry.size(); ++no)
     registered[registry[no].ID_Code] = registry[no].DataCount;
