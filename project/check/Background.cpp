@@ -45,7 +45,7 @@ gint ColourOf(const PTRNDATA& cover, gint system) {
 
 // Place of an item in the painting order: layer, then type.
 std::array<gint, 2> RankOf(const PTRNDATA& item) {
-  const auto place = std::find(std::begin(PtrnTable), std::end(PtrnTable), item.Type);
+  const auto place = std::find(std::begin(PtrnTable), std::end(PtrnTable), +item.Type);
   return {item.Parm[ItemSlot::TopLayer], static_cast<gint>(place - std::begin(PtrnTable))};
 }
 

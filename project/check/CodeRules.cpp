@@ -113,7 +113,7 @@ void FindDoubleRadioNumbers(const CheckedProject& project, FindingList& findings
     for (const PTRNDATA& item : layout.Items) {
       if (item.Type != TypeRadioButton || CodeOf(item).empty()) continue;
       const gint number = item.Parm[ChoiceSlot::Number];
-      if (!seen.emplace(CodeOf(item), item.ID_No, number).second)
+      if (!seen.emplace(CodeOf(item), +item.ID_No, number).second)
         findings.AddItem(layout, item, "Number",
                          "number " + std::to_string(number) + " is double in the group of " +
                              Quoted(CodeOf(item)));
@@ -134,7 +134,7 @@ std::string Lack(const std::map<std::string_view, gint>& slots, const PTRNDATA& 
 void FindRegistryBehind(const CheckedProject& project, FindingList& findings) {
   std::map<std::string_view, gint> slots;
   for (const PTRNCODE& record : project.Registry)
-    slots.emplace(FieldText(record.ID_Code), record.DataCount);
+    slots.emplace(FieldText(record.ID_Code), +record.DataCount);
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     if (CodeOf(item).empty()) return;
     std::string lack = Lack(slots, item);
