@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
-enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2 };
+// A comparison that cannot be made ends with ExitTrouble, so that scripts can tell it from a
+// difference.
+enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitTrouble = 2 };
 
 // Prints a file as JSON.
 int RunShow(const std::string& file);
@@ -30,7 +32,9 @@ struct ViewOptions {
 struct RenderOptions {
   ViewOptions View;
   std::vector<std::string> Names;  // none = all layouts
-  std::string Folder;
+  std::string Folder;              // for the pictures; with Before and After, the picture's file
+  std::string Before;              // with After: a picture of what these two layouts differ in
+  std::string After;
   int Zoom = 100;
   bool Grid = false;
   std::optional<std::tm> Time;  // none = now
@@ -65,3 +69,6 @@ struct CheckOptions {
 };
 // Prints what would hurt at run time; ExitFailed when there is something.
 int RunCheck(const CheckOptions& options);
+
+// Prints what two layouts differ in: ExitDone = nothing, ExitFailed = something.
+int RunDiff(const std::string& before, const std::string& after);

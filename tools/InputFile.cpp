@@ -14,7 +14,7 @@
 #include "layout/Records.h"
 #include "support/Resource.h"
 #include "support/Text.h"
-#include "tools/json/LayoutFile.h"
+#include "tools/Report.h"
 
 namespace {
 
@@ -110,4 +110,12 @@ FileBytes ReadFileOfKind(FileKind kind, const std::string& path) {
   std::string bytes = ReadHead(input, *size);
   if (bytes.size() < *size) return {std::nullopt, "cannot be read to its end"};
   return {std::move(bytes), ""};
+}
+
+std::optional<LayoutFile> ReadLayout(const std::string& path) {
+  const FileBytes input = ReadFileOfKind(FileKind::Layout, ExistingPath(path));
+  std::optional<LayoutFile> layout;
+  if (input.Bytes) layout = DecodeLayout(*input.Bytes);
+  if (!layout) Refuse(path, input.Error);
+  return layout;
 }

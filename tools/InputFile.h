@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tools/json/Convert.h"
+#include "tools/json/LayoutFile.h"
 
 // The part of a path after its last "/", and what is before it ("." when there is none).
 std::string_view BaseName(std::string_view path);
@@ -24,3 +25,5 @@ struct FileBytes {
 // As much of a file as a file of its kind holds by its own counts. Nothing is held in memory that
 // the file does not hold.
 FileBytes ReadFileOfKind(FileKind kind, const std::string& path);
+// A layout file of any name; nothing when it cannot be read, the reason has then been told.
+std::optional<LayoutFile> ReadLayout(const std::string& path);

@@ -1,5 +1,9 @@
 #include "tools/LayoutView.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "Constant.h"
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnDraw.h"
@@ -11,6 +15,11 @@ namespace {
 // What one surface can cover: the side of a cairo image, and 1 GiB of pixels.
 constexpr gint64 SideLimit = 32767;
 constexpr gint64 AreaLimit = gint64{1} << 28;
+
+gint ZoomIndex(int percent) {
+  const auto found = std::find(std::begin(ZoomFactorData), std::end(ZoomFactorData), percent);
+  return static_cast<gint>(std::distance(std::begin(ZoomFactorData), found));
+}
 
 }  // namespace
 
@@ -32,6 +41,17 @@ OpenLayout::OpenLayout(const std::string& name) {
   }
   // The result tells a layout without items from others; both can be drawn.
   PtrnFileRead(ProjPath, name.c_str());
+  CheckSize();
+}
+
+OpenLayout::OpenLayout(const LayoutFile& layout) {
+  IntPtrnData();
+  PtrnHedr = layout.Header;
+  for (const PTRNDATA& item : layout.Items) AddPtrnData(&item);
+  CheckSize();
+}
+
+void OpenLayout::CheckSize() {
   if (!DrawableSize(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]))
     error_ = "its size cannot be drawn";
 }
@@ -44,6 +64,23 @@ LayoutPicture::LayoutPicture()
     : surface_(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]) {
   DrawGc gc;
   DrawWindow1(&surface_, &gc);
+}
+
+CanvasPicture PaintCanvas(int zoom, bool grid) {
+  PtrnHedr.Parm2[ViewSlot::Zoom] = ZoomIndex(zoom);
+  PtrnHedr.Parm2[ViewSlot::GridShown] = grid;
+  const LayoutPicture picture;
+  const gint64 width = gint64{PtrnHedr.Parm1[HedrSlot::Width]} * zoom / 100;
+  const gint64 height = gint64{PtrnHedr.Parm1[HedrSlot::Height]} * zoom / 100;
+  if (!DrawableSize(width, height)) return {nullptr, "too large at this zoom"};
+  auto canvas = std::make_unique<Drawable>(static_cast<gint>(width), static_cast<gint>(height));
+  const PixbufPtr image = zoom == 100 ? nullptr : PixbufFromSurface(picture.Surface());
+  if (!picture.Surface().Valid() || !canvas->Valid() || (zoom != 100 && !image))
+    return {nullptr, "too large for the memory"};
+  PaintZoomed(*canvas, picture.Surface(), image.get(), canvas->Width(), canvas->Height());
+  DrawGc gc;
+  DrawGridData(canvas.get(), &gc);
+  return {std::move(canvas), ""};
 }
 
 bool DrawableSize(gint64 width, gint64 height) {

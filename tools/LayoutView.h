@@ -1,10 +1,12 @@
 // A layout as the canvas shows it, without a window.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "render/Surface.h"
 #include "tools/Commands.h"
+#include "tools/json/LayoutFile.h"
 
 // Makes the drawing resources of the open project.
 void PrepareDrawing(const ViewOptions& options);
@@ -14,6 +16,8 @@ class OpenLayout {
  public:
   // A layout of the open project, named as on disk.
   explicit OpenLayout(const std::string& name);
+  // A layout from anywhere.
+  explicit OpenLayout(const LayoutFile& layout);
   ~OpenLayout();
   OpenLayout(const OpenLayout&) = delete;
   OpenLayout& operator=(const OpenLayout&) = delete;
@@ -21,6 +25,8 @@ class OpenLayout {
   const std::string& Error() const { return error_; }
 
  private:
+  void CheckSize();
+
   std::string error_;
 };
 
@@ -33,6 +39,14 @@ class LayoutPicture {
  private:
   Drawable surface_;
 };
+
+// What the canvas shows of the open layout, or the reason why that cannot be had.
+struct CanvasPicture {
+  std::unique_ptr<Drawable> Surface;
+  std::string Error;
+};
+// The canvas' own steps: the picture at 100 %, scaled, the grid over it.
+CanvasPicture PaintCanvas(int zoom, bool grid);
 
 // Whether pictures of this size are made at all.
 bool DrawableSize(gint64 width, gint64 height);

@@ -11,6 +11,7 @@ namespace {
 // All that the command line can fill in.
 struct Options {
   std::string File;
+  std::string Other;
   BuildOptions Build;
   RenderOptions Render;
   std::string Time;
@@ -54,8 +55,17 @@ void AddBuild(CLI::App& app, Options& options, int& result) {
 void AddRender(CLI::App& app, Options& options, int& result) {
   CLI::App* command = app.add_subcommand("render", "Write layouts as PNG pictures");
   AddView(*command, options.Render.View);
-  command->add_option("NAME", options.Render.Names, "Layouts (default: all)");
-  command->add_option("--out", options.Render.Folder, "Folder for the pictures")->required();
+  CLI::Option* names = command->add_option("NAME", options.Render.Names, "Layouts (default: all)");
+  command
+      ->add_option("--out", options.Render.Folder,
+                   "Folder for the pictures; with --before and --after, the picture's file")
+      ->required();
+  CLI::Option* before = command->add_option("--before", options.Render.Before,
+                                            "Layout file as it was, to mark what has changed");
+  CLI::Option* after =
+      command->add_option("--after", options.Render.After, "Layout file as it is now");
+  before->needs(after)->excludes(names);
+  after->needs(before);
   command->add_option("--zoom", options.Render.Zoom, "Zoom in percent")
       ->check(CLI::IsMember({50, 75, 100, 200, 500}));
   command->add_flag("--grid", options.Render.Grid, "Draw the grid");
@@ -102,6 +112,13 @@ void AddCheck(CLI::App& app, Options& options, int& result) {
   command->callback([&] { result = RunCheck(options.Check); });
 }
 
+void AddDiff(CLI::App& app, Options& options, int& result) {
+  CLI::App* command = app.add_subcommand("diff", "Tell what two layouts differ in");
+  command->add_option("A", options.File, "Layout file before")->required();
+  command->add_option("B", options.Other, "Layout file after")->required();
+  command->callback([&] { result = RunDiff(options.File, options.Other); });
+}
+
 int Run(int argc, const char* const* argv) {
   CLI::App app(
       "Companion tool of VarnixMaster: shows, builds, compares, renders, checks, generates.",
@@ -116,6 +133,7 @@ int Run(int argc, const char* const* argv) {
   AddHit(app, options, result);
   AddInfo(app, options, result);
   AddCheck(app, options, result);
+  AddDiff(app, options, result);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
