@@ -25,10 +25,10 @@ int RenderLayout(const std::string& name, const std::string& file, const RenderO
 int RunRender(const RenderOptions& options) {
   const ProfileInUse profile(options.View.Profile);
   if (!profile.Good() || !OpenProject(options.View.Project)) return ExitFailed;
-  if (!options.Before.empty()) return RenderChanges(options);
-  if (!CreateFolder(options.Folder.c_str())) return Fail(options.Folder, "cannot be made");
   PrepareDrawing(options.View);
   SetPictureTime(options.Time ? &*options.Time : nullptr);
+  if (!options.Before.empty()) return RenderChanges(options);
+  if (!CreateFolder(options.Folder.c_str())) return Fail(options.Folder, "cannot be made");
   std::vector<std::string> names = options.Names;
   if (names.empty()) names = SortedLayouts();
   int result = ExitDone;

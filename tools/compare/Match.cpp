@@ -1,7 +1,6 @@
 #include "tools/compare/Match.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <deque>
 #include <string>
@@ -9,7 +8,9 @@
 
 #include "Constant.h"
 #include "layout/Guards.h"
+#include "layout/ItemSlots.h"
 #include "support/Text.h"
+#include "tools/json/Numbers.h"
 
 namespace {
 
@@ -34,13 +35,30 @@ bool HasCode(const PTRNDATA& item) {
   return item.ID_Code[0] != '\0';
 }
 
+bool IsTwoPoint(const PTRNDATA& item) {
+  return IsItemType(item.Type) && PtrnDataType[item.Type] != 0;
+}
+
 std::string Place(const PTRNDATA& item) {
-  const bool twoPoints = IsItemType(item.Type) && PtrnDataType[item.Type] != 0;
-  return Bytes(&item.Parm, (twoPoints ? 4 : 2) * sizeof(gint));
+  return Bytes(&item.Parm, (IsTwoPoint(item) ? 4 : 2) * sizeof(gint));
 }
 
 std::string Code(const PTRNDATA& item) {
   return Text(item.ID_Code) + Bytes(&item.ID_No, sizeof(gint));
+}
+
+// Size and parameters, wherever the item is.
+std::string Shape(const PTRNDATA& item) {
+  auto parm = NumbersOf<30>(item.Parm);
+  const auto distance = [&parm](gint to, gint from) {
+    return static_cast<guint32>(parm[static_cast<std::size_t>(to)]) -
+           static_cast<guint32>(parm[static_cast<std::size_t>(from)]);
+  };
+  parm[ItemSlot::X2] = static_cast<gint>(distance(ItemSlot::X2, ItemSlot::X1));
+  parm[ItemSlot::Y2] = static_cast<gint>(distance(ItemSlot::Y2, ItemSlot::Y1));
+  parm[ItemSlot::X1] = parm[ItemSlot::Y1] = 0;
+  if (!IsTwoPoint(item)) parm[ItemSlot::X2] = parm[ItemSlot::Y2] = 0;
+  return Bytes(parm.data(), sizeof parm) + Code(item) + Text(item.ID_Name);
 }
 
 // What two items must agree in; "" = this item cannot be matched so.
@@ -56,6 +74,7 @@ constexpr Key Keys[] = {
     [](const PTRNDATA& item) { return Place(item); },
     [](const PTRNDATA& item) { return HasCode(item) ? Code(item) : std::string(); },
     [](const PTRNDATA& item) { return HasTexts(item) ? Texts(item) : std::string(); },
+    Shape,
 };
 
 using Indexes = std::vector<std::size_t>;
