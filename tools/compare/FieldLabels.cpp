@@ -112,6 +112,7 @@ constexpr FieldLabel Labels[] = {
     {TypeCheckBox, "BackEnabled", "背景色有効", Switch},
     {TypeCheckBox, "Font", "フォント", nullptr},
     {TypeCheckBox, "Length", "文字数", nullptr},
+    {TypeCheckBox, "Number", "識別番号（ボタン）", nullptr},
 
     {TypeBitmap, "TransparentColour", "透過色", nullptr},
     {TypeBitmap, "Transparent", "透過色 有効", Switch},
