@@ -127,7 +127,9 @@ void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
   Dlg_ColrData_Parent = parent;
   ForEachRow(rows, [table](DLG_COLRDATA& row) {
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);
-    gtk_box_pack_start(GTK_BOX(box), NewSwatch(62, 20, row), TRUE, TRUE, 0);
+    GtkWidget* swatch = NewSwatch(62, 20, row);
+    gtk_widget_set_valign(swatch, GTK_ALIGN_CENTER);
+    gtk_box_pack_start(GTK_BOX(box), swatch, TRUE, TRUE, 0);
     PlaceControl(table, box, row);
   });
 }

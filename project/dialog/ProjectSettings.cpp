@@ -140,6 +140,8 @@ void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
       gtk_container_add(GTK_CONTAINER(shown), table);
       gtk_widget_show(shown);
     }
+    // The controls in it would have it grow.
+    gtk_widget_set_vexpand(shown, FALSE);
     gtk_box_pack_start(GTK_BOX(box), shown, FALSE, FALSE, 0);
   }
   gtk_widget_show(box);
