@@ -25,5 +25,6 @@ struct FileBytes {
 // As much of a file as a file of its kind holds by its own counts. Nothing is held in memory that
 // the file does not hold.
 FileBytes ReadFileOfKind(FileKind kind, const std::string& path);
-// A layout file of any name; nothing when it cannot be read, the reason has then been told.
+// A layout file of any name, an empty layout for "/dev/null"; nothing when it cannot be read, the
+// reason has then been told.
 std::optional<LayoutFile> ReadLayout(const std::string& path);

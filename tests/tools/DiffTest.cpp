@@ -98,6 +98,18 @@ TEST(Diff, TemporaryFilesOfOtherNames) {
   EXPECT_EQ(RunTool({"diff", copy, copy}).Code, 0);
 }
 
+TEST(Diff, AgainstNothing) {
+  const TwoStates states;
+  const std::string one = states.Build("one.ptn", List({Kept}));
+  const ToolRun made = RunTool({"diff", "/dev/null", one});
+  EXPECT_EQ(made.Code, 1);
+  EXPECT_THAT(made.Out, HasSubstr("    領域の大きさ Ｘ: 0 → 80\n"));
+  EXPECT_THAT(made.Out, HasSubstr("+ 矩形 (60, 40)-(75, 55)\n"));
+  const ToolRun gone = RunTool({"diff", one, "/dev/null"});
+  EXPECT_EQ(gone.Code, 1);
+  EXPECT_THAT(gone.Out, HasSubstr("- 矩形 (60, 40)-(75, 55)\n"));
+}
+
 constexpr unsigned AddedInk = 0x00a000;
 constexpr unsigned ChangedInk = 0x0060ff;
 constexpr unsigned RemovedInk = 0xe00000;
