@@ -1,0 +1,188 @@
+// Text entries: what they let in, what they write, how they say no.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+#include "dialogs/Cells.h"
+#include "dialogs/Controls.h"
+#include "dialogs/GridWindow.h"
+#include "dialogs/Kit.h"
+
+namespace {
+
+constexpr gint Limit = 10;  // bytes
+
+// "日本" in EUC-JP.
+constexpr gchar Nihon[] = "\xC6\xFC\xCB\xDC";
+
+bool IsRefused(GtkWidget* entry) {
+  const bool marked = gtk_style_context_has_class(gtk_widget_get_style_context(entry),
+                                                  GTK_STYLE_CLASS_ERROR) != FALSE;
+  const bool icon = gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) != nullptr;
+  EXPECT_EQ(marked, icon);
+  EXPECT_EQ(icon, gtk_widget_get_tooltip_text(entry) != nullptr);
+  return marked;
+}
+
+}  // namespace
+
+class Entries : public testing::Test {
+ protected:
+  // An entry of Limit bytes over Field.
+  GtkWidget* NewEntry(const gchar* stored, gint readOnly = 0) {
+    std::strncpy(Field, stored, sizeof Field - 1);
+    Rows[0] = {0, 0, 0, Limit, readOnly, Field, nullptr};
+    Rows[1] = {-1, 0, 0, 0, 0, nullptr, nullptr};
+    Dlg_EditBox(Form.Window, Form.Grid, Rows);
+    EXPECT_EQ(gtk_editable_get_position(GTK_EDITABLE(Rows[0].entry)), 0);
+    Form.Show();
+    return Rows[0].entry;
+  }
+
+  gchar Field[Limit + 2] = {};
+  DLG_EDITBOX Rows[2] = {};
+  GridWindow Form;
+};
+
+TEST_F(Entries, ShowWhatIsStored) {
+  GtkWidget* entry = NewEntry(Nihon);
+  EXPECT_EQ(EntryText(entry), "日本");
+}
+
+TEST_F(Entries, WriteEucJpAtOnce) {
+  GtkWidget* entry = NewEntry("");
+  Type(entry, "日本");
+  EXPECT_STREQ(Field, Nihon);
+  Type(entry, "x");
+  EXPECT_STREQ(Field, "\xC6\xFC\xCB\xDCx");
+}
+
+TEST_F(Entries, AnEmptyTextIsStoredAtOnce) {
+  GtkWidget* entry = NewEntry("abc");
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 0, -1);
+  EXPECT_STREQ(Field, "");
+}
+
+TEST_F(Entries, TakeExactlyTheirLimit) {
+  GtkWidget* entry = NewEntry("");
+  Type(entry, "あいうえお");
+  EXPECT_EQ(std::strlen(Field), 10U);
+  EXPECT_FALSE(IsRefused(entry));
+  Type(entry, "a");
+  EXPECT_EQ(EntryText(entry), "あいうえお");
+  EXPECT_EQ(std::strlen(Field), 10U);
+  EXPECT_TRUE(IsRefused(entry));
+}
+
+TEST_F(Entries, StoreNoHalfCharacter) {
+  GtkWidget* entry = NewEntry("");
+  Type(entry, "abcdefghi");
+  Type(entry, "日");
+  EXPECT_STREQ(Field, "abcdefghi");
+  EXPECT_EQ(EntryText(entry), "abcdefghi");
+  EXPECT_TRUE(IsRefused(entry));
+}
+
+TEST_F(Entries, CountTheBytesThatAreStored) {
+  GtkWidget* entry = NewEntry("");
+  // Half-width kana take two bytes each, a character of the supplementary set three.
+  Type(entry, "ｱｲｳ");
+  EXPECT_EQ(std::strlen(Field), 6U);
+  Type(entry, "丂");
+  EXPECT_EQ(std::strlen(Field), 9U);
+  Type(entry, "ｴ");
+  EXPECT_TRUE(IsRefused(entry));
+  Type(entry, "x");
+  EXPECT_EQ(std::strlen(Field), 10U);
+  EXPECT_FALSE(IsRefused(entry));
+}
+
+TEST_F(Entries, RefuseWhatEucJpCannotHold) {
+  GtkWidget* entry = NewEntry("a");
+  Type(entry, "\U0001F600");
+  EXPECT_EQ(EntryText(entry), "a");
+  EXPECT_STREQ(Field, "a");
+  EXPECT_TRUE(IsRefused(entry));
+}
+
+TEST_F(Entries, TheNextChangeTakesTheMarkAway) {
+  GtkWidget* entry = NewEntry("a");
+  Type(entry, "\U0001F600");
+  ASSERT_TRUE(IsRefused(entry));
+  Type(entry, "b");
+  EXPECT_FALSE(IsRefused(entry));
+  Type(entry, "\U0001F600");
+  ASSERT_TRUE(IsRefused(entry));
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 0, 1);
+  EXPECT_FALSE(IsRefused(entry));
+}
+
+TEST_F(Entries, LookAlikesBecomeTheCharactersOfEucJp) {
+  GtkWidget* entry = NewEntry("");
+  Type(entry, "\uFF5E");  // full-width tilde, stored as the wave dash
+  EXPECT_STREQ(Field, "\xA1\xC1");
+  EXPECT_FALSE(IsRefused(entry));
+}
+
+TEST_F(Entries, ARefusedPasteOverASelectionSaysSo) {
+  GtkWidget* entry = NewEntry("abc");
+  GtkClipboard* clipboard = gtk_widget_get_clipboard(entry, GDK_SELECTION_CLIPBOARD);
+  gtk_clipboard_set_text(clipboard, "いろはにほへと", -1);
+  gtk_widget_grab_focus(entry);
+  gtk_editable_select_region(GTK_EDITABLE(entry), 0, 1);
+  gtk_editable_paste_clipboard(GTK_EDITABLE(entry));
+  EXPECT_TRUE(WaitFor([entry] { return IsRefused(entry); }));
+  EXPECT_EQ(EntryText(entry), Field);
+}
+
+TEST_F(Entries, APasteEndsAtTheLine) {
+  GtkWidget* entry = NewEntry("");
+  GtkClipboard* clipboard = gtk_widget_get_clipboard(entry, GDK_SELECTION_CLIPBOARD);
+  gtk_clipboard_set_text(clipboard, "one\ntwo", -1);
+  gtk_editable_paste_clipboard(GTK_EDITABLE(entry));
+  EXPECT_TRUE(WaitFor([entry] { return EntryText(entry) == "one"; }));
+  EXPECT_STREQ(Field, "one");
+}
+
+TEST_F(Entries, BytesThatAreNoTextAreShownEscapedAndLeftAlone) {
+  GtkWidget* entry = NewEntry("A\xFF\x80Z");
+  EXPECT_EQ(EntryText(entry), "A\\xFF\\x80Z");
+  EXPECT_STREQ(Field, "A\xFF\x80Z");
+}
+
+TEST_F(Entries, EscapedBytesStayStoredUntilTheTextFits) {
+  GtkWidget* entry = NewEntry("\xFF\xFF\xFFx");
+  EXPECT_EQ(EntryText(entry), "\\xFF\\xFF\\xFFx");
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 12, 13);
+  EXPECT_STREQ(Field, "\xFF\xFF\xFFx");
+  EXPECT_TRUE(IsRefused(entry));
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 4, 12);
+  EXPECT_STREQ(Field, "\\xFF");
+  EXPECT_FALSE(IsRefused(entry));
+}
+
+TEST_F(Entries, AFieldWithoutItsEndIsReadNoFurther) {
+  gchar field[] = "0123456789abcdef";
+  DLG_EDITBOX rows[] = {{0, 0, 0, Limit, 0, field, nullptr}, {-1, 0, 0, 0, 0, nullptr, nullptr}};
+  GridWindow form;
+  Dlg_EditBox(form.Window, form.Grid, rows);
+  EXPECT_EQ(EntryText(rows[0].entry), "0123456789a");
+}
+
+TEST_F(Entries, ReadOnlyOnesAreNotEditable) {
+  GtkWidget* entry = NewEntry("abc", 1);
+  EXPECT_FALSE(gtk_editable_get_editable(GTK_EDITABLE(entry)));
+  Type(entry, "x");
+  EXPECT_STREQ(Field, "abc");
+}
+
+TEST_F(Entries, ShowingRecordBytesWritesNothing) {
+  GtkWidget* entry = NewEntry("abc");
+  ShowRecordText(entry,
+                 "\xFF"
+                 "too long for the field");
+  EXPECT_EQ(EntryText(entry), "\\xFFtoo long for the field");
+  EXPECT_STREQ(Field, "abc");
+  EXPECT_FALSE(IsRefused(entry));
+}
