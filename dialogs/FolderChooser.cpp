@@ -79,6 +79,7 @@ gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(FolderSelect_Delete), nullptr);
   KeepWidget(&FolderSelect_Button, button);
 
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
   GtkWidget* entry = gtk_entry_new();
   gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
   gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(home).c_str());

@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <deque>
 #include <memory>
 #include <set>
 #include <utility>
@@ -19,22 +20,55 @@ using FolderId = std::pair<dev_t, ino_t>;
 
 // What a tree keeps beside its rows.
 struct TreeState {
+  explicit TreeState(FolderSelected selected) : Selected(std::move(selected)) {}
+  ~TreeState() {
+    if (Source != 0) g_source_remove(Source);
+  }
+  TreeState(const TreeState&) = delete;
+  TreeState& operator=(const TreeState&) = delete;
+
   FolderSelected Selected;
   std::set<FolderId> Unfolded;
+  GtkTreeStore* Store = nullptr;
+  std::deque<GtkTreeIter> Unseen;  // rows not yet looked into for folders
+  guint Source = 0;                // that looks into them
 };
 
-// Path and name of the folders in `path`, in the folder's own order.
+bool IsFolder(const dirent& entry, const std::string& path) {
+  if (entry.d_name[0] == '.') return false;
+  if (entry.d_type == DT_DIR) return true;
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return false;
+  struct stat status;
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Calls `visit` with path and name of the folders in `path`, in the folder's own order, for as long
+// as it returns true.
+template <class Visit>
+void VisitFolders(const std::string& path, Visit visit) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(path.c_str()), closedir);
+  if (folder == nullptr) return;
+  while (const dirent* entry = readdir(folder.get())) {
+    std::string full = JoinPath(path, entry->d_name, "");
+    if (IsFolder(*entry, full) && !visit(std::move(full), entry->d_name)) return;
+  }
+}
+
 std::vector<std::pair<std::string, std::string>> SubFolders(const std::string& path) {
   std::vector<std::pair<std::string, std::string>> found;
-  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(path.c_str()), closedir);
-  if (folder == nullptr) return found;
-  while (const dirent* entry = readdir(folder.get())) {
-    if (entry->d_name[0] == '.') continue;
-    std::string full = JoinPath(path, entry->d_name, "");
-    struct stat status;
-    if (stat(full.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
-      found.emplace_back(std::move(full), entry->d_name);
-  }
+  VisitFolders(path, [&found](std::string full, const gchar* name) {
+    found.emplace_back(std::move(full), name);
+    return true;
+  });
+  return found;
+}
+
+bool HasFolders(const std::string& path) {
+  bool found = false;
+  VisitFolders(path, [&found](const std::string&, const gchar*) {
+    found = true;
+    return false;
+  });
   return found;
 }
 
@@ -46,15 +80,44 @@ std::string RowPath(GtkTreeModel* model, GtkTreeIter* row) {
   return result;
 }
 
-// Adds a folder; one that has folders itself gets an empty row, so that it can be unfolded.
-void AddFolder(GtkTreeStore* store, GtkTreeIter* parent, const std::string& label,
-               const std::string& path, GtkTreeIter* row) {
-  gtk_tree_store_append(store, row, parent);
-  gtk_tree_store_set(store, row, LabelColumn, DisplayText(label).c_str(), PathColumn, path.c_str(),
-                     FilledColumn, FALSE, -1);
-  if (SubFolders(path).empty()) return;
+// An empty row below makes a folder unfoldable; unfolding it brings the folders themselves.
+void LookInto(GtkTreeStore* store, GtkTreeIter* row) {
+  if (!HasFolders(RowPath(GTK_TREE_MODEL(store), row))) return;
   GtkTreeIter placeholder;
   gtk_tree_store_append(store, &placeholder, row);
+}
+
+// Looks into as many rows as fit into a moment. False when none is left.
+bool LookForAMoment(TreeState* state) {
+  constexpr gint64 Moment = 10000;  // microseconds
+  const gint64 end = g_get_monotonic_time() + Moment;
+  while (!state->Unseen.empty() && g_get_monotonic_time() < end) {
+    LookInto(state->Store, &state->Unseen.front());
+    state->Unseen.pop_front();
+  }
+  return !state->Unseen.empty();
+}
+
+gboolean LookWhenIdle(gpointer data) {
+  auto* state = static_cast<TreeState*>(data);
+  if (LookForAMoment(state)) return G_SOURCE_CONTINUE;
+  state->Source = 0;
+  return G_SOURCE_REMOVE;
+}
+
+void AddFolder(TreeState* state, GtkTreeIter* parent, const std::string& label,
+               const std::string& path) {
+  GtkTreeIter row;
+  // First, not last: the store counts its way to a last row.
+  gtk_tree_store_prepend(state->Store, &row, parent);
+  gtk_tree_store_set(state->Store, &row, LabelColumn, DisplayText(label).c_str(), PathColumn,
+                     path.c_str(), FilledColumn, FALSE, -1);
+  state->Unseen.push_front(row);
+}
+
+// What does not fit into a moment is looked into while the user already sees the folders.
+void LookIntoNewFolders(TreeState* state) {
+  if (LookForAMoment(state) && state->Source == 0) state->Source = g_idle_add(LookWhenIdle, state);
 }
 
 bool FirstVisit(TreeState* state, const std::string& path) {
@@ -71,15 +134,16 @@ gboolean FillBeforeUnfolding(GtkTreeView* view, GtkTreeIter* row, GtkTreePath* /
   gtk_tree_model_get(model, row, FilledColumn, &filled, -1);
   if (filled) return FALSE;
   gtk_tree_store_set(store, row, FilledColumn, TRUE, -1);
-  const std::string path = RowPath(model, row);
-  if (FirstVisit(state, path))
-    for (const auto& [full, name] : SubFolders(path)) {
-      GtkTreeIter child;
-      AddFolder(store, row, name, full, &child);
-    }
   GtkTreeIter placeholder;
-  if (gtk_tree_model_iter_children(model, &placeholder, row))
-    gtk_tree_store_remove(store, &placeholder);
+  const bool unfoldable = gtk_tree_model_iter_children(model, &placeholder, row) != FALSE;
+  const std::string path = RowPath(model, row);
+  if (FirstVisit(state, path)) {
+    const auto folders = SubFolders(path);
+    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+      AddFolder(state, row, folder->second, folder->first);
+  }
+  if (unfoldable) gtk_tree_store_remove(store, &placeholder);
+  LookIntoNewFolders(state);
   return FALSE;
 }
 
@@ -93,6 +157,7 @@ void ReportSelection(GtkTreeSelection* selection, TreeState* state) {
 // A tree that goes away unselects its row; nobody is to hear of that.
 void StopReporting(GtkWidget* view, TreeState* state) {
   g_signal_handlers_disconnect_by_data(gtk_tree_view_get_selection(GTK_TREE_VIEW(view)), state);
+  state->Unseen.clear();
 }
 
 gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, GtkTreePath* path,
@@ -103,11 +168,13 @@ gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, Gtk
 }  // namespace
 
 GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
-  auto* state = new TreeState{std::move(selected), {}};
+  auto owner = std::make_unique<TreeState>(std::move(selected));
   GtkTreeStore* store =
       gtk_tree_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING, G_TYPE_BOOLEAN);
-  GtkTreeIter top;
-  AddFolder(store, nullptr, root, root, &top);
+  TreeState* state = owner.release();
+  state->Store = store;
+  AddFolder(state, nullptr, root, root);
+  LookIntoNewFolders(state);
   GtkWidget* view = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
   g_object_unref(store);
   g_object_set_data_full(G_OBJECT(view), "varnix-folder-tree", state,

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
@@ -19,7 +20,7 @@ struct MarkEdit {
   SIZE Size;
   MARKDATA Data;
   gint Result;
-  POINT Last;  // mark pixel under the latest press or drag
+  std::optional<POINT> Last;  // mark pixel under the latest press or drag while a button is held
 };
 
 gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
@@ -60,13 +61,13 @@ void SetPixel(MarkEdit* edit, gint x, gint y, gint data) {
 }
 
 // Every pixel from the latest one to (x, y), so that a fast drag leaves no gaps.
-void SetPixelsTo(MarkEdit* edit, gint x, gint y, gint data) {
-  const gint dx = x - edit->Last.x;
-  const gint dy = y - edit->Last.y;
+void SetPixelsTo(MarkEdit* edit, const POINT& to, gint data) {
+  const POINT from = edit->Last.value_or(to);
+  const gint dx = to.x - from.x;
+  const gint dy = to.y - from.y;
   const gint steps = std::max({std::abs(dx), std::abs(dy), 1});
-  for (gint step = 1; step <= steps; ++step)
-    SetPixel(edit, edit->Last.x + dx * step / steps, edit->Last.y + dy * step / steps, data);
-  edit->Last = {x, y};
+  for (gint step = 0; step <= steps; ++step)
+    SetPixel(edit, from.x + dx * step / steps, from.y + dy * step / steps, data);
 }
 
 // A press on the right or bottom border passes, a motion there does not; the pixel beyond the mark
@@ -76,8 +77,8 @@ gboolean MakeMarkData_Button(GtkWidget* /*view*/, const GdkEventButton* event, M
   const gint px = static_cast<gint>(std::lround(event->x));
   const gint py = static_cast<gint>(std::lround(event->y));
   if (px >= 0 && px <= edit->Size.cx * Cell && py >= 0 && py <= edit->Size.cy * Cell) {
-    edit->Last = {px / Cell, py / Cell};
-    SetPixel(edit, edit->Last.x, edit->Last.y, event->button == 1 ? 1 : 0);
+    edit->Last = POINT{px / Cell, py / Cell};
+    SetPixel(edit, px / Cell, py / Cell, event->button == 1 ? 1 : 0);
   }
   return TRUE;
 }
@@ -88,9 +89,15 @@ gboolean MakeMarkData_Motion(GtkWidget* /*view*/, const GdkEventMotion* event, M
   const bool erase = (event->state & GDK_BUTTON3_MASK) != 0;
   const gint px = static_cast<gint>(std::floor(event->x));
   const gint py = static_cast<gint>(std::floor(event->y));
-  if ((draw || erase) && px >= 0 && px < edit->Size.cx * Cell && py >= 0 &&
-      py < edit->Size.cy * Cell)
-    SetPixelsTo(edit, px / Cell, py / Cell, draw ? 1 : 0);
+  const bool inside = px >= 0 && px < edit->Size.cx * Cell && py >= 0 && py < edit->Size.cy * Cell;
+  // A drag that leaves the mark and comes back begins anew where it comes back.
+  if (!inside || (!draw && !erase)) {
+    edit->Last.reset();
+    return TRUE;
+  }
+  const POINT to = {px / Cell, py / Cell};
+  SetPixelsTo(edit, to, draw ? 1 : 0);
+  edit->Last = to;
   return TRUE;
 }
 
@@ -147,8 +154,8 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
 gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox) {
   const DialogWindow window = NewDialogWindow("マーク作成");
   MarkEdit edit = {
-      window.Window,        nullptr, nullptr, markbox, markno, MarkDataSize[markno / 50],
-      markbox[markno].mark, 0,       {0, 0}};
+      window.Window,        nullptr, nullptr,     markbox, markno, MarkDataSize[markno / 50],
+      markbox[markno].mark, 0,       std::nullopt};
   gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   AddViews(window.Content, &edit);

@@ -46,6 +46,7 @@ DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPres
   gtk_window_set_default_size(GTK_WINDOW(window.Window), 600, 400);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   GtkWidget* table = gtk_grid_new();
+  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
   for (gint number = 0; number < MarkCount; ++number)
     gtk_grid_attach(GTK_GRID(table), NewSwatch(marks, number, press), number % Columns,
                     number / Columns, 1, 1);

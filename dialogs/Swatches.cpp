@@ -15,8 +15,18 @@ namespace {
 constexpr gint Baseline = 15;
 constexpr SIZE NumberArea = {24, 20};
 
-// The number at the left of a swatch. Multiplying lets the background show through around it.
-void PaintNumber(cairo_t* cairo, gint number) {
+// Black, unless the theme writes in a light colour because its background is dark.
+GdkRGBA NumberColour(GtkWidget* box) {
+  GtkStyleContext* style = gtk_widget_get_style_context(box);
+  GdkRGBA colour;
+  gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+  const bool light = colour.red + colour.green + colour.blue > 1.5;
+  return light ? colour : GdkRGBA{0, 0, 0, 1};
+}
+
+// The number at the left of a swatch, through the glyphs that the layouts show; around them the
+// background stays.
+void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
   gchar text[16];
   g_snprintf(text, sizeof text, "%2d", number);
   const SIZE size = GetTextSize(SmallFont, text);
@@ -24,12 +34,12 @@ void PaintNumber(cairo_t* cairo, gint number) {
   FillPixels(&picture, 0, 0, NumberArea.cx, NumberArea.cy, 0xffffff);
   DrawGc gc;
   DrawText(&picture, &gc, 0, std::max(Baseline - size.cy, 0), SmallFont, ColourBlack, -1, text);
-  cairo_save(cairo);
-  cairo_set_operator(cairo, CAIRO_OPERATOR_MULTIPLY);
-  cairo_set_source_surface(cairo, picture.Cairo(), 0, 0);
-  cairo_rectangle(cairo, 0, 0, NumberArea.cx, NumberArea.cy);
+  const GdkRGBA colour = NumberColour(box);
+  gdk_cairo_set_source_rgba(cairo, &colour);
+  for (gint y = 0; y < NumberArea.cy; ++y)
+    for (gint x = 0; x < NumberArea.cx; ++x)
+      if ((picture.Row(y)[x] & 0xffffff) == 0) cairo_rectangle(cairo, x, y, 1, 1);
   cairo_fill(cairo);
-  cairo_restore(cairo);
 }
 
 // Outline through the pixel centres: w + 1 x h + 1 pixels.
@@ -47,14 +57,14 @@ void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_COLRDATA& row) {
   if (number >= 0 && number < ColrCount)
     DrawColrData(box, cairo, number, ColrData[number]);
   else
-    PaintNumber(cairo, number);
+    PaintNumber(box, cairo, number);
 }
 void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_MARKDATA& row) {
   const gint number = LoadInt(row.mark);
   if (number >= 0 && number < MarkCount)
     DrawMarkData(box, cairo, number, MarkData[number]);
   else
-    PaintNumber(cairo, number);
+    PaintNumber(box, cairo, number);
 }
 gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
   *number = Dlg_ColrSelect(Dlg_ColrData_Parent);
@@ -87,6 +97,8 @@ template <class Row>
 GtkWidget* NewSwatch(gint width, gint height, const Row& row) {
   GtkWidget* box = gtk_drawing_area_new();
   gtk_widget_set_size_request(box, width, height);
+  // In line with the controls beside it where the cell is higher.
+  gtk_widget_set_valign(box, GTK_ALIGN_CENTER);
   gtk_widget_add_events(box, GDK_BUTTON_PRESS_MASK);
   auto* data = const_cast<Row*>(&row);
   g_signal_connect(box, "draw", G_CALLBACK(DrawSwatch<Row>), data);
@@ -99,7 +111,7 @@ GtkWidget* NewSwatch(gint width, gint height, const Row& row) {
 
 void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colrdata) {
   gtk_render_background(gtk_widget_get_style_context(colrbox), cairo, 0, 0, 60, 16);
-  PaintNumber(cairo, colrno);
+  PaintNumber(colrbox, cairo, colrno);
   constexpr double Full = 65535.0;
   cairo_set_source_rgb(cairo, (colrdata.red & 0xffff) / Full, (colrdata.green & 0xffff) / Full,
                        (colrdata.blue & 0xffff) / Full);
@@ -108,8 +120,8 @@ void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colr
   PaintOutline(cairo, 20, 2, 40, 16);
 }
 
-void DrawMarkData(GtkWidget* /*markbox*/, cairo_t* cairo, gint markno, const MARKDATA& markdata) {
-  PaintNumber(cairo, markno);
+void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDATA& markdata) {
+  PaintNumber(markbox, cairo, markno);
   if (markno < 0 || markno >= MarkCount) return;
   const SIZE size = MarkDataSize[markno / 50];
   Drawable picture(size.cx, size.cy);

@@ -1,6 +1,8 @@
 // The tool box window: opening, closing, its buttons and the place it remembers.
 #include "dialogs/ToolBox.h"
 
+#include <optional>
+
 #include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/ToolBoxPage.h"
@@ -26,6 +28,22 @@ constexpr struct {
 } Buttons[] = {
     {" 登録 ", 0, 1}, {" 削除 ", 1, 1}, {" 取消 ", 2, 1}, {" 再表示 ", 4, 0}, {" 複写 ", 3, 0}};
 constexpr gint RedisplayCode = 4;
+
+// Origin that the window manager told the panel last; nothing until it has placed the panel.
+std::optional<POINT> ToldOrigin;
+
+gboolean ToolBox_Configure(GtkWidget* /*widget*/, const GdkEventConfigure* event,
+                           gpointer /*data*/) {
+  ToldOrigin = POINT{event->x, event->y};
+  return FALSE;
+}
+
+// While the window manager puts its frame around a new panel, the panel is anywhere.
+bool IsPlaced(GtkWidget* window) {
+  POINT origin;
+  gdk_window_get_origin(gtk_widget_get_window(window), &origin.x, &origin.y);
+  return ToldOrigin && ToldOrigin->x == origin.x && ToldOrigin->y == origin.y;
+}
 
 // The window manager's close gives the edit up; the items stay as stored.
 gboolean ToolBox_Delete(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
@@ -95,6 +113,8 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   SetToolBoxContent(dialog.Window, dialog.Content);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   PlaceToolBox(GTK_WINDOW(dialog.Window), ToolBox_PointData[type - 1]);
+  ToldOrigin.reset();
+  g_signal_connect(dialog.Window, "configure-event", G_CALLBACK(ToolBox_Configure), nullptr);
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
   g_signal_connect(dialog.Window, "destroy", G_CALLBACK(ToolBox_Destroy), nullptr);
   BuildToolBoxPage(dialog.Window, PageOfType(type));
@@ -107,7 +127,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
 
 void SaveToolBox() {
   if (ToolBox == nullptr || gtk_widget_get_window(ToolBox) == nullptr) return;
-  if (!IsItemType(ToolBox_Type)) return;
+  if (!IsItemType(ToolBox_Type) || !IsPlaced(ToolBox)) return;
   POINT& place = ToolBox_PointData[ToolBox_Type - 1];
   gtk_window_get_position(GTK_WINDOW(ToolBox), &place.x, &place.y);
 }

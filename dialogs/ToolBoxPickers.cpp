@@ -100,10 +100,10 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
   return SelectList;
 }
 
-// The text reaches the record as it is; the entry shows it.
+// The text reaches the record as it is, even where it is none; the entry shows it.
 void TakeChoice(DLG_EDITBOX* edit, const std::string& text) {
-  if (edit->entry != nullptr) gtk_entry_set_text(GTK_ENTRY(edit->entry), DisplayText(text).c_str());
   CopyText(edit->text, static_cast<gsize>(edit->size) + 1, text);
+  if (edit->entry != nullptr) ShowRecordText(edit->entry, edit->text);
 }
 
 void PickFromList(DLG_EDITBOX* edit, const gchar* title, gint kind) {

@@ -19,6 +19,8 @@ GtkWidget* EditProj = nullptr;
 gint EditResult = Cancelled;
 // Folder that a logo was chosen from, "" while none was.
 std::string EditLogoPath;
+// The logo itself there, in the file system's bytes; the record's name for it is EUC-JP.
+std::string EditLogoFile;
 
 enum EditRow { NameRow, FolderRow, ProgramRow };
 
@@ -56,7 +58,7 @@ void CopyLogo() {
   if (EditLogoPath.empty() || EditLogoPath == folder) return;
   CreateFolder(folder.c_str());
   const std::string logo(FieldText(EditData.LogoName));
-  FileCopy(EditLogoPath.c_str(), logo.c_str(), "", folder.c_str(), logo.c_str(), "");
+  FileCopy("", EditLogoFile.c_str(), "", folder.c_str(), logo.c_str(), "");
 }
 
 void EditProjData_OK(GtkWidget* /*button*/, gpointer /*data*/) {
@@ -99,6 +101,7 @@ void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
   const gchar* chosen = Dlg_FileSelect(EditProj, "ロゴマーク選択", 2);
   if (*chosen == '\0') return;
   DLG_EDITBOX& row = ProjPage21_Edit[0];
+  EditLogoFile = chosen;
   CopyText(EditData.LogoName, CopyToBitmapFolder(chosen, &EditLogoPath));
   if (row.entry != nullptr) ShowRecordText(row.entry, row.text);
 }
@@ -127,10 +130,15 @@ constexpr FrameButton Buttons[] = {{0, 0, 1, 4, "参照", ProjPage1_Button1},
 
 void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 10);
+  gtk_widget_set_valign(box, GTK_ALIGN_START);
   gtk_container_set_border_width(GTK_CONTAINER(box), 10);
   for (gsize frame = 0; frame < page.Frames.size(); ++frame) {
     GtkWidget* table = NewControlGrid(15);
-    BuildControls(EditProj, table, page.Frames[frame].Tables);
+    const ControlTables& tables = page.Frames[frame].Tables;
+    BuildControls(EditProj, table, tables);
+    // Controls that gain nothing by it are not stretched over the page.
+    if (tables.Edit == nullptr && tables.Combo == nullptr)
+      gtk_widget_set_halign(table, GTK_ALIGN_START);
     for (const FrameButton& button : Buttons)
       if (button.Page == number && button.Frame == static_cast<gint>(frame))
         AddButton(table, button.Label, button.Line, button.Culm, G_CALLBACK(button.Clicked));

@@ -1,0 +1,235 @@
+// The tool box as a window: opening, closing, buttons, read-outs and the place it remembers.
+#include "dialogs/ToolBox.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "PtrnData.h"
+#include "dialogs/Controls.h"
+#include "window/Widgets.h"
+#include "window/WindowTest.h"
+
+namespace {
+
+constexpr gint LastType = 15;
+
+bool Opens(gint type) {
+  Dlg_ToolBox(PtrnWnd, type);
+  return WaitFor([] { return ToolBox != nullptr && gtk_widget_get_mapped(ToolBox); });
+}
+
+gint ToplevelCount() {
+  GList* windows = gtk_window_list_toplevels();
+  const auto count = static_cast<gint>(g_list_length(windows));
+  g_list_free(windows);
+  return count;
+}
+
+POINT PositionOf(GtkWidget* window) {
+  POINT place;
+  gtk_window_get_position(GTK_WINDOW(window), &place.x, &place.y);
+  return place;
+}
+
+// Whether the panel comes to stand there, which the window manager tells it later.
+bool StandsAt(const POINT& place) {
+  return WaitFor([&] {
+    SaveToolBox();
+    const POINT kept = ToolBox_PointData[ToolBox_Type - 1];
+    const POINT now = PositionOf(ToolBox);
+    return kept.x == place.x && kept.y == place.y && now.x == place.x && now.y == place.y;
+  });
+}
+
+bool MovesTo(const POINT& place) {
+  // A move before the window manager has placed the panel would be lost.
+  const bool placed = WaitFor([] {
+    SaveToolBox();
+    return ToolBox_PointData[ToolBox_Type - 1].x != 0;
+  });
+  gtk_window_move(GTK_WINDOW(ToolBox), place.x, place.y);
+  return placed && StandsAt(place);
+}
+
+}  // namespace
+
+class ToolBoxWindow : public WindowTest {
+ protected:
+  ToolBoxWindow() {
+    WriteProfile("");
+    OpenWindow();
+    for (POINT& place : ToolBox_PointData) place = {0, 0};
+  }
+};
+
+TEST_F(ToolBoxWindow, TypeZeroClosesThePanel) {
+  ASSERT_TRUE(Opens(2));
+  Dlg_ToolBox(PtrnWnd, 0);
+  EXPECT_EQ(ToolBox, nullptr);
+  EXPECT_EQ(ToolBox_Type, 0);
+}
+
+TEST_F(ToolBoxWindow, UnknownTypesShowNothing) {
+  for (const gint type : {-1, 16, 2147483647}) {
+    Dlg_ToolBox(PtrnWnd, type);
+    EXPECT_EQ(ToolBox, nullptr);
+  }
+}
+
+TEST_F(ToolBoxWindow, StandsAboveTheMainWindowAndLeavesItUsable) {
+  ASSERT_TRUE(Opens(2));
+  EXPECT_EQ(gtk_window_get_transient_for(GTK_WINDOW(ToolBox)), GTK_WINDOW(PtrnWnd));
+  EXPECT_FALSE(gtk_window_get_modal(GTK_WINDOW(ToolBox)));
+  EXPECT_FALSE(gtk_window_get_resizable(GTK_WINDOW(ToolBox)));
+  EXPECT_EQ(gtk_grab_get_current(), nullptr);
+}
+
+TEST_F(ToolBoxWindow, OnlyRedisplayIsSensitiveAtFirst) {
+  ASSERT_TRUE(Opens(3));
+  for (gint code = 0; code < 5; code++)
+    EXPECT_EQ(gtk_widget_get_sensitive(ToolBoxButton[code]), code == 4) << code;
+}
+
+TEST_F(ToolBoxWindow, ButtonsStandInTheirOrder) {
+  ASSERT_TRUE(Opens(3));
+  ASSERT_TRUE(WaitFor([] { return gtk_widget_get_allocated_width(ToolBoxButton[4]) > 1; }));
+  const struct {
+    gint Code;
+    const gchar* Label;
+  } expected[] = {{0, " 登録 "}, {1, " 削除 "}, {2, " 取消 "}, {3, " 複写 "}, {4, " 再表示 "}};
+  gint left = -1;
+  for (const auto& button : expected) {
+    GtkAllocation place;
+    gtk_widget_get_allocation(ToolBoxButton[button.Code], &place);
+    EXPECT_STREQ(gtk_button_get_label(GTK_BUTTON(ToolBoxButton[button.Code])), button.Label);
+    EXPECT_GT(place.x, left) << button.Label;
+    left = place.x;
+  }
+}
+
+TEST_F(ToolBoxWindow, BitsMakeButtonsSensitive) {
+  ASSERT_TRUE(Opens(3));
+  for (gint mode = 0; mode < 32; mode++) {
+    SetToolBoxButton(mode);
+    for (gint code = 0; code < 5; code++)
+      EXPECT_EQ(gtk_widget_get_sensitive(ToolBoxButton[code]), (mode & 1 << code) != 0)
+          << "mode " << mode << ", code " << code;
+  }
+}
+
+TEST_F(ToolBoxWindow, WithoutAPanelNothingHappens) {
+  SetToolBoxButton(0x1f);
+  SetToolBoxPoint();
+  SaveToolBox();
+  EXPECT_EQ(ToolBox, nullptr);
+}
+
+TEST_F(ToolBoxWindow, ReadOutsFollowThePoints) {
+  PtrnData.Point1 = {12, 345};
+  PtrnData.Point2 = {6789, -1};
+  ASSERT_TRUE(Opens(2));
+  EXPECT_EQ(LabelText(ToolBox_Label1), "   12 /   345");
+  EXPECT_EQ(LabelText(ToolBox_Label2), " 6789 /    -1");
+  PtrnData.Point1 = {1, 2};
+  SetToolBoxPoint();
+  EXPECT_EQ(LabelText(ToolBox_Label1), "    1 /     2");
+}
+
+TEST_F(ToolBoxWindow, OnlyTypesWithTwoPointsShowTheirEnd) {
+  const std::string onePoint = ".....678.ab....";  // fixed, variable, numeric, radio, check
+  for (gint type = 1; type <= LastType; type++) {
+    ASSERT_TRUE(Opens(type));
+    const bool two = onePoint[static_cast<gsize>(type - 1)] == '.';
+    EXPECT_EQ(ToolBox_Label2 != nullptr, two) << "type " << type;
+    EXPECT_EQ(FindLabel(ToolBox, "始点") != nullptr, two) << "type " << type;
+    EXPECT_EQ(FindLabel(ToolBox, "終点") != nullptr, two) << "type " << type;
+    EXPECT_EQ(FindLabel(ToolBox, "位置") != nullptr, !two) << "type " << type;
+  }
+}
+
+TEST_F(ToolBoxWindow, TheWindowManagersCloseGivesTheEditUp) {
+  PtrnType = 2;
+  PtrnMode = ModeCreating;
+  ASSERT_TRUE(Opens(2));
+  ASSERT_TRUE(MovesTo({211, 133}));
+  CloseByManager(ToolBox);
+  EXPECT_EQ(ToolBox, nullptr);
+  EXPECT_EQ(PtrnType, 0);
+  EXPECT_EQ(PtrnMode, ModeIdle);
+  EXPECT_EQ(ToolBox_PointData[1].x, 211);
+  EXPECT_EQ(ToolBox_PointData[1].y, 133);
+}
+
+TEST_F(ToolBoxWindow, EscapeClosesAsTheWindowManagerDoes) {
+  PtrnType = 2;
+  PtrnMode = ModeCreating;
+  ASSERT_TRUE(Opens(2));
+  PressKey(ToolBox, GDK_KEY_Escape);
+  EXPECT_EQ(ToolBox, nullptr);
+  EXPECT_EQ(PtrnMode, ModeIdle);
+}
+
+TEST_F(ToolBoxWindow, AMovedPanelOpensAgainWhereItStood) {
+  ASSERT_TRUE(Opens(4));
+  ASSERT_TRUE(MovesTo({321, 234}));
+  // Often enough for the frame around the window to show, were it taken for the window.
+  for (gint round = 0; round < 10; round++) {
+    // Panels that are replaced before they have been placed change nothing.
+    Dlg_ToolBox(PtrnWnd, 4);
+    ASSERT_TRUE(Opens(4));
+    EXPECT_TRUE(StandsAt({321, 234}))
+        << "round " << round << ": " << PositionOf(ToolBox).x << ", " << PositionOf(ToolBox).y;
+  }
+}
+
+TEST_F(ToolBoxWindow, EachTypeHasAPlaceOfItsOwn) {
+  ASSERT_TRUE(Opens(4));
+  ASSERT_TRUE(MovesTo({100, 150}));
+  ASSERT_TRUE(Opens(15));
+  EXPECT_TRUE(WaitFor([] { return PositionOf(ToolBox).x > 400; }));
+  ASSERT_TRUE(MovesTo({700, 90}));
+  ASSERT_TRUE(Opens(4));
+  EXPECT_TRUE(StandsAt({100, 150}));
+  ASSERT_TRUE(Opens(15));
+  EXPECT_TRUE(StandsAt({700, 90}));
+}
+
+TEST_F(ToolBoxWindow, HundredsOfPanelsLeaveNothingBehind) {
+  ASSERT_TRUE(Opens(1));
+  const gint windows = ToplevelCount();
+  const gint depth = g_main_depth();
+  static gint alive;
+  alive = 0;
+  for (gint round = 0; round < 300; round++) {
+    Dlg_ToolBox(PtrnWnd, round % LastType + 1);
+    ASSERT_NE(ToolBox, nullptr);
+    alive++;
+    g_object_weak_ref(
+        G_OBJECT(ToolBox), [](gpointer, GObject*) { alive--; }, nullptr);
+    if (round % 100 == 0)
+      while (gtk_events_pending()) gtk_main_iteration();
+  }
+  EXPECT_TRUE(WaitFor([] { return alive == 1; })) << alive << " panels are left";
+  EXPECT_EQ(ToplevelCount(), windows);
+  EXPECT_EQ(g_main_depth(), depth);
+}
+
+TEST_F(ToolBoxWindow, CursorKeysAreBitsOfTheItem) {
+  for (const gint type : {7, 8}) {
+    PtrnData = {};
+    PtrnData.Parm[27] = 0b1001;
+    ASSERT_TRUE(Opens(type));
+    EXPECT_EQ(CusrUp, 1);
+    EXPECT_EQ(CusrDown, 0);
+    EXPECT_EQ(CusrLeft, 0);
+    EXPECT_EQ(CusrRight, 1);
+    GtkWidget* left = FindLabel(ToolBox, "←");
+    ASSERT_NE(left, nullptr);
+    EXPECT_FALSE(gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(left)));
+    gtk_button_clicked(GTK_BUTTON(left));
+    gtk_button_clicked(GTK_BUTTON(FindLabel(ToolBox, "↑")));
+    SetToolBoxCursor();
+    EXPECT_EQ(PtrnData.Parm[27], 0b1100);
+  }
+}
