@@ -30,7 +30,9 @@ gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* e
 
 void PaintGridLine(cairo_t* cairo, gint index, double x1, double y1, double x2, double y2) {
   constexpr double Dashes[] = {1, 1};
-  cairo_set_dash(cairo, Dashes, index % Cell == 0 ? 0 : 2, 0);
+  const bool solid = index % Cell == 0;
+  cairo_set_dash(cairo, Dashes, solid ? 0 : 2, 0);
+  cairo_set_line_cap(cairo, solid ? CAIRO_LINE_CAP_SQUARE : CAIRO_LINE_CAP_BUTT);
   cairo_move_to(cairo, x1 + 0.5, y1 + 0.5);
   cairo_line_to(cairo, x2 + 0.5, y2 + 0.5);
   cairo_stroke(cairo);

@@ -108,8 +108,11 @@ gboolean Dlg_ColrSelect_Event(GtkWidget* box, const GdkEventButton* event, gpoin
   return TRUE;
 }
 
+// Cut, not rounded. The dialog computes with hue, saturation and value; the small addition makes up
+// for what the way there and back loses, so that an untouched colour comes back as it was.
 gint Channel(double value) {
-  return static_cast<gint>(value * Full);
+  constexpr double Lost = 1e-6;
+  return static_cast<gint>(value * Full + Lost);
 }
 
 COLRDATA MakeColr_Data;
