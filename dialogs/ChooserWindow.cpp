@@ -22,5 +22,6 @@ GtkWidget* NewScrolled(GtkWidget* child, GtkPolicyType horizontal) {
 }
 
 std::string HomeFolder() {
-  return g_get_home_dir();
+  const gchar* home = g_getenv("HOME");
+  return home != nullptr && *home != '\0' ? home : g_get_home_dir();
 }

@@ -1,0 +1,409 @@
+// The folder and file choosers over a home folder of the test's own.
+#include "dialogs/Choosers.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common/TempFolder.h"
+#include "dialogs/Controls.h"
+#include "window/Widgets.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+constexpr const gchar* Title = "題名";
+constexpr const gchar* MessageTitle = "フォルダー選択";
+
+GtkWidget* ListNo(GtkWidget* dialog, gint number) {
+  return FindWidget(
+      dialog, [&number](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) && number-- == 0; });
+}
+GtkWidget* TreeOf(GtkWidget* dialog) {
+  return ListNo(dialog, 0);
+}
+GtkWidget* FilesOf(GtkWidget* dialog) {
+  return ListNo(dialog, 1);
+}
+GtkWidget* EntryOf(GtkWidget* dialog) {
+  return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });
+}
+bool CanChoose(GtkWidget* dialog) {
+  return gtk_widget_get_sensitive(FindLabel(dialog, " 選択 ")) != FALSE;
+}
+
+// The place of the row with this text below `parent` ("" = the top); "" when there is none.
+std::string RowBelow(GtkWidget* tree, const std::string& parent, const std::string& text) {
+  GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(tree));
+  GtkTreeIter above;
+  if (!gtk_tree_model_get_iter_from_string(model, &above, parent.c_str())) return "";
+  GtkTreeIter row;
+  std::string found;
+  for (gboolean more = gtk_tree_model_iter_children(model, &row, &above); more;
+       more = gtk_tree_model_iter_next(model, &row)) {
+    gchar* label = nullptr;
+    gtk_tree_model_get(model, &row, 0, &label, -1);
+    gchar* place = gtk_tree_model_get_string_from_iter(model, &row);
+    if (label != nullptr && text == label) found = place;
+    g_free(place);
+    g_free(label);
+  }
+  return found;
+}
+
+std::vector<std::string> TextsBelow(GtkWidget* tree, const std::string& parent) {
+  GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(tree));
+  GtkTreeIter above;
+  std::vector<std::string> texts;
+  if (!gtk_tree_model_get_iter_from_string(model, &above, parent.c_str())) return texts;
+  GtkTreeIter row;
+  for (gboolean more = gtk_tree_model_iter_children(model, &row, &above); more;
+       more = gtk_tree_model_iter_next(model, &row)) {
+    gchar* label = nullptr;
+    gtk_tree_model_get(model, &row, 0, &label, -1);
+    texts.emplace_back(label != nullptr ? label : "");
+    g_free(label);
+  }
+  return texts;
+}
+
+void Unfold(GtkWidget* tree, const std::string& place) {
+  GtkTreePath* path = gtk_tree_path_new_from_string(place.c_str());
+  gtk_tree_view_expand_row(GTK_TREE_VIEW(tree), path, FALSE);
+  gtk_tree_path_free(path);
+}
+
+// Selects the folder that the names lead to.
+void SelectFolder(GtkWidget* dialog, std::initializer_list<std::string> names) {
+  GtkWidget* tree = TreeOf(dialog);
+  std::string place = "0";
+  for (const std::string& name : names) {
+    Unfold(tree, place);
+    place = RowBelow(tree, place, name);
+    ASSERT_NE(place, "") << name;
+  }
+  SelectRow(tree, place);
+}
+
+void SetPath(GtkWidget* dialog, const std::string& path) {
+  gtk_entry_set_text(GTK_ENTRY(EntryOf(dialog)), path.c_str());
+}
+
+// A chooser that a failed test leaves open would not come back from its loop.
+std::function<void(GtkWidget*)> Closing(const std::function<void(GtkWidget*)>& act) {
+  return [act](GtkWidget* dialog) {
+    act(dialog);
+    if (GtkWidget* left = FindWindow(Title)) CloseByManager(left);
+  };
+}
+
+}  // namespace
+
+class Choosers : public testing::Test {
+ protected:
+  Choosers() {
+    const gchar* home = g_getenv("HOME");
+    OldHome = home != nullptr ? home : "";
+    g_setenv("HOME", Home.Path().c_str(), TRUE);
+  }
+  ~Choosers() override { g_setenv("HOME", OldHome.c_str(), TRUE); }
+
+  void MakeFolder(const std::string& name) const { fs::create_directories(Home.Path(name)); }
+  static std::string Folder(const std::function<void(GtkWidget*)>& act) {
+    const DialogAnswer answer(Title, Closing(act));
+    return Dlg_FolderSelect(nullptr, Title);
+  }
+  static std::string File(gint type, const std::function<void(GtkWidget*)>& act) {
+    const DialogAnswer answer(Title, Closing(act));
+    return Dlg_FileSelect(nullptr, Title, type);
+  }
+
+  TempFolder Home;
+  std::string OldHome;
+};
+
+// Folders.
+
+TEST_F(Choosers, TheTreeBeginsAtTheHomeFolder) {
+  MakeFolder("b/c");
+  MakeFolder("a");
+  MakeFolder(".hidden");
+  Home.Write("file", "x");
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path());
+              EXPECT_FALSE(CanChoose(dialog));
+              EXPECT_THAT(RowTexts(TreeOf(dialog)), ElementsAre(Home.Path()));
+              EXPECT_THAT(TextsBelow(TreeOf(dialog), "0"), UnorderedElementsAre("a", "b"));
+              PressButton(" 取消 ")(dialog);
+            }),
+            "");
+}
+
+TEST_F(Choosers, FoldersStandInTheOrderOfTheSystem) {
+  for (const gchar* name : {"zeta", "alpha", "mike", "bravo"}) MakeFolder(name);
+  std::vector<std::string> order;
+  for (const auto& entry : fs::directory_iterator(Home.Path()))
+    order.push_back(entry.path().filename().string());
+  Folder([&order](GtkWidget* dialog) {
+    EXPECT_EQ(TextsBelow(TreeOf(dialog), "0"), order);
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, ASelectedFolderIsTheAnswer) {
+  MakeFolder("b/c");
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SelectFolder(dialog, {"b", "c"});
+              EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("b/c"));
+              EXPECT_TRUE(CanChoose(dialog));
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path("b/c"));
+}
+
+TEST_F(Choosers, TheHomeFolderItselfIsNoChoice) {
+  Folder([](GtkWidget* dialog) {
+    SelectRow(TreeOf(dialog), "0");
+    EXPECT_FALSE(CanChoose(dialog));
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, AClosedFolderChooserAnswersNothing) {
+  MakeFolder("b");
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"b"});
+              CloseByManager(dialog);
+            }),
+            "");
+}
+
+TEST_F(Choosers, ATypedFolderIsTheAnswer) {
+  MakeFolder("typed");
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SetPath(dialog, "");
+              EXPECT_FALSE(CanChoose(dialog));
+              SetPath(dialog, Home.Path("typed"));
+              EXPECT_TRUE(CanChoose(dialog));
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path("typed"));
+}
+
+TEST_F(Choosers, AMissingFolderIsMadeOnRequest) {
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SetPath(dialog, Home.Path("new/deep"));
+              const DialogAnswer answer(MessageTitle, [](GtkWidget* message) {
+                EXPECT_NE(FindLabel(message, "フォルダーが存在しません。"), nullptr);
+                EXPECT_NE(FindLabel(message, "フォルダーを作成しますか ？。"), nullptr);
+                PressButton(" はい ")(message);
+              });
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path("new/deep"));
+  EXPECT_TRUE(fs::is_directory(Home.Path("new/deep")));
+}
+
+TEST_F(Choosers, AMissingFolderThatIsNotWantedKeepsTheChooser) {
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SetPath(dialog, Home.Path("new"));
+              {
+                const DialogAnswer answer(MessageTitle, PressButton(" いいえ "));
+                PressButton(" 選択 ")(dialog);
+              }
+              EXPECT_EQ(FindWindow(Title), dialog);
+              PressButton(" 取消 ")(dialog);
+            }),
+            "");
+  EXPECT_FALSE(Home.Exists("new"));
+}
+
+TEST_F(Choosers, AFileIsNoFolder) {
+  Home.Write("plain", "x");
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SetPath(dialog, Home.Path("plain"));
+              // The failure comes up under the title of the question, once that is answered.
+              std::unique_ptr<DialogAnswer> failure;
+              {
+                const DialogAnswer answer(MessageTitle, [&failure](GtkWidget* question) {
+                  failure = std::make_unique<DialogAnswer>(MessageTitle, [](GtkWidget* message) {
+                    EXPECT_NE(FindLabel(message, "フォルダーの作成に失敗しました。"), nullptr);
+                    PressButton(" 確認 ")(message);
+                  });
+                  PressButton(" はい ")(question);
+                });
+                PressButton(" 選択 ")(dialog);
+              }
+              EXPECT_EQ(FindWindow(Title), dialog);
+              CloseByManager(dialog);
+            }),
+            "");
+  EXPECT_EQ(Home.Read("plain"), "x");
+}
+
+TEST_F(Choosers, ALinkBackIsUnfoldedOnlyOnce) {
+  MakeFolder("a");
+  fs::create_directory_symlink(Home.Path(), Home.Path("a/loop"));
+  Folder([](GtkWidget* dialog) {
+    GtkWidget* tree = TreeOf(dialog);
+    std::string place = RowBelow(tree, "0", "a");
+    Unfold(tree, place);
+    place = RowBelow(tree, place, "loop");
+    ASSERT_NE(place, "");
+    Unfold(tree, place);
+    EXPECT_THAT(TextsBelow(tree, place), IsEmpty());
+    SelectRow(tree, place);
+    EXPECT_TRUE(CanChoose(dialog));
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, ANameThatIsNoTextIsShownEscapedAndChosenAsItIs) {
+  const std::string odd = "x\xFF\xFEy";
+  MakeFolder(odd);
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"x\\xFF\\xFEy"});
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(odd));
+}
+
+TEST_F(Choosers, ALeafCannotBeUnfolded) {
+  MakeFolder("leaf");
+  MakeFolder("branch/leaf");
+  Folder([](GtkWidget* dialog) {
+    GtkWidget* tree = TreeOf(dialog);
+    GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(tree));
+    for (const gchar* name : {"leaf", "branch"}) {
+      GtkTreeIter row;
+      gtk_tree_model_get_iter_from_string(model, &row, RowBelow(tree, "0", name).c_str());
+      EXPECT_EQ(gtk_tree_model_iter_has_child(model, &row) != FALSE, std::string(name) == "branch");
+    }
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, ManyFoldersOpenAtOnce) {
+  for (gint no = 0; no < 3000; no++) MakeFolder("f" + std::to_string(no));
+  Folder([](GtkWidget* dialog) {
+    EXPECT_EQ(TextsBelow(TreeOf(dialog), "0").size(), 3000U);
+    CloseByManager(dialog);
+  });
+}
+
+// Files.
+
+TEST_F(Choosers, PicturesAreListedWhole) {
+  for (const gchar* name :
+       {"a.bmp", "b.BMP", "c.jpg", "d.JPG", "e.png", "f.PNG", "g.Png", "h.txt", ".i.png", "k.ptn"})
+    Home.Write(std::string("files/") + name, "x");
+  MakeFolder("files/folder.png");
+  EXPECT_EQ(File(2,
+                 [](GtkWidget* dialog) {
+                   EXPECT_FALSE(CanChoose(dialog));
+                   SelectFolder(dialog, {"files"});
+                   EXPECT_THAT(
+                       RowTexts(FilesOf(dialog)),
+                       UnorderedElementsAre("a.bmp", "b.BMP", "c.jpg", "d.JPG", "e.png", "f.PNG"));
+                   EXPECT_FALSE(CanChoose(dialog));
+                   CloseByManager(dialog);
+                 }),
+            "");
+}
+
+TEST_F(Choosers, LayoutsAreListedByName) {
+  Home.Write("files/one.ptn", "x");
+  Home.Write("files/two.PTN", "x");
+  Home.Write("files/three.prj", "x");
+  EXPECT_EQ(File(1,
+                 [](GtkWidget* dialog) {
+                   SelectFolder(dialog, {"files"});
+                   EXPECT_THAT(RowTexts(FilesOf(dialog)), ElementsAre("one"));
+                   SelectRow(FilesOf(dialog), "0");
+                   EXPECT_TRUE(CanChoose(dialog));
+                   PressButton(" 選択 ")(dialog);
+                 }),
+            Home.Path("files/one.ptn"));
+}
+
+TEST_F(Choosers, ProjectsAreListedByName) {
+  Home.Write("files/one.ptn", "x");
+  Home.Write("files/three.prj", "x");
+  File(0, [](GtkWidget* dialog) {
+    SelectFolder(dialog, {"files"});
+    EXPECT_THAT(RowTexts(FilesOf(dialog)), ElementsAre("three"));
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, OtherKindsListNothing) {
+  Home.Write("files/one.ptn", "x");
+  for (const gint type : {-1, 3, 99})
+    File(type, [](GtkWidget* dialog) {
+      SelectFolder(dialog, {"files"});
+      EXPECT_THAT(RowTexts(FilesOf(dialog)), IsEmpty());
+      CloseByManager(dialog);
+    });
+}
+
+TEST_F(Choosers, AnotherFolderForgetsTheFile) {
+  Home.Write("one/a.png", "x");
+  Home.Write("two/b.png", "x");
+  EXPECT_EQ(File(2,
+                 [](GtkWidget* dialog) {
+                   SelectFolder(dialog, {"one"});
+                   SelectRow(FilesOf(dialog), "0");
+                   EXPECT_TRUE(CanChoose(dialog));
+                   SelectFolder(dialog, {"two"});
+                   EXPECT_FALSE(CanChoose(dialog));
+                   EXPECT_THAT(RowTexts(FilesOf(dialog)), ElementsAre("b.png"));
+                   gtk_tree_selection_unselect_all(
+                       gtk_tree_view_get_selection(GTK_TREE_VIEW(TreeOf(dialog))));
+                   EXPECT_THAT(RowTexts(FilesOf(dialog)), IsEmpty());
+                   CloseByManager(dialog);
+                 }),
+            "");
+}
+
+TEST_F(Choosers, ASelectedFileThatIsNotConfirmedIsNoAnswer) {
+  Home.Write("one/a.png", "x");
+  for (const std::function<void(GtkWidget*)>& leave :
+       {PressButton(" 取消 "), std::function<void(GtkWidget*)>(CloseByManager)})
+    EXPECT_EQ(File(2,
+                   [&leave](GtkWidget* dialog) {
+                     SelectFolder(dialog, {"one"});
+                     SelectRow(FilesOf(dialog), "0");
+                     leave(dialog);
+                   }),
+              "");
+}
+
+TEST_F(Choosers, FilesInTheHomeFolderAreNotOffered) {
+  Home.Write("a.png", "x");
+  File(2, [](GtkWidget* dialog) {
+    SelectRow(TreeOf(dialog), "0");
+    EXPECT_THAT(RowTexts(FilesOf(dialog)), IsEmpty());
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, FileNamesThatAreNoTextStillOpen) {
+  Home.Write("one/\xFF.png", "x");
+  EXPECT_EQ(File(2,
+                 [](GtkWidget* dialog) {
+                   SelectFolder(dialog, {"one"});
+                   EXPECT_THAT(RowTexts(FilesOf(dialog)), ElementsAre("\\xFF.png"));
+                   SelectRow(FilesOf(dialog), "0");
+                   PressButton(" 選択 ")(dialog);
+                 }),
+            Home.Path("one/\xFF.png"));
+}
