@@ -35,7 +35,7 @@ void ZoomedExpose(benchmark::State& state) {
       state,
       [&] {
         Drawable view(ViewWidth, ViewHeight, x, y);
-        PaintZoomed(view, picture, image.get(), width, height);
+        PaintZoomed(view, picture, width, height);
         DrawGridData(&view, &gc);
         DrawWindow2(&view, &gc);
       },

@@ -18,14 +18,18 @@ constexpr Renderer Renderers[16] = {nullptr,        DrawPtrnData01, DrawPtrnData
                                     DrawPtrnData08, DrawPtrnData09, DrawPtrnData10, DrawPtrnData11,
                                     DrawPtrnData12, DrawPtrnData13, DrawPtrnData14, DrawPtrnData15};
 
-void DrawItem(Drawable* drawable, DrawGc* gc, gint no) {
+void DrawStoredItem(Drawable* drawable, DrawGc* gc, gint no) {
   PTRNDATA item;
   GetPtrnData(no, &item);
-  Renderers[item.Type](drawable, gc, &item);
+  DrawPtrnItem(drawable, gc, &item);
   SetPtrnData(no, &item);
 }
 
 }  // namespace
+
+void DrawPtrnItem(Drawable* drawable, DrawGc* gc, PTRNDATA* item) {
+  if (IsItemType(item->Type)) Renderers[item->Type](drawable, gc, item);
+}
 
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer) {
   std::array<std::vector<gint>, 16> byType;
@@ -36,6 +40,6 @@ void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer) {
     }
   }
   for (const gint type : PtrnTable) {
-    for (const gint no : byType[static_cast<std::size_t>(type)]) DrawItem(drawable, gc, no);
+    for (const gint no : byType[static_cast<std::size_t>(type)]) DrawStoredItem(drawable, gc, no);
   }
 }

@@ -34,9 +34,20 @@ inline guint32* PixelAt(Drawable& drawable, gint64 x, gint64 y) {
   return drawable.Row(static_cast<gint>(y - drawable.Y())) + (x - drawable.X());
 }
 
+// False on a surface that only notes where it is painted on: then `part`, which lies on it, is
+// noted.
+inline bool TakesPixels(Drawable& drawable, const PlaneBox& part) {
+  if (drawable.Drawn() == nullptr) {
+    return true;
+  }
+  drawable.Drawn()->Add({static_cast<gint>(part.x1), static_cast<gint>(part.y1),
+                         static_cast<gint>(part.x2), static_cast<gint>(part.y2)});
+  return false;
+}
+
 inline void FillBox(Drawable& drawable, const PlaneBox& box, guint32 rgb) {
   const PlaneBox part = box.Clip(BoxOf(drawable));
-  if (part.Empty()) {
+  if (part.Empty() || !TakesPixels(drawable, part)) {
     return;
   }
   const guint32 pixel = 0xff000000 | rgb;

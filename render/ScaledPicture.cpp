@@ -96,6 +96,10 @@ void ScaledPicture::Paint(Drawable& drawable) const {
 void ScaledPicture::PaintAt(Drawable& drawable, gint64 x, gint64 y) const {
   const gint64 width = part_.x2 - part_.x1;
   const PlaneBox clip = BoxOf(drawable);
+  const PlaneBox shown = PlaneBox{x, y, x + width, y + part_.y2 - part_.y1}.Clip(clip);
+  if (shown.Empty() || !TakesPixels(drawable, shown)) {
+    return;
+  }
   for (const Run& run : runs_) {
     const gint64 row = y + run.y;
     const gint64 begin = std::max(x + run.x, clip.x1);

@@ -12,6 +12,15 @@ constexpr guint32 Opaque = 0xff000000;
 
 }  // namespace
 
+void DrawnBox::Add(const DrawnBox& other) {
+  if (Empty()) {
+    *this = other;
+  } else if (!other.Empty()) {
+    *this = {std::min(x1, other.x1), std::min(y1, other.y1), std::max(x2, other.x2),
+             std::max(y2, other.y2)};
+  }
+}
+
 Drawable::Drawable(gint width, gint height, gint x, gint y)
     : x_(x), y_(y), width_(std::max(width, 1)), height_(std::max(height, 1)) {
   const guint64 count = static_cast<guint64>(width_) * static_cast<guint64>(height_);
@@ -26,11 +35,30 @@ Drawable::Drawable(gint width, gint height, gint x, gint y)
   std::fill_n(pixels_, count, Opaque);
 }
 
+Drawable::Drawable(Drawable& whole, const DrawnBox& part)
+    : x_(std::max(part.x1, whole.x_)),
+      y_(std::max(part.y1, whole.y_)),
+      width_(std::min(part.x2, whole.x_ + whole.width_) - x_),
+      height_(std::min(part.y2, whole.y_ + whole.height_) - y_),
+      stride_(whole.stride_),
+      owner_(false) {
+  if (width_ <= 0 || height_ <= 0) {
+    width_ = height_ = 0;
+    return;
+  }
+  pixels_ = whole.Row(y_ - whole.y_) + (x_ - whole.x_);
+}
+
+Drawable::Drawable(gint width, gint height, DrawnBox* drawn)
+    : x_(0), y_(0), width_(width), height_(height), drawn_(drawn) {}
+
 Drawable::~Drawable() {
   if (cairo_ != nullptr) {
     cairo_surface_destroy(cairo_);
   }
-  std::free(pixels_);
+  if (owner_) {
+    std::free(pixels_);
+  }
 }
 
 guint32 Drawable::At(gint x, gint y) const {

@@ -74,10 +74,8 @@ CanvasPicture PaintCanvas(int zoom, bool grid) {
   const gint64 height = gint64{PtrnHedr.Parm1[HedrSlot::Height]} * zoom / 100;
   if (!DrawableSize(width, height)) return {nullptr, "too large at this zoom"};
   auto canvas = std::make_unique<Drawable>(static_cast<gint>(width), static_cast<gint>(height));
-  const PixbufPtr image = zoom == 100 ? nullptr : PixbufFromSurface(picture.Surface());
-  if (!picture.Surface().Valid() || !canvas->Valid() || (zoom != 100 && !image))
-    return {nullptr, "too large for the memory"};
-  PaintZoomed(*canvas, picture.Surface(), image.get(), canvas->Width(), canvas->Height());
+  if (!picture.Surface().Valid() || !canvas->Valid()) return {nullptr, "too large for the memory"};
+  PaintZoomed(*canvas, picture.Surface(), canvas->Width(), canvas->Height());
   DrawGc gc;
   DrawGridData(canvas.get(), &gc);
   return {std::move(canvas), ""};

@@ -6,6 +6,7 @@
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "render/Layout.h"
+#include "render/PaintedLayout.h"
 #include "render/Primitives.h"
 
 GtkWidget* PtrnDraw;
@@ -21,8 +22,8 @@ constexpr gint LargestZoom = 500;
 // Surrounds a layout that is smaller than the window.
 constexpr guint32 DeskColour = 0xd6d6d6;
 
-// The picture in the form that scaling reads; null at 100 %.
-PixbufPtr ScalePicture;
+// What PtrnPixmap shows of the layout, null while it shows the start-up picture.
+std::unique_ptr<PaintedLayout> LayoutPicture;
 // Where the overlay may stand on the screen.
 RegionPtr ShownOverlay;
 
@@ -31,22 +32,38 @@ RegionPtr CanvasOverlay() {
                        gtk_widget_get_allocated_height(PtrnDraw));
 }
 
+// Asks for a part of the picture to be shown. Scaling mixes neighbours, so it reaches some dots
+// further.
+void QueueZoomed(const DrawnBox& box) {
+  constexpr gint64 reach = 3;
+  const auto zoomed = [](gint64 dots, gint extent, gint zoomedExtent) {
+    return static_cast<gint>(dots * zoomedExtent / extent);
+  };
+  const SIZE& from = PtrnDraw_Size1;
+  const SIZE& to = PtrnDraw_Size2;
+  const gint x1 = zoomed(box.x1 - reach, from.cx, to.cx);
+  const gint y1 = zoomed(box.y1 - reach, from.cy, to.cy);
+  const gint x2 = zoomed(box.x2 + reach, from.cx, to.cx);
+  const gint y2 = zoomed(box.y2 + reach, from.cy, to.cy);
+  gtk_widget_queue_draw_area(PtrnDraw, x1, y1, x2 - x1, y2 - y1);
+}
+
 void RenderStartPicture(gint width, gint height) {
-  ScalePicture.reset();
+  LayoutPicture.reset();
   PtrnPixmap.reset();
   PtrnPixmap = std::make_unique<Drawable>(width, height);
   MakeInitWindow(PtrnPixmap.get(), width, height);
 }
 
+// Brings the picture up to date and asks for what changed to be shown.
 void RenderLayout() {
-  ScalePicture.reset();
-  PtrnPixmap.reset();
-  PtrnPixmap = std::make_unique<Drawable>(PtrnDraw_Size1.cx, PtrnDraw_Size1.cy);
-  DrawGc gc;
-  DrawWindow1(PtrnPixmap.get(), &gc);
-  const bool scaled =
-      PtrnDraw_Size1.cx != PtrnDraw_Size2.cx || PtrnDraw_Size1.cy != PtrnDraw_Size2.cy;
-  if (scaled && PtrnPixmap->Valid()) ScalePicture = PixbufFromSurface(*PtrnPixmap);
+  if (!LayoutPicture || PtrnPixmap->Width() != PtrnDraw_Size1.cx ||
+      PtrnPixmap->Height() != PtrnDraw_Size1.cy) {
+    PtrnPixmap.reset();
+    PtrnPixmap = std::make_unique<Drawable>(PtrnDraw_Size1.cx, PtrnDraw_Size1.cy);
+    LayoutPicture = std::make_unique<PaintedLayout>();
+  }
+  for (const DrawnBox& box : LayoutPicture->Paint(*PtrnPixmap)) QueueZoomed(box);
 }
 
 void Show(cairo_t* cairo, Drawable& surface) {
@@ -60,9 +77,10 @@ void Show(cairo_t* cairo, Drawable& surface) {
 void ShowLayout(cairo_t* cairo, gint x, gint y, gint width, gint height) {
   Drawable view(width, height, x, y);
   DrawGc gc;
-  FillPixels(&view, x, y, width, height, DeskColour);
-  if (PtrnPixmap && PtrnPixmap->Valid())
-    PaintZoomed(view, *PtrnPixmap, ScalePicture.get(), PtrnDraw_Size2.cx, PtrnDraw_Size2.cy);
+  const SIZE shown = PtrnPixmap && PtrnPixmap->Valid() ? PtrnDraw_Size2 : SIZE{0, 0};
+  FillPixels(&view, shown.cx, y, x + width - shown.cx, height, DeskColour);
+  FillPixels(&view, x, shown.cy, width, y + height - shown.cy, DeskColour);
+  if (shown.cx > 0) PaintZoomed(view, *PtrnPixmap, shown.cx, shown.cy);
   DrawGridData(&view, &gc);
   DrawWindow2(&view, &gc);
   Show(cairo, view);
@@ -112,12 +130,12 @@ void DrawRequest(gint mode) {
     return;
   }
   RegionPtr overlay = CanvasOverlay();
-  if (mode != 0 || !ShownOverlay) {
-    if (mode != 0) {
-      RenderLayout();
-      // Every change of the layout ends here, and the first one makes it worth saving.
-      SetMainMenu();
-    }
+  if (mode != 0) {
+    RenderLayout();
+    // Every change of the layout ends here, and the first one makes it worth saving.
+    SetMainMenu();
+  }
+  if (!ShownOverlay) {
     gtk_widget_queue_draw(PtrnDraw);
   } else {
     cairo_region_union(ShownOverlay.get(), overlay.get());

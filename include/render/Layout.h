@@ -22,6 +22,8 @@ void DrawPageData4(Drawable* drawable, DrawGc* gc);
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer);
 void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom);
 
+// One item of any type.
+void DrawPtrnItem(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
 // The renderers, by type code. One-point types write the item's Size.
 void DrawPtrnData01(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
 void DrawPtrnData02(Drawable* drawable, DrawGc* gc, PTRNDATA* item);

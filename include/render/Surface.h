@@ -8,6 +8,18 @@
 typedef struct _cairo_surface cairo_surface_t;
 typedef struct _GdkPixbuf GdkPixbuf;
 
+// A box of the plane: from (x1, y1) up to, but not including, (x2, y2).
+struct DrawnBox {
+  gint x1 = 0;
+  gint y1 = 0;
+  gint x2 = 0;
+  gint y2 = 0;
+
+  bool Empty() const { return x1 >= x2 || y1 >= y2; }
+  // Grows to hold the other, too.
+  void Add(const DrawnBox& other);
+};
+
 // Pixels are 0xffRRGGBB. Drawing positions are plane positions: pixel (x, y) of the plane lies at
 // (x - X(), y - Y()) of the memory. Everything outside is clipped.
 class Drawable {
@@ -15,6 +27,10 @@ class Drawable {
   // A black surface; width or height below 1 give a surface of 1 x 1. `x`, `y`: its place on the
   // plane.
   Drawable(gint width, gint height, gint x = 0, gint y = 0);
+  // A part of another surface, drawing into that surface's memory; it must not outlive it.
+  Drawable(Drawable& whole, const DrawnBox& part);
+  // A surface without memory: adds to `drawn` where it would be painted on.
+  Drawable(gint width, gint height, DrawnBox* drawn);
   ~Drawable();
   Drawable(const Drawable&) = delete;
   Drawable& operator=(const Drawable&) = delete;
@@ -30,6 +46,8 @@ class Drawable {
   guint32 At(gint x, gint y) const;
   // The same memory for cairo (CAIRO_FORMAT_RGB24); owned by the surface.
   cairo_surface_t* Cairo();
+  // Where painting is noted instead of done, null on a surface with memory.
+  DrawnBox* Drawn() const { return drawn_; }
   // Whether the memory could be had. Without it every drawing is clipped away.
   bool Valid() const { return pixels_ != nullptr; }
 
@@ -39,6 +57,8 @@ class Drawable {
   gint width_;
   gint height_;
   gsize stride_ = 0;  // in pixels
+  bool owner_ = true;
+  DrawnBox* drawn_ = nullptr;
   guint32* pixels_ = nullptr;
   cairo_surface_t* cairo_ = nullptr;
 };
@@ -59,8 +79,6 @@ PixbufPtr PixbufFromSurface(const Drawable& surface);
 
 // Paints the part of `picture` (scaled to width x height zoomed pixels, tiles interpolation) that
 // the target covers: the target's plane is the zoomed picture. Same pixels as scaling the whole.
-// `image` is the picture's PixbufFromSurface and may be null when the sizes are equal.
-void PaintZoomed(Drawable& target, const Drawable& picture, GdkPixbuf* image, gint width,
-                 gint height);
+void PaintZoomed(Drawable& target, const Drawable& picture, gint width, gint height);
 // Writes a PNG, all or nothing. False = failed.
 bool WritePng(const Drawable& surface, const gchar* path);

@@ -68,9 +68,8 @@ inline std::unique_ptr<Drawable> PaintZoomedLayout(gint zoomIndex, gint x, gint 
   PtrnHedr.Parm2[ViewSlot::Zoom] = zoomIndex;
   constexpr gint percent[5] = {500, 200, 100, 75, 50};
   const auto picture = PaintLayout();
-  const PixbufPtr image = PixbufFromSurface(*picture);
   auto view = std::make_unique<Drawable>(width, height, x, y);
-  PaintZoomed(*view, *picture, image.get(), picture->Width() * percent[zoomIndex] / 100,
+  PaintZoomed(*view, *picture, picture->Width() * percent[zoomIndex] / 100,
               picture->Height() * percent[zoomIndex] / 100);
   DrawGc gc;
   DrawGridData(view.get(), &gc);

@@ -239,4 +239,29 @@ TEST_F(Canvas, DraggingRepaintsTheOutlineAlone) {
   EXPECT_GT(exposures.Pixels(), 0);
   EXPECT_LT(exposures.Pixels(), 2 * (695 + 495) * 24.0);
 }
+
+// At 75 and 500 %, where scaling mixes neighbours.
+TEST_F(Canvas, ACommitRepaintsWhatItChangedAlone) {
+  OpenWindow();
+  for (const gint zoom : {Zoom100, Zoom75, Zoom500}) {
+    IntPtrnData();
+    for (const PTRNDATA& box : {BoxItem(5, 5, 400, 300, 1), BoxItem(30, 30, 60, 50, 2)})
+      AddPtrnData(&box);
+    ShowLayout(700, 500, zoom);
+    FinishFrame(PtrnDraw);
+    Exposures exposures;
+    FinishFrame(PtrnDraw);
+    for (const PTRNDATA& box : {BoxItem(40, 33, 71, 52, 2), BoxItem(40, 40, 52, 49, 3)}) {
+      exposures.Clear();
+      SetPtrnData(1, &box);
+      DrawRequest(1);
+      FinishFrame(PtrnDraw);
+      const gdouble scale = ZoomFactorData[zoom] / 100.0;
+      EXPECT_GT(exposures.Pixels(), 0);
+      EXPECT_LT(exposures.Pixels(), 2 * 60 * 45 * scale * scale);
+      EXPECT_TRUE(Shows(CanvasShot().get(), 0, 0, *WholePicture(700, 500, ZoomFactorData[zoom])))
+          << ZoomFactorData[zoom];
+    }
+  }
+}
 }  // namespace

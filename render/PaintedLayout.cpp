@@ -1,0 +1,108 @@
+#include "render/PaintedLayout.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "ProjData.h"
+#include "layout/EditState.h"
+#include "layout/Store.h"
+#include "render/Layout.h"
+#include "render/Primitives.h"
+#include "support/Resource.h"
+
+namespace {
+
+// With more changed items a part costs as much as the whole.
+constexpr std::size_t MaxChanged = 50;
+
+template <typename... Data>
+std::string BytesOf(const Data&... data) {
+  std::string bytes;
+  (bytes.append(reinterpret_cast<const char*>(&data), sizeof data), ...);
+  return bytes;
+}
+
+std::string PresentLook() {
+  return BytesOf(PtrnHedr.Parm1, PtrnHedr.Parm2, PtrnHedr.PtrnName1, PtrnHedr.PtrnName2,
+                 PtrnHedr.PtrnName3, PtrnHedr.LogoName, PtrnHedr.BmapName, Language, ColorCode,
+                 BmapPath, ColrData, DrawColr, FontName, FontHeight, MarkData);
+}
+
+bool Same(const PTRNDATA& a, const PTRNDATA& b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// What an item takes of a picture.
+DrawnBox BoxOfItem(PTRNDATA item, const Drawable& picture) {
+  DrawnBox box;
+  Drawable probe(picture.Width(), picture.Height(), &box);
+  DrawGc gc;
+  DrawPtrnItem(&probe, &gc, &item);
+  return box;
+}
+
+void PaintPart(Drawable& picture, const DrawnBox& box) {
+  Drawable part(picture, box);
+  DrawGc gc;
+  FillPixels(&part, part.X(), part.Y(), part.Width(), part.Height(), 0);
+  DrawWindow1(&part, &gc);
+}
+
+}  // namespace
+
+std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
+                                                  const std::string& look) const {
+  const std::vector<DrawnBox> whole{{0, 0, picture.Width(), picture.Height()}};
+  if (!painted_ || look != look_) {
+    return whole;
+  }
+  // A commit changes one item, appends some or takes some out: the others stand before and behind.
+  const auto oldCount = items_.size();
+  const auto newCount = static_cast<std::size_t>(GetPtrnCount());
+  const auto stored = [](std::size_t no) -> const PTRNDATA& {
+    return *ViewPtrnData(static_cast<gint>(no));
+  };
+  const std::size_t common = std::min(oldCount, newCount);
+  std::size_t before = 0;
+  while (before < common && Same(items_[before], stored(before))) ++before;
+  std::size_t behind = 0;
+  while (behind < common - before &&
+         Same(items_[oldCount - 1 - behind], stored(newCount - 1 - behind))) {
+    ++behind;
+  }
+  const std::size_t changed = oldCount + newCount - 2 * (before + behind);
+  if (changed == 0 || changed > MaxChanged) {
+    return whole;
+  }
+  DrawnBox oldBox, newBox;
+  for (std::size_t no = before; no < oldCount - behind; ++no) {
+    oldBox.Add(BoxOfItem(items_[no], picture));
+  }
+  for (std::size_t no = before; no < newCount - behind; ++no) {
+    newBox.Add(BoxOfItem(stored(no), picture));
+  }
+  std::vector<DrawnBox> boxes{oldBox, newBox};
+  std::erase_if(boxes, [](const DrawnBox& box) { return box.Empty(); });
+  return boxes;
+}
+
+void PaintedLayout::Remember(std::string look) {
+  painted_ = false;
+  try {
+    items_.clear();
+    for (gint no = 0; no < GetPtrnCount(); ++no) items_.push_back(*ViewPtrnData(no));
+    look_ = std::move(look);
+    painted_ = true;
+  } catch (const std::bad_alloc&) {
+    items_.clear();
+  }
+}
+
+std::vector<DrawnBox> PaintedLayout::Paint(Drawable& picture) {
+  std::string look = PresentLook();
+  const std::vector<DrawnBox> boxes = ChangedBoxes(picture, look);
+  for (const DrawnBox& box : boxes) PaintPart(picture, box);
+  Remember(std::move(look));
+  return boxes;
+}

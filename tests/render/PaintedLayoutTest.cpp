@@ -1,0 +1,175 @@
+// A picture kept up to date part by part equals one painted anew.
+#include "render/PaintedLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+#include "render/ItemSamples.h"
+#include "render/SampleLayout.h"
+
+namespace {
+
+constexpr gint Width = 320;
+constexpr gint Height = 240;
+
+class PaintedLayouts : public testing::Test {
+ protected:
+  PaintedLayouts() {
+    DrawSceneMarks();
+    SetHeader(Width, Height);
+    for (gint no = 0; no < 45; ++no) {
+      const PTRNDATA item = AnyItem();
+      AddPtrnData(&item);
+    }
+    painted_.Paint(picture_);
+  }
+
+  gint Pick(gint low, gint high) { return std::uniform_int_distribution<gint>(low, high)(random_); }
+
+  // Corners in any order, partly outside, and widths from none to too wide.
+  PTRNDATA AnyItem() {
+    const gint type = Pick(1, 15);
+    const gint x1 = Pick(-40, Width), y1 = Pick(-40, Height);
+    const gint x2 = x1 + Pick(-60, 90), y2 = y1 + Pick(-60, 90);
+    const gint width = Pick(0, 3) * Pick(0, 9), place = Pick(0, 2);
+    PTRNDATA item = Item(type, x1, y1, x2, y2, width, place);
+    item.Parm[ItemSlot::TopLayer] = Pick(0, 1);
+    return item;
+  }
+  PTRNDATA Item(gint type, gint x1, gint y1, gint x2, gint y2, gint width, gint place) {
+    switch (type) {
+      case TypeFrame:
+        return FrameItem(x1, y1, x2, y2, width);
+      case TypeLine:
+        return LineItem(x1, y1, x2, y2, Pick(0, 2), width, place);
+      case TypeRectangle:
+      case TypeEllipse:
+        return ShapeItem(type, x1, y1, x2, y2, Pick(0, 1), width, place);
+      case TypeBarGraph:
+        return BarItem(x1, y1, x2, y2, Pick(0, 1), width, Pick(0, 4));
+      case TypeFixedString:
+        return TextItem(type, x1, y1, Font16, {{TextSlot::BackEnabled, Pick(0, 1)}}, "水位 level");
+      case TypeVariableString:
+      case TypeNumeric:
+        return TextItem(type, x1, y1, Font24, {{TextSlot::Length, Pick(0, 12)}});
+      case TypeButton:
+        return ButtonItem(x1, y1, x2, y2, Font16, width, "運転開始");
+      case TypeRadioButton:
+      case TypeCheckBox:
+        return ChoiceItem(type, x1, y1, Font16, Pick(0, 1), "自動");
+      case TypeBitmap:
+        return BitmapItem(x1, y1, x2, y2, Pick(0, 1));
+      case TypeMark:
+        return MarkItem(x1, y1, x2, y2, SceneMark::Disc32x32, Pick(0, 1));
+      case TypeScrollBar:
+        return ScrollItem(x1, y1, x2, y2, Pick(0, 1), Pick(0, 4), Pick(0, 1), Pick(0, 1));
+      default:
+        return MakeItem(type, x1, y1, x2, y2);
+    }
+  }
+
+  void ExpectUpToDate(const std::string& after) {
+    const auto fresh = PaintLayout();
+    for (gint y = 0; y < Height; ++y) {
+      ASSERT_EQ(std::memcmp(picture_.Row(y), fresh->Row(y), Width * sizeof(guint32)), 0)
+          << after << ", row " << y;
+    }
+  }
+  bool PaintsTheWhole() {
+    const std::vector<DrawnBox> boxes = painted_.Paint(picture_);
+    return boxes.size() == 1 && boxes[0].x1 == 0 && boxes[0].y1 == 0 && boxes[0].x2 == Width &&
+           boxes[0].y2 == Height;
+  }
+  void Change() {
+    const PTRNDATA item = FrameItem(100, 100, 140, 130, 2);
+    SetPtrnData(3, &item);
+  }
+
+  Scene scene_;
+  SceneBitmaps bitmaps_;
+  std::mt19937 random_{7};
+  Drawable picture_{Width, Height};
+  PaintedLayout painted_;
+};
+
+TEST_F(PaintedLayouts, FollowEveryChangeOfAnItem) {
+  for (int round = 0; round < 300; ++round) {
+    const gint no = Pick(0, GetPtrnCount() - 1);
+    const PTRNDATA item = AnyItem();
+    SetPtrnData(no, &item);
+    painted_.Paint(picture_);
+    ExpectUpToDate("change to type " + std::to_string(item.Type) + " in round " +
+                   std::to_string(round));
+    if (HasFatalFailure()) return;
+  }
+}
+
+TEST_F(PaintedLayouts, FollowItemsThatComeAndGo) {
+  for (int round = 0; round < 60; ++round) {
+    if (Pick(0, 1) == 0) {
+      DelPtrnData(Pick(0, GetPtrnCount() - 1));
+    } else {
+      const PTRNDATA item = AnyItem();
+      AddPtrnData(&item);
+    }
+    painted_.Paint(picture_);
+    ExpectUpToDate("round " + std::to_string(round));
+    if (HasFatalFailure()) return;
+  }
+}
+
+TEST_F(PaintedLayouts, PaintTheOldAndTheNewBoxAlone) {
+  IntPtrnData();
+  PTRNDATA item = FrameItem(10, 20, 50, 40, 2);
+  AddPtrnData(&item);
+  painted_.Paint(picture_);
+  item = FrameItem(200, 100, 230, 150, 2);
+  SetPtrnData(0, &item);
+  const std::vector<DrawnBox> boxes = painted_.Paint(picture_);
+  ASSERT_EQ(boxes.size(), 2u);
+  // Border lines end one dot further than the area.
+  EXPECT_EQ((std::vector{boxes[0].x1, boxes[0].y1, boxes[0].x2, boxes[0].y2}),
+            (std::vector{10, 20, 51, 41}));
+  EXPECT_EQ((std::vector{boxes[1].x1, boxes[1].y1, boxes[1].x2, boxes[1].y2}),
+            (std::vector{200, 100, 231, 151}));
+}
+
+TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
+  EXPECT_TRUE(PaintsTheWhole());
+}
+
+TEST_F(PaintedLayouts, PaintTheWholeWhenAllItemsChanged) {
+  for (gint no = 0; no < GetPtrnCount(); ++no) {
+    const PTRNDATA item = AnyItem();
+    SetPtrnData(no, &item);
+  }
+  EXPECT_TRUE(PaintsTheWhole());
+  ExpectUpToDate("all items");
+}
+
+TEST_F(PaintedLayouts, PaintTheWholeWhenTheLookChanged) {
+  const auto expectWhole = [this](const char* what, auto change) {
+    painted_.Paint(picture_);
+    Change();
+    change();
+    EXPECT_TRUE(PaintsTheWhole()) << what;
+    ExpectUpToDate(what);
+  };
+  expectWhole("palette", [] { DrawColr[Ink::Cream] = DrawColr[Ink::Red]; });
+  expectWhole("colour system", [] { ColorCode = 1; });
+  expectWhole("language", [] { Language = 1; });
+  expectWhole("header", [] { PtrnHedr.Parm1[HedrSlot::WorkAreaColour] = Ink::Sky; });
+  expectWhole("mark", [] {
+    MarkData[SceneMark::Disc32x32].mark[0] ^= 0xff;
+    SetDrawMark();
+  });
+  expectWhole("font", [] {
+    g_strlcpy(FontName[Font16], FontName[Font24], sizeof FontName[Font16]);
+    SetDrawFont();
+  });
+  ColorCode = Language = 0;
+}
+
+}  // namespace
