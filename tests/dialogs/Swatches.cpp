@@ -108,7 +108,7 @@ TEST_F(Swatches, TakeTheChosenColour) {
     Press(swatch, 1);
   }
   EXPECT_EQ(Number, 37);
-  EXPECT_EQ(PixelOf(swatch, 40, 10), 0xC01030U);
+  EXPECT_TRUE(WaitFor([swatch] { return PixelOf(swatch, 40, 10) == 0xC01030U; }));
 }
 
 TEST_F(Swatches, OpenThePickerOverTheirDialog) {
