@@ -82,6 +82,10 @@ std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
   for (std::size_t no = before; no < newCount - behind; ++no) {
     newBox.Add(BoxOfItem(stored(no), picture));
   }
+  if (oldBox.Meets(newBox)) {
+    oldBox.Add(newBox);
+    newBox = {};
+  }
   std::vector<DrawnBox> boxes{oldBox, newBox};
   std::erase_if(boxes, [](const DrawnBox& box) { return box.Empty(); });
   return boxes;

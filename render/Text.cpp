@@ -16,7 +16,11 @@ void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg
   if (ColourExists(fg)) {
     gc->Foreground = DrawColr[fg].pixel;
     const gint64 baseline = gint64{y} + (extents.ascent + height - extents.descent) / 2;
-    fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
+    const PlaneBox ink{gint64{x} + extents.left, baseline - extents.ascent,
+                       gint64{x} + extents.right, baseline + extents.descent};
+    if (!ink.Clip(BoxOf(*drawable)).Empty()) {
+      fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
+    }
   }
 }
 

@@ -16,6 +16,9 @@ struct DrawnBox {
   gint y2 = 0;
 
   bool Empty() const { return x1 >= x2 || y1 >= y2; }
+  bool Meets(const DrawnBox& other) const {
+    return x1 < other.x2 && other.x1 < x2 && y1 < other.y2 && other.y1 < y2;
+  }
   // Grows to hold the other, too.
   void Add(const DrawnBox& other);
 };
