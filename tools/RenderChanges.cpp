@@ -48,6 +48,7 @@ ItemBox Grown(const ItemBox& box, gint by) {
 std::vector<ItemBox> PaintedBoxes() {
   std::vector<ItemBox> boxes;
   const gint count = GetPtrnCount();
+  boxes.reserve(static_cast<std::size_t>(count));
   for (gint no = 0; no < count; ++no) boxes.push_back(PaintedBox(*ViewPtrnData(no)));
   return boxes;
 }

@@ -52,10 +52,11 @@ std::string ValueText(gint value, const gchar* const* names) {
 template <std::size_t Count>
 std::string SlotText(const std::array<gint, Count>& parm, const ParmSlot& slot,
                      const gchar* const* names) {
+  const auto first = static_cast<std::size_t>(slot.Index);
+  const auto count = static_cast<std::size_t>(slot.Count);
   std::string text;
-  for (gint no = 0; no < slot.Count; ++no)
-    text +=
-        (no == 0 ? "" : ",") + ValueText(parm[static_cast<std::size_t>(slot.Index + no)], names);
+  for (std::size_t no = 0; no < count; ++no)
+    text += (no == 0 ? "" : ",") + ValueText(parm[first + no], names);
   return text;
 }
 
