@@ -1,5 +1,8 @@
 // One expose of a view of the zoomed canvas, against scaling just that rectangle.
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <unistd.h>
+
+#include <fstream>
 
 #include "FullLayout.h"
 #include "Measure.h"
@@ -44,6 +47,27 @@ void ZoomedExpose(benchmark::State& state) {
                          scale, GDK_INTERP_TILES);
       });
 }
+// Scrolling over the largest layout at 500 %; the counter is the resident memory after it.
+void ScrollLargest(benchmark::State& state) {
+  constexpr gint side = 9999;
+  const FullLayout layout(700, 300);
+  PtrnHedr.Parm1[HedrSlot::Width] = PtrnHedr.Parm1[HedrSlot::Height] = side;
+  Drawable picture(side, side);
+  DrawGc gc;
+  DrawWindow1(&picture, &gc);
+  gint at = 0;
+  for (auto _ : state) {
+    Drawable view(ViewWidth, ViewHeight, at, at);
+    PaintZoomed(view, picture, 5 * side, 5 * side);
+    at = (at + 4999) % (5 * side - ViewWidth);
+  }
+  long pages = 0, resident = 0;
+  std::ifstream("/proc/self/statm") >> pages >> resident;
+  state.counters["resident_mb"] =
+      static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+BENCHMARK(ScrollLargest)->Iterations(20)->Unit(benchmark::kMillisecond);
+
 BENCHMARK(ZoomedExpose)->DenseRange(0, 4)->Unit(benchmark::kMillisecond);
 
 }  // namespace
