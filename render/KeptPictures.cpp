@@ -15,7 +15,9 @@ struct SizedKey {
   gint64 width;
   gint64 height;
 
-  auto operator<=>(const SizedKey&) const = default;
+  bool operator<(const SizedKey& other) const {
+    return std::tie(picture, width, height) < std::tie(other.picture, other.width, other.height);
+  }
 };
 
 std::map<SizedKey, ScaledPicture> kept;

@@ -1,7 +1,7 @@
 // Scaled pictures kept for the next time they are painted.
 #pragma once
 
-#include <compare>
+#include <tuple>
 
 #include "ScaledPicture.h"
 
@@ -13,7 +13,9 @@ struct PictureKey {
   gint64 front;  // colours put into the picture; -1 = none
   gint64 back;
 
-  auto operator<=>(const PictureKey&) const = default;
+  bool operator<(const PictureKey& other) const {
+    return std::tie(source, front, back) < std::tie(other.source, other.front, other.back);
+  }
 };
 
 // A number for a new state of a source.

@@ -53,7 +53,7 @@ void PaintPart(Drawable& picture, const DrawnBox& box) {
 
 std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
                                                   const std::string& look) const {
-  const std::vector<DrawnBox> whole{{0, 0, picture.Width(), picture.Height()}};
+  std::vector<DrawnBox> whole{{0, 0, picture.Width(), picture.Height()}};
   if (!painted_ || look != look_) {
     return whole;
   }
@@ -105,7 +105,7 @@ void PaintedLayout::Remember(std::string look) {
 
 std::vector<DrawnBox> PaintedLayout::Paint(Drawable& picture) {
   std::string look = PresentLook();
-  const std::vector<DrawnBox> boxes = ChangedBoxes(picture, look);
+  std::vector<DrawnBox> boxes = ChangedBoxes(picture, look);
   for (const DrawnBox& box : boxes) PaintPart(picture, box);
   Remember(std::move(look));
   return boxes;
