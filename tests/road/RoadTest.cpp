@@ -33,7 +33,7 @@ nlohmann::json RoadTest::Saved(const std::string& name) const {
   const std::string file = std::string(ProjPath) + "/" + EucFromUtf8(name).value() + ".ptn";
   const ToolRun run = RunTool({"show", file});
   EXPECT_EQ(run.Code, 0) << run.Err;
-  return nlohmann::json::parse(run.Out, nullptr, false);
+  return nlohmann::json::parse(run.Code == 0 ? run.Out : R"({"Items": [{}]})");
 }
 
 void DragOnCanvas(gint x1, gint y1, gint x2, gint y2) {

@@ -19,7 +19,7 @@ class RoadTest : public WindowTest {
 
   // Makes an empty layout through menu and dialog.
   void NewLayout(gint width, gint height);
-  // A file of the project as the companion tool shows it; null when there is none.
+  // A file of the project as the companion tool shows it; fails the test when there is none.
   nlohmann::json Saved(const std::string& name) const;
 
   ProgramFolder Folder;

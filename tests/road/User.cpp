@@ -98,6 +98,15 @@ GdkWindow* WindowUnderPointer() {
   return window != nullptr ? gdk_window_get_toplevel(window) : nullptr;
 }
 
+bool KeyboardIsHere() {
+  GList* windows = gtk_window_list_toplevels();
+  const bool here = g_list_find_custom(windows, nullptr, [](gconstpointer window, gconstpointer) {
+                      return gtk_window_is_active(GTK_WINDOW(const_cast<gpointer>(window))) ? 0 : 1;
+                    }) != nullptr;
+  g_list_free(windows);
+  return here;
+}
+
 void CloseAllButTheMainWindow() {
   GList* windows = gtk_window_list_toplevels();
   g_list_foreach(
@@ -204,6 +213,7 @@ void PointBy(gint x, gint y) {
 }
 
 void PressKey(guint key, std::initializer_list<guint> held) {
+  EXPECT_TRUE(See(KeyboardIsHere)) << "another program has the keyboard";
   for (const guint modifier : held) Hands->SendKey(modifier, true);
   Hands->SendKey(key, true);
   Hands->SendKey(key, false);
