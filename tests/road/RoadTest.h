@@ -25,7 +25,7 @@ class RoadTest : public WindowTest {
   ProgramFolder Folder;
 };
 
-// Drags with the left button on the canvas, in canvas pixels.
+// Drags with the left button on the canvas, with a stop half way, in canvas pixels.
 void DragOnCanvas(gint x1, gint y1, gint x2, gint y2);
 void ClickCanvas(gint x, gint y, Button button = LeftButton);
 // Saves by key and waits until it is done.

@@ -177,8 +177,6 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
   });
   EXPECT_TRUE(there) << "another window lies over " << G_OBJECT_TYPE_NAME(widget);
   WhenIdle();
-  Frame(Look([&] { return gtk_widget_get_toplevel(widget); }));
-  WhenIdle();
 }
 
 void PointAt(GtkWidget* widget) {

@@ -2,6 +2,7 @@
 #include "PtrnMisc.h"
 #include "app/Window.h"
 #include "render/Layout.h"
+#include "window/Exposures.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -25,36 +26,6 @@ std::unique_ptr<Drawable> WholePicture(gint width, gint height, gint percent) {
   DrawWindow2(whole.get(), &gc);
   return whole;
 }
-
-// What the canvas repaints, rectangle by rectangle.
-class Exposures {
- public:
-  Exposures() : handler_(g_signal_connect(PtrnDraw, "draw", G_CALLBACK(Note), this)) {
-    // The canvas's own handler ends the emission, so this one stands before it.
-    g_signal_handlers_disconnect_by_func(PtrnDraw, reinterpret_cast<gpointer>(PtrnDraw_Expose),
-                                         nullptr);
-    g_signal_connect(PtrnDraw, "draw", G_CALLBACK(PtrnDraw_Expose), nullptr);
-  }
-  ~Exposures() { g_signal_handler_disconnect(PtrnDraw, handler_); }
-  Exposures(const Exposures&) = delete;
-  Exposures& operator=(const Exposures&) = delete;
-
-  gdouble Pixels() const { return pixels_; }
-  void Clear() { pixels_ = 0; }
-
- private:
-  static gboolean Note(GtkWidget*, cairo_t* cairo, gpointer self) {
-    cairo_rectangle_list_t* clip = cairo_copy_clip_rectangle_list(cairo);
-    for (gint i = 0; i < clip->num_rectangles; i++)
-      static_cast<Exposures*>(self)->pixels_ +=
-          clip->rectangles[i].width * clip->rectangles[i].height;
-    cairo_rectangle_list_destroy(clip);
-    return FALSE;
-  }
-
-  gulong handler_;
-  gdouble pixels_ = 0;
-};
 
 class Canvas : public WindowTest {};
 

@@ -1,0 +1,66 @@
+#include <unistd.h>
+
+#include <fstream>
+
+#include "PtrnData.h"
+#include "road/RoadTest.h"
+
+namespace {
+class ManyPicks : public RoadTest {};
+
+// Memory of the process that is in use and in RAM, in bytes.
+gint64 ResidentBytes() {
+  std::ifstream file("/proc/self/statm");
+  gint64 all = 0;
+  gint64 resident = 0;
+  file >> all >> resident;
+  return resident * sysconf(_SC_PAGESIZE);
+}
+
+guint WindowCount() {
+  return Look([] {
+    GList* windows = gtk_window_list_toplevels();
+    const guint count = g_list_length(windows);
+    g_list_free(windows);
+    return count;
+  });
+}
+
+// Picks two items in turn with real clicks; each pick opens the tool box anew.
+void PickInTurn(gint times) {
+  for (gint i = 0; i < times; i++) {
+    const gint item = i % 2;
+    // Lets the other item go, then picks this one.
+    ClickCanvas(40 + 100 * item, 60);
+    ButtonDown(LeftButton);
+    ButtonUp(LeftButton);
+    ASSERT_TRUE(See([item] { return PtrnMode == ModeSelected && PtrnNo == item; })) << i;
+  }
+}
+
+TEST_F(ManyPicks, DeepenNoStackAndKeepNothing) {
+  constexpr gint Picks = 2000;
+  constexpr gint WarmUp = 200;
+  constexpr gint64 BytesPerPick = 1024;
+  Play([this] {
+    NewLayout(640, 480);
+    Look([] {
+      for (const gint x : {40, 140}) {
+        PTRNDATA item = BoxItem(x, 40, x + 40, 80, 8);
+        item.Type = TypeSpinButton;
+        AddPtrnData(&item);
+      }
+      DrawRequest(1);
+    });
+    ClickCanvas(40, 60);
+    PickInTurn(WarmUp);
+    const gint depth = Look([] { return g_main_depth(); });
+    const guint windows = WindowCount();
+    const gint64 bytes = ResidentBytes();
+    PickInTurn(Picks - WarmUp);
+    EXPECT_EQ(Look([] { return g_main_depth(); }), depth);
+    EXPECT_EQ(WindowCount(), windows);
+    EXPECT_LT(ResidentBytes() - bytes, (Picks - WarmUp) * BytesPerPick);
+  });
+}
+}  // namespace
