@@ -75,6 +75,38 @@ GtkWidget* ComboMenu(GtkWidget* combo) {
   AtkObject* popup = gtk_combo_box_get_popup_accessible(GTK_COMBO_BOX(combo));
   return gtk_accessible_get_widget(GTK_ACCESSIBLE(popup));
 }
+// A row of a list or tree, and where it is in the widget.
+struct Row {
+  GtkWidget* View = nullptr;
+  GdkRectangle Area = {};
+};
+
+Row FindRow(GtkWidget* window, const std::string& text) {
+  Row row;
+  FindWidget(window, [&](GtkWidget* view) {
+    if (!GTK_IS_TREE_VIEW(view)) return false;
+    const auto look = [&](GtkTreeModel* model, GtkTreePath* path, GtkTreeIter* iter) {
+      gchar* shown = nullptr;
+      gtk_tree_model_get(model, iter, 0, &shown, -1);
+      const bool same = shown != nullptr && text == shown;
+      g_free(shown);
+      if (!same) return false;
+      row.View = view;
+      gtk_tree_view_scroll_to_cell(GTK_TREE_VIEW(view), path, nullptr, FALSE, 0, 0);
+      gtk_tree_view_get_cell_area(GTK_TREE_VIEW(view), path,
+                                  gtk_tree_view_get_column(GTK_TREE_VIEW(view), 0), &row.Area);
+      return true;
+    };
+    using Look = decltype(look);
+    gtk_tree_model_foreach(
+        gtk_tree_view_get_model(GTK_TREE_VIEW(view)),
+        [](GtkTreeModel* model, GtkTreePath* path, GtkTreeIter* iter, gpointer function)
+            -> gboolean { return (*static_cast<Look*>(function))(model, path, iter); },
+        const_cast<std::remove_const_t<Look>*>(&look));
+    return row.View != nullptr;
+  });
+  return row;
+}
 }  // namespace
 
 Panel::Panel(const std::string& title) : window_(SeeWindow(title)) {
@@ -142,6 +174,15 @@ void Panel::Press(const std::string& label) const {
              g_strcmp0(gtk_button_get_label(GTK_BUTTON(widget)), label.c_str()) == 0;
     });
   }));
+}
+
+void ClickRow(GtkWidget* window, const std::string& text) {
+  EXPECT_TRUE(See([&] { return FindRow(window, text).View != nullptr; })) << "no row " << text;
+  Settle();  // the list may have scrolled
+  const Row row = Look([&] { return FindRow(window, text); });
+  PointAt(row.View, row.Area.x + 10, row.Area.y + row.Area.height / 2);
+  ButtonDown(LeftButton);
+  ButtonUp(LeftButton);
 }
 
 void ChooseMenu(GtkWidget* menu, const Path& path) {

@@ -42,6 +42,9 @@ class Panel {
   GtkWidget* window_;
 };
 
+// Clicks the row of a list or tree that shows this text.
+void ClickRow(GtkWidget* window, const std::string& text);
+
 // Chooses an entry of the menu bar or of an open menu with the pointer, through all its submenus.
 using Path = std::vector<std::string>;
 void ChooseMenu(GtkWidget* menu, const Path& path);

@@ -42,6 +42,7 @@ void DragOnCanvas(gint x1, gint y1, gint x2, gint y2) {
   PointAt(PtrnDraw, (x1 + x2) / 2, (y1 + y2) / 2);
   Settle();
   PointAt(PtrnDraw, x2, y2);
+  Settle();
   ButtonUp(LeftButton);
 }
 
