@@ -2,7 +2,6 @@
 
 #include "KeptPictures.h"
 #include "PictureFiles.h"
-#include "support/FileTools.h"
 
 void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint height,
               gint transparent, const gchar* path, const gchar* name) {
@@ -10,7 +9,7 @@ void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint heig
   if (transparent > ColourRed || box.Clip(BoxOf(*drawable)).Empty()) {
     return;
   }
-  const FilePicture file = PictureFile(JoinPath(path, name, ""));
+  const FilePicture file = PictureFile(PicturePathInside(path, name));
   if (file.picture == nullptr) {
     return;
   }

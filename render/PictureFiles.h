@@ -13,3 +13,7 @@ struct FilePicture {
 // The picture in a regular file. Kept until the file's time or size changes or newer pictures need
 // the room, so it is valid until the next call.
 FilePicture PictureFile(const std::string& path);
+
+// Path of the picture `name` of `folder` (empty: the current folder). Empty for an absolute name
+// and for one that leads out of the folder, by ".." or by a link, and when there is no such entry.
+std::string PicturePathInside(const std::string& folder, const std::string& name);

@@ -49,8 +49,9 @@ bool FontExists(gint language, gint font) {
 
 PictureState Picture(const std::string& name) {
   if (FileExist(BmapPath, name.c_str(), "") == 0) return PictureState::Missing;
-  return PictureFile(JoinPath(BmapPath, name, "")).picture != nullptr ? PictureState::Good
-                                                                      : PictureState::Unreadable;
+  return PictureFile(PicturePathInside(BmapPath, name)).picture != nullptr
+             ? PictureState::Good
+             : PictureState::Unreadable;
 }
 
 }  // namespace

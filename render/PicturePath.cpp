@@ -1,0 +1,31 @@
+#include <cstdlib>
+#include <memory>
+
+#include "PictureFiles.h"
+#include "support/FileTools.h"
+
+namespace {
+
+// The path without links and dots, "" when there is no such entry.
+std::string RealPath(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> real(realpath(path.c_str(), nullptr),
+                                                         &std::free);
+  return real ? real.get() : "";
+}
+
+}  // namespace
+
+std::string PicturePathInside(const std::string& folder, const std::string& name) {
+  if (name.empty() || name.front() == '/') {
+    return "";
+  }
+  std::string inside = RealPath(folder.empty() ? "." : folder);
+  if (inside.empty()) {
+    return "";
+  }
+  if (inside.back() != '/') {
+    inside += '/';
+  }
+  const std::string path = JoinPath(folder, name, "");
+  return RealPath(path).compare(0, inside.size(), inside) == 0 ? path : "";
+}

@@ -1,0 +1,84 @@
+// A layout names pictures of its own folder and none elsewhere.
+#include <filesystem>
+#include <string>
+
+#include "AsciiPicture.h"
+#include "tests/common/Bytes.h"
+#include "tests/common/TempFolder.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+// One black pixel of a bitmap whose header claims the given size.
+std::string BlackBitmap(gint width, gint height) {
+  return Bytes()
+      .Raw("BM")
+      .Ints({58, 0, 54})          // file size, reserved, place of the pixels
+      .Ints({40, width, height})  // header size, width, height
+      .Raw("\x01\x00\x18\x00"s)   // planes, 24 bits a pixel
+      .Ints({0, 4, 0, 0, 0, 0})   // no compression, bytes of pixels
+      .Raw("\x00\x00\x00\x00"s)   // the pixel, padding
+      .Str();
+}
+
+class BitmapFolder : public testing::Test {
+ protected:
+  BitmapFolder() {
+    outside_ = root_.Write("outside.bmp", BlackBitmap(1, 1));
+    root_.Write("Bitmaps/inside.bmp", BlackBitmap(1, 1));
+    root_.Write("Bitmaps2/beside.bmp", BlackBitmap(1, 1));
+  }
+  bool Draws(const std::string& name) { return DrawsFrom(root_.Path("Bitmaps"), name); }
+  bool DrawsFrom(const std::string& folder, const std::string& name) {
+    FillPixels(&paper_.surface, 0, 0, 1, 1, 0xffffff);
+    const std::string before = paper_.Text();
+    DrawBmap(&paper_.surface, &paper_.gc, 0, 0, 1, 1, -1, folder.c_str(), name.c_str());
+    return paper_.Text() != before;
+  }
+
+  TempFolder root_;
+  std::string outside_;
+  Paper paper_{1, 1};
+};
+
+TEST_F(BitmapFolder, ItsOwnPicturesAreDrawn) {
+  root_.Write("Bitmaps/deep/a.bmp", BlackBitmap(1, 1));
+  EXPECT_TRUE(Draws("inside.bmp"));
+  EXPECT_TRUE(Draws("deep/a.bmp"));
+}
+
+TEST_F(BitmapFolder, ParentFoldersAreNotReached) {
+  EXPECT_FALSE(Draws("../outside.bmp"));
+  EXPECT_FALSE(Draws("./../outside.bmp"));
+  EXPECT_FALSE(Draws("../Bitmaps2/beside.bmp")) << "a name that begins alike is another folder";
+}
+
+TEST_F(BitmapFolder, AbsoluteNamesDrawNothing) {
+  EXPECT_FALSE(Draws(outside_));
+  EXPECT_FALSE(Draws("/inside.bmp"));
+  EXPECT_FALSE(DrawsFrom("", outside_)) << "no folder does not mean any folder";
+}
+
+TEST_F(BitmapFolder, LinksOutOfItDrawNothing) {
+  std::filesystem::create_symlink(outside_, root_.Path("Bitmaps/link.bmp"));
+  std::filesystem::create_directory_symlink(root_.Path(), root_.Path("Bitmaps/up"));
+  EXPECT_FALSE(Draws("link.bmp"));
+  EXPECT_FALSE(Draws("up/outside.bmp"));
+}
+
+TEST_F(BitmapFolder, LinksWithinItAndToItAreFollowed) {
+  std::filesystem::create_symlink("inside.bmp", root_.Path("Bitmaps/link.bmp"));
+  std::filesystem::create_directory_symlink(root_.Path("Bitmaps"), root_.Path("Other"));
+  EXPECT_TRUE(Draws("link.bmp"));
+  EXPECT_TRUE(DrawsFrom(root_.Path("Other"), "inside.bmp"));
+}
+
+TEST_F(BitmapFolder, AHeaderThatClaimsAbsurdSizesDrawsNothing) {
+  root_.Write("Bitmaps/wide.bmp", BlackBitmap(0x7fffffff, 1));
+  root_.Write("Bitmaps/large.bmp", BlackBitmap(30000, 30000));
+  EXPECT_FALSE(Draws("wide.bmp"));
+  EXPECT_FALSE(Draws("large.bmp"));
+}
+
+}  // namespace
