@@ -39,8 +39,16 @@ void PickInTurn(gint times) {
 }
 
 TEST_F(ManyPicks, DeepenNoStackAndKeepNothing) {
+#ifdef __SANITIZE_ADDRESS__
+  // Freed memory is held back here, so its amount tells nothing; leaks are found at the end.
+  constexpr bool MemoryTells = false;
+  constexpr gint Picks = 200;
+  constexpr gint WarmUp = 50;
+#else
+  constexpr bool MemoryTells = true;
   constexpr gint Picks = 2000;
   constexpr gint WarmUp = 200;
+#endif
   constexpr gint64 BytesPerPick = 1024;
   Play([this] {
     NewLayout(640, 480);
@@ -60,7 +68,9 @@ TEST_F(ManyPicks, DeepenNoStackAndKeepNothing) {
     PickInTurn(Picks - WarmUp);
     EXPECT_EQ(Look([] { return g_main_depth(); }), depth);
     EXPECT_EQ(WindowCount(), windows);
-    EXPECT_LT(ResidentBytes() - bytes, (Picks - WarmUp) * BytesPerPick);
+    if (MemoryTells) {
+      EXPECT_LT(ResidentBytes() - bytes, (Picks - WarmUp) * BytesPerPick);
+    }
   });
 }
 }  // namespace
