@@ -39,10 +39,8 @@ nlohmann::json RoadTest::Saved(const std::string& name) const {
 void DragOnCanvas(gint x1, gint y1, gint x2, gint y2) {
   PointAt(PtrnDraw, x1, y1);
   ButtonDown(LeftButton);
-  PointAt(PtrnDraw, (x1 + x2) / 2, (y1 + y2) / 2);
-  Settle();
-  PointAt(PtrnDraw, x2, y2);
-  Settle();
+  DragTo(PtrnDraw, (x1 + x2) / 2, (y1 + y2) / 2);
+  DragTo(PtrnDraw, x2, y2);
   ButtonUp(LeftButton);
 }
 

@@ -19,8 +19,13 @@ std::unique_ptr<Seat> Hands;
 // hands it on late; a release then comes straight, but not to a window that its press has closed.
 gint Presses;
 
-void CountPresses(GdkEvent* event, gpointer) {
+// Where the latest pointer motion that has reached the program led, on the screen.
+POINT MovedTo{-1, -1};
+
+void NoteEvent(GdkEvent* event, gpointer) {
   if (event->type == GDK_BUTTON_PRESS) Presses++;
+  if (event->type == GDK_MOTION_NOTIFY)
+    MovedTo = {static_cast<gint>(event->motion.x_root), static_cast<gint>(event->motion.y_root)};
   gtk_main_do_event(event);
 }
 
@@ -134,7 +139,7 @@ void Play(const std::function<void()>& part) {
     Look(CloseAllButTheMainWindow);
     Post([loop] { g_main_loop_quit(loop); }, true);
   });
-  gdk_event_handler_set(CountPresses, nullptr, nullptr);
+  gdk_event_handler_set(NoteEvent, nullptr, nullptr);
   g_main_loop_run(loop);
   user.join();
   gdk_event_handler_set([](GdkEvent* event, gpointer) { gtk_main_do_event(event); }, nullptr,
@@ -179,6 +184,17 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
   WhenIdle();
 }
 
+void DragTo(GtkWidget* widget, gint x, gint y) {
+  PointAt(widget, x, y);
+  // The toolkit hands out motion once a frame and joins what comes in between.
+  const bool moved = See([&] {
+    const Spot spot = SpotOf(widget, x, y);
+    return MovedTo.x == spot.X && MovedTo.y == spot.Y;
+  });
+  EXPECT_TRUE(moved) << "the motion to " << x << ", " << y << " did not arrive";
+  Settle();
+}
+
 void PointAt(GtkWidget* widget) {
   ASSERT_NE(widget, nullptr) << "nothing to point at";
   const SIZE size = Look([&] {
@@ -207,6 +223,12 @@ void Click(GtkWidget* widget, Button button) {
 
 void PointBy(gint x, gint y) {
   Hands->MovePointerBy(x, y);
+  EXPECT_TRUE(See([] {
+    GdkSeat* seat = gdk_display_get_default_seat(gdk_display_get_default());
+    POINT at{0, 0};
+    gdk_device_get_position(gdk_seat_get_pointer(seat), nullptr, &at.x, &at.y);
+    return MovedTo.x == at.x && MovedTo.y == at.y;
+  })) << "the motion did not arrive";
   Settle();
 }
 

@@ -41,6 +41,8 @@ enum Button { LeftButton = 1, RightButton = 3 };
 // Moves the pointer to a place of a widget once that is really under it; fails the test when not.
 void PointAt(GtkWidget* widget, gint x, gint y);
 void PointAt(GtkWidget* widget);  // its middle
+// Moves with a button held: returns when the program has had the motion.
+void DragTo(GtkWidget* widget, gint x, gint y);
 void ButtonDown(Button button);
 void ButtonUp(Button button);
 void Click(GtkWidget* widget, Button button = LeftButton);
