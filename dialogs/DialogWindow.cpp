@@ -1,5 +1,7 @@
 #include "dialogs/DialogWindow.h"
 
+#include "layout/Screen.h"
+
 namespace {
 
 // At once, not when the loop is idle as gtk_window_close does: a second press must find no window.
@@ -65,11 +67,14 @@ void RunModal(GtkWidget* window, GtkWidget* parent) {
   RunModeless(window, parent);
 }
 
+// The program's main loop may be told to end while a dialog is shown beside a usable main window.
 void RunModeless(GtkWidget* window, GtkWidget* parent) {
   SetDialogParent(window, parent);
-  GMainLoop* loop = g_main_loop_new(nullptr, FALSE);
-  g_signal_connect_swapped(window, "destroy", G_CALLBACK(g_main_loop_quit), loop);
+  bool open = true;
+  g_signal_connect_swapped(window, "destroy", G_CALLBACK(+[](bool* flag) { *flag = false; }),
+                           &open);
   gtk_widget_show(window);
-  g_main_loop_run(loop);
-  g_main_loop_unref(loop);
+  while (open && (MainLoop == nullptr || g_main_loop_is_running(MainLoop)))
+    g_main_context_iteration(nullptr, TRUE);
+  if (open) gtk_widget_destroy(window);
 }

@@ -56,13 +56,21 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
   return TRUE;
 }
 
+// The mark pixel at a place of the enlarged view, beyond the mark's edges as well.
+gint PixelAt(double place) {
+  constexpr double Far = 10000;  // further than any screen
+  return static_cast<gint>(std::floor(std::clamp(place, -Far, Far) / Cell));
+}
+
 void SetPixel(MarkEdit* edit, gint x, gint y, gint data) {
+  if (x < 0 || x >= edit->Size.cx || y < 0 || y >= edit->Size.cy) return;
   MarkDataSet(edit->Number, &edit->Data, x, y, data);
   gtk_widget_queue_draw_area(edit->Enlarged, x * Cell, y * Cell, Cell, Cell);
   gtk_widget_queue_draw(edit->ActualSize);
 }
 
-// Every pixel from the latest one to (x, y), so that a fast drag leaves no gaps.
+// Every pixel from the latest one to (x, y), so that a fast drag leaves no gaps. What of the line
+// lies outside the mark addresses no pixel.
 void SetPixelsTo(MarkEdit* edit, const POINT& to, gint data) {
   const POINT from = edit->Last.value_or(to);
   const gint dx = to.x - from.x;
@@ -89,15 +97,12 @@ gboolean MakeMarkData_Motion(GtkWidget* /*view*/, const GdkEventMotion* event, M
   gdk_event_request_motions(event);
   const bool draw = (event->state & GDK_BUTTON1_MASK) != 0;
   const bool erase = (event->state & GDK_BUTTON3_MASK) != 0;
-  const gint px = static_cast<gint>(std::floor(event->x));
-  const gint py = static_cast<gint>(std::floor(event->y));
-  const bool inside = px >= 0 && px < edit->Size.cx * Cell && py >= 0 && py < edit->Size.cy * Cell;
-  // A drag that leaves the mark and comes back begins anew where it comes back.
-  if (!inside || (!draw && !erase)) {
+  if (!draw && !erase) {
     edit->Last.reset();
     return TRUE;
   }
-  const POINT to = {px / Cell, py / Cell};
+  // Outside the mark, too: a fast drag over its edge draws up to the edge, as a slow one does.
+  const POINT to = {PixelAt(event->x), PixelAt(event->y)};
   SetPixelsTo(edit, to, draw ? 1 : 0);
   edit->Last = to;
   return TRUE;

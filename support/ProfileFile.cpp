@@ -1,12 +1,33 @@
 #include "support/ProfileFile.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <cerrno>
+
 #include "PtrnMisc.h"
+#include "support/FileHandle.h"
 #include "support/FileTools.h"
 
 namespace {
 
 // Far above any profile; keeps a foreign file from being searched for keys.
 constexpr std::size_t ProfileLimit = 16u << 20;
+
+// Locks the folder, not the profile, which is another file after each change. Waits for at most a
+// second: whoever is stopped with the lock in his hand must not stop everybody else.
+FileHandle LockFolderOf(const std::string& path) {
+  constexpr int Tries = 200;
+  constexpr gulong Pause = 5000;  // microseconds
+  const std::string folder = path.substr(0, path.rfind('/') + 1);
+  FileHandle lock(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  for (int attempt = 0; lock && attempt < Tries; ++attempt) {
+    if (flock(lock.Get(), LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR))
+      break;
+    g_usleep(Pause);
+  }
+  return lock;
+}
 
 }  // namespace
 
@@ -17,6 +38,13 @@ std::string ProfilePath(const gchar* profname) {
 std::optional<std::string> LoadProfile(const std::string& path) {
   if (FileSize(path.c_str(), "", "") < 1) return std::string();
   return ReadWholeFile(path, ProfileLimit);
+}
+
+void ChangeProfile(const std::string& path,
+                   const std::function<bool(std::string& profile)>& change) {
+  const FileHandle lock = LockFolderOf(path);
+  std::optional<std::string> profile = LoadProfile(path);
+  if (profile && change(*profile)) ReplaceFile(path, *profile);
 }
 
 std::string NumberedKey(const gchar* keyname, gint no) {

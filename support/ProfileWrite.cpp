@@ -1,8 +1,6 @@
 #include <cstdarg>
-#include <optional>
 #include <string>
 
-#include "support/FileTools.h"
 #include "support/Profile.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
@@ -42,14 +40,12 @@ std::string JoinFields(const gchar* format, va_list args, gint& count) {
   }
 }
 
-// A profile that is there but cannot be read is left alone. A failure to write is not reported.
 void StoreValue(const gchar* profname, const gchar* section, const std::string& key,
                 const std::string& value) {
-  const std::string path = ProfilePath(profname);
-  std::optional<std::string> profile = LoadProfile(path);
-  if (!profile) return;
-  SetProfileValue(*profile, section, key, value);
-  ReplaceFile(path, *profile);
+  ChangeProfile(ProfilePath(profname), [&](std::string& profile) {
+    SetProfileValue(profile, section, key, value);
+    return true;
+  });
 }
 
 void StoreCommented(const gchar* profname, const gchar* section, const std::string& key,
@@ -58,9 +54,8 @@ void StoreCommented(const gchar* profname, const gchar* section, const std::stri
 }
 
 void DeleteKey(const gchar* profname, const gchar* section, const std::string& key) {
-  const std::string path = ProfilePath(profname);
-  std::optional<std::string> profile = LoadProfile(path);
-  if (profile && DeleteProfileKey(*profile, section, key)) ReplaceFile(path, *profile);
+  ChangeProfile(ProfilePath(profname),
+                [&](std::string& profile) { return DeleteProfileKey(profile, section, key); });
 }
 
 }  // namespace

@@ -20,9 +20,13 @@ GtkWidget* DiscardButton = nullptr;
 DLG_EDITBOX PtrnFileClose_Edit[] = {{0, 0, 0, 80, 0, PtrnFileName, nullptr},
                                     {-1, 0, 0, 0, 0, nullptr, nullptr}};
 
-void PtrnFileClose_Entry(GtkEditable* /*entry*/, gpointer /*data*/) {
+void EnableActions() {
   gtk_widget_set_sensitive(SaveButton, PtrnFileName[0] != '\0');
   gtk_widget_set_sensitive(DiscardButton, PtrnFileName[0] != '\0');
+}
+
+void PtrnFileClose_Entry(GtkEditable* /*entry*/, gpointer /*data*/) {
+  EnableActions();
 }
 
 // The question is about the name in the entry; the caller writes under the layout's own.
@@ -73,6 +77,7 @@ gint PtrnFileClose(GtkWidget* parent) {
   KeepWidget(&DiscardButton,
              AddDialogButton(dialog, " 破棄 ", G_CALLBACK(PtrnFileClose_Delete), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileClose_CAN), dialog.Window);
+  EnableActions();
   RunModal(dialog.Window, parent);
   return PtrnFileClose_Result;
 }

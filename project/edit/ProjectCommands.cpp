@@ -3,6 +3,8 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "layout/Commands.h"
+#include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "project/edit/KeptResources.h"
@@ -14,19 +16,45 @@ enum SettingsResult {
   SettingsRegistered = 1,
 };
 
-// Shows the settings until they are registered or cancelled; restoring the defaults reopens them.
 // The title is that of a new project for a project that is edited, too.
-bool SettingsConfirmed() {
-  for (;;) {
-    switch (EditProjData(PtrnWnd, "プロジェクトの新規作成")) {
-      case SettingsCancelled:
-        return false;
-      case SettingsRegistered:
-        return true;
-      default:
-        break;
-    }
+constexpr const gchar* SettingsTitle = "プロジェクトの新規作成";
+
+// While the settings are shown, the main window and its menu stay usable.
+bool SettingsShown = false;
+
+// The settings work on the copies that every command here fills; a second command only brings them
+// to the front.
+bool SettingsAreOpen() {
+  if (SettingsShown) {
+    EditProjData(PtrnWnd, SettingsTitle);
   }
+  return SettingsShown;
+}
+
+// A layout may have been opened beside the settings. It belongs to the project as it was, and its
+// store is needed for the renewal of the layouts.
+bool LayoutReleased() {
+  if (PtrnFlag == 0) {
+    return true;
+  }
+  ClearToolBox();
+  if (SavePtrnData() != 1) {
+    return false;
+  }
+  PtrnDataExit();
+  return true;
+}
+
+// Shows the settings until they are registered or cancelled; restoring the defaults reopens them,
+// and so does a layout that is to stay open.
+bool SettingsConfirmed() {
+  SettingsShown = true;
+  gint result = EditProjData(PtrnWnd, SettingsTitle);
+  while (result != SettingsCancelled && !(result == SettingsRegistered && LayoutReleased())) {
+    result = EditProjData(PtrnWnd, SettingsTitle);
+  }
+  SettingsShown = false;
+  return result == SettingsRegistered;
 }
 
 void ClearResources() {
@@ -55,6 +83,9 @@ void ShowProject() {
 }  // namespace
 
 void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
+  if (SettingsAreOpen()) {
+    return;
+  }
   CopyText(EditName, ProfileReadAsc1("", "PROJDATA", "NAME"));
   CopyText(EditPath, ProfileReadAsc1("", "PROJDATA", "PTRN"));
   // The palette editor of the dialog writes into the project that is still open.
@@ -78,6 +109,9 @@ void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer d
 }
 
 void ProjDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
+  if (SettingsAreOpen()) {
+    return;
+  }
   if (ProjFileOpen(PtrnWnd) != 1) {
     return;
   }
@@ -91,6 +125,9 @@ void ProjDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 }
 
 void ProjDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
+  if (SettingsAreOpen()) {
+    return;
+  }
   EditData = ProjData;
   CopyText(EditName, FieldText(ProjName));
   CopyText(EditPath, FieldText(ProjPath));

@@ -2,7 +2,6 @@
 #include <string>
 
 #include "ProjData.h"
-#include "support/FileTools.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
 
@@ -49,13 +48,10 @@ void EnterInList(std::string& profile, const std::string& value) {
 }  // namespace
 
 void ProfileRenew(const gchar* path, const gchar* name) {
-  const std::string file = ProfilePath("");
-  std::optional<std::string> profile = LoadProfile(file);
-  if (!profile) {
-    return;  // there, but it cannot be read: left alone
-  }
   const std::string value = std::string(name) + "," + path;
-  EnterInList(*profile, value);
-  SetProfileValue(*profile, CurrentName, CurrentName, value);
-  ReplaceFile(file, *profile);
+  ChangeProfile(ProfilePath(""), [&value](std::string& profile) {
+    EnterInList(profile, value);
+    SetProfileValue(profile, CurrentName, CurrentName, value);
+    return true;
+  });
 }

@@ -215,15 +215,35 @@ TEST_F(Marks, AMotionWithoutAButtonDrawsNothing) {
   EXPECT_EQ(Edit(7, [](GtkWidget* view) { Move(view, 20, 20, 0); }), "");
 }
 
-TEST_F(Marks, ADragThatLeavesTheMarkBeginsAnewWhereItComesBack) {
+TEST_F(Marks, AFastDragOverTheEdgeDrawsUpToIt) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 12 * 8 + 4, 4);
+                   Move(view, 19 * 8 + 4, 4, Left);
+                 }),
+            "12,0 13,0 14,0 15,0");
+}
+
+TEST_F(Marks, ADragThatComesBackDrawsFromTheEdgeOn) {
   EXPECT_EQ(Edit(7,
                  [](GtkWidget* view) {
                    Press(view, 1, 4, 4);
-                   Move(view, 16 * 8, 4, Left);
-                   Move(view, -5, 50, Left);
-                   Move(view, 3 * 8 + 4, 9 * 8 + 4, Left);
+                   Move(view, -3 * 8 + 4, 4, Left);
+                   Move(view, -3 * 8 + 4, 9 * 8 + 4, Left);
+                   Move(view, 2 * 8 + 4, 9 * 8 + 4, Left);
                  }),
-            "0,0 3,9");
+            "0,0 0,9 1,9 2,9");
+}
+
+TEST_F(Marks, AButtonLetGoOutsideEndsTheLine) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 4, 4);
+                   Move(view, 4, -20, Left);
+                   Move(view, 4, 9 * 8 + 4, 0);
+                   Move(view, 5 * 8 + 4, 9 * 8 + 4, Left);
+                 }),
+            "0,0 5,9");
 }
 
 TEST_F(Marks, TheLastPixelOfTheLargestCanBeDrawn) {

@@ -72,7 +72,7 @@ TEST_F(ProjectCommandTest, ANewProjectBeginsWithTheDefaultsOfTheProfile) {
 }
 
 TEST_F(ProjectCommandTest, ARegisteredNewProjectIsWrittenAndOpen) {
-  PtrnFlag = 1;
+  ProjFlag = 0;
   RegisterNewProject();
   ProjDataNew(nullptr, nullptr);
   EXPECT_EQ(ProjFlag, 1);
@@ -256,6 +256,64 @@ TEST_F(ProjectCommandTest, CancelledSettingsKeepProjectAndPalette) {
   EXPECT_EQ(ProjData.Parm2[0], 12);
   EXPECT_EQ(ColrData[7].red, 1);
   EXPECT_FALSE(Folder.Exists("project/Plant.prj"));
+}
+
+// The settings leave the main window usable: what can come in between.
+
+TEST_F(ProjectCommandTest, ASecondCommandOnlyBringsTheSettingsToTheFront) {
+  for (const auto& command : {ProjDataNew, ProjDataEdit, ProjDataOpen}) {
+    Screen.Take();
+    Screen.ProjectOpen = [] {
+      CopyText(EditName, "Elsewhere");
+      return 1;
+    };
+    Screen.ProjectSettings = [&command] {
+      Screen.ProjectSettings = nullptr;
+      CopyText(EditName, "Entered");
+      EditData.Parm2[0] = 30;
+      ColrData[7] = {70, 80, 90};
+      command(nullptr, nullptr);
+      EXPECT_STREQ(EditName, "Entered");
+      EXPECT_EQ(EditData.Parm2[0], 30);
+      EXPECT_EQ(ColrData[7].red, 70);
+      return gint{Cancelled};
+    };
+    ProjDataEdit(nullptr, nullptr);
+    EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog, SettingsDialog));
+    EXPECT_STREQ(ProjName, "Plant");
+  }
+}
+
+TEST_F(ProjectCommandTest, ALayoutOpenedMeanwhileIsSavedBeforeTheProjectChanges) {
+  Screen.ProjectSettings = [] {
+    PtrnFlag = 2;
+    CopyText(PtrnName, "Meanwhile");
+    PtrnHedr = {};
+    CopyText(PtrnHedr.PtrnName1, "Meanwhile");
+    EditData.Parm2[0] = 30;
+    return gint{Registered};
+  };
+  Screen.MessageAnswers = {1};
+  Screen.CloseAnswers = {1};
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(PtrnFlag, 0);
+  EXPECT_EQ(HeaderOf("project/Meanwhile.ptn").Parm1[HedrSlot::TitleHeight], 30);
+}
+
+TEST_F(ProjectCommandTest, ALayoutThatIsToStayOpenReopensTheSettings) {
+  Screen.ProjectSettings = [] {
+    Screen.ProjectSettings = nullptr;  // then cancelled
+    PtrnFlag = 2;
+    CopyText(PtrnName, "Meanwhile");
+    EditData.Parm2[0] = 30;
+    return gint{Registered};
+  };
+  Screen.MessageAnswers = {0};
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(PtrnFlag, 2);
+  EXPECT_EQ(ProjData.Parm2[0], 0);
+  EXPECT_EQ(Screen.Count(SettingsDialog), 2);
+  PtrnFlag = 0;
 }
 
 TEST_F(ProjectCommandTest, APaletteSavedByItsEditorOutlivesCancelledSettings) {

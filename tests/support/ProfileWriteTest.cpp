@@ -233,4 +233,23 @@ TEST_F(ProfileWrite, AHugeForeignFileIsNeitherSearchedNorOverwritten) {
   EXPECT_EQ(std::uintmax_t{1} << 30, std::filesystem::file_size(path));
 }
 
+TEST_F(ProfileWrite, TwoProgramsKeepEachOthersKeys) {
+  constexpr gint Keys = 60;
+  const gchar* profile = With("[S]\n");
+  const pid_t other = fork();
+  if (other == 0) {
+    for (gint no = 0; no < Keys; ++no) ProfileWriteInt2(profile, "S", "THEIRS", no, no + 1);
+    _exit(0);
+  }
+  ASSERT_GT(other, 0);
+  for (gint no = 0; no < Keys; ++no) ProfileWriteInt2(profile, "S", "OURS", no, no + 1);
+  int status = 0;
+  ASSERT_EQ(other, waitpid(other, &status, 0));
+  EXPECT_EQ(0, status);
+  for (gint no = 0; no < Keys; ++no) {
+    EXPECT_EQ(no + 1, ProfileReadInt2(profile, "S", "OURS", no));
+    EXPECT_EQ(no + 1, ProfileReadInt2(profile, "S", "THEIRS", no));
+  }
+}
+
 }  // namespace
