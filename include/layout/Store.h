@@ -22,6 +22,12 @@ gint GetPtrnCount();
 gint GetPtrnData(gint no, PTRNDATA* out);
 gint SetPtrnData(gint no, const PTRNDATA* in);
 void AddPtrnData(const PTRNDATA* in);
+// Appends `count` empty items; the first of them, the others follow it. Gone with the next change.
+PTRNDATA* AddEmptyPtrnData(gint count);
+// Removes the last `count` items.
+void DropLastPtrnData(gint count);
+// Makes room for `count` more items, so that adding them does not move the others.
+void MakeRoomForPtrnData(gint count);
 // Removes an item, the later ones move down.
 void DelPtrnData(gint no);
 // Removes every item that `chosen` tells, at the cost of one; the number removed.

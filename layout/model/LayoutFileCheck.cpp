@@ -13,11 +13,7 @@ LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name) {
   }
   LayoutInput input(file);
   PTRNHEDR header;
-  if (!input.IsOpen() || !input.Read(&header, sizeof header) || header.DataCount < 0 ||
-      header.TextSize < 0) {
-    return LayoutFileState::Broken;
-  }
-  const gint64 wanted = static_cast<gint64>(sizeof(PTRNHEDR)) +
-                        static_cast<gint64>(sizeof(PTRNFILE)) * header.DataCount + header.TextSize;
-  return input.Size() < wanted ? LayoutFileState::Broken : LayoutFileState::Whole;
+  const bool whole =
+      input.IsOpen() && input.ReadHeader(header) && header.DataCount >= 0 && input.HoldsTexts();
+  return whole ? LayoutFileState::Whole : LayoutFileState::Broken;
 }

@@ -1,19 +1,20 @@
+#include <algorithm>
 #include <cstring>
 #include <new>
-#include <vector>
 
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "layout/model/LayoutInput.h"
 #include "support/FileTools.h"
-#include "support/Text.h"
 
 namespace {
 
-constexpr std::size_t TextLimit = 100;
-constexpr std::size_t NameLimit = 80;
-constexpr std::size_t CodeLimit = 20;
+// Items that are made at once: few enough to stay in the processor's cache while they are filled.
+constexpr gint BatchSize = 32;
+// Records are no more than claims before their types are seen: room for more items than these is
+// made as they come.
+constexpr gint MostRoom = 1 << 17;
 
 template <std::size_t Size>
 void Terminate(gchar (&field)[Size]) {
@@ -21,22 +22,19 @@ void Terminate(gchar (&field)[Size]) {
 }
 
 bool ReadHeader(LayoutInput& input, PTRNHEDR& header) {
-  PTRNHEDR read;
-  if (!input.Read(&read, sizeof read)) {
+  if (!input.ReadHeader(header)) {
     return false;
   }
-  Terminate(read.PtrnName1);
-  Terminate(read.PtrnName2);
-  Terminate(read.PtrnName3);
-  Terminate(read.LogoName);
-  Terminate(read.BmapName);
-  read.Parm2[ViewSlot::GridShown] = 0;
-  header = read;
+  Terminate(header.PtrnName1);
+  Terminate(header.PtrnName2);
+  Terminate(header.PtrnName3);
+  Terminate(header.LogoName);
+  Terminate(header.BmapName);
+  header.Parm2[ViewSlot::GridShown] = 0;
   return true;
 }
 
-PTRNDATA ItemFromRecord(const PTRNFILE& record) {
-  PTRNDATA item{};
+void FillFromRecord(PTRNDATA& item, const PTRNFILE& record) {
   item.Type = record.Type;
   std::memcpy(item.Parm, record.Parm, sizeof item.Parm);
   item.ID_Type = record.ID_Type;
@@ -44,60 +42,45 @@ PTRNDATA ItemFromRecord(const PTRNFILE& record) {
   item.UndfFlag = record.UndfFlag;
   item.Point1 = {record.Parm[ItemSlot::X1], record.Parm[ItemSlot::Y1]};
   item.Point2 = {record.Parm[ItemSlot::X2], record.Parm[ItemSlot::Y2]};
-  return item;
 }
 
-// Appends the items; `kept` tells for each record whether its type is one the store may hold.
-bool ReadRecords(LayoutInput& input, gint count, std::vector<bool>& kept) {
-  for (gint i = 0; i < count; ++i) {
-    PTRNFILE record;
-    if (!input.Read(&record, sizeof record)) {
-      return false;
-    }
-    kept.push_back(IsItemType(record.Type));
-    if (kept.back()) {
-      const PTRNDATA item = ItemFromRecord(record);
-      AddPtrnData(&item);
-    }
+// Appends the items of the next `count` records whose type the store may hold. The texts of the
+// others are passed over.
+bool ReadBatch(LayoutInput& input, gint count) {
+  PTRNDATA dropped;
+  PTRNFILE record;
+  PTRNDATA* next = AddEmptyPtrnData(count);
+  gint unused = count;
+  bool whole = true;
+  for (gint i = 0; i < count && (whole = input.NextRecord(record)); ++i) {
+    const bool kept = IsItemType(record.Type);
+    PTRNDATA& item = kept ? *next : dropped;
+    FillFromRecord(item, record);
+    input.NextTexts(item);
+    next += kept;
+    unused -= kept;
   }
-  return true;
+  DropLastPtrnData(unused);
+  return whole;
 }
 
-template <std::size_t Size>
-void ReadText(LayoutInput& input, gchar (&field)[Size], std::size_t limit) {
-  CopyText(field, input.NextText(limit));
-}
-
-void ReadTexts(LayoutInput& input, PTRNDATA& item) {
-  ReadText(input, item.Text1, TextLimit);
-  ReadText(input, item.Text2, TextLimit);
-  ReadText(input, item.Text3, TextLimit);
-  ReadText(input, item.ID_Name, NameLimit);
-  ReadText(input, item.ID_Code, CodeLimit);
+bool ReadItems(LayoutInput& input) {
+  gint left = input.RecordsHeld();
+  MakeRoomForPtrnData(std::min(left, MostRoom));
+  bool whole = true;
+  while (whole && left > 0) {
+    const gint count = std::min(left, BatchSize);
+    whole = ReadBatch(input, count);
+    left -= count;
+  }
+  return whole;
 }
 
 gint ReadLayout(LayoutInput& input) {
   if (!input.IsOpen() || !ReadHeader(input, PtrnHedr)) {
     return 0;
   }
-  gint no = GetPtrnCount();
-  std::vector<bool> kept;
-  if (!ReadRecords(input, PtrnHedr.DataCount, kept) || PtrnHedr.TextSize == 0 ||
-      !input.BeginTexts(PtrnHedr.TextSize)) {
-    return 0;
-  }
-  PTRNDATA dropped;
-  for (const bool keep : kept) {
-    if (!keep) {
-      ReadTexts(input, dropped);
-      continue;
-    }
-    PTRNDATA item;
-    GetPtrnData(no, &item);
-    ReadTexts(input, item);
-    SetPtrnData(no++, &item);
-  }
-  return 1;
+  return ReadItems(input) && PtrnHedr.TextSize != 0 && input.HoldsTexts() ? 1 : 0;
 }
 
 }  // namespace

@@ -1,60 +1,79 @@
 #include <array>
 #include <cstring>
 #include <new>
-#include <string>
 #include <vector>
 
 #include "Constant.h"
 #include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/Store.h"
+#include "support/BareMemory.h"
 #include "support/FileTools.h"
 
 namespace {
+
+using FileBytes = std::vector<char, BareMemory<char>>;
 
 std::array<std::string_view, 5> TextsOf(const PTRNDATA& item) {
   return {FieldText(item.Text1), FieldText(item.Text2), FieldText(item.Text3),
           FieldText(item.ID_Name), FieldText(item.ID_Code)};
 }
 
-// The store's items in the order of the file: by type in painting order, then by place. Items of no
-// known type are left out.
-std::vector<const PTRNDATA*> ItemsInFileOrder() {
-  std::array<std::vector<const PTRNDATA*>, 16> byType;
-  const gint count = GetPtrnCount();
-  for (gint no = 0; no < count; ++no) {
-    const PTRNDATA* item = ViewPtrnData(no);
-    if (IsItemType(item->Type)) {
-      byType[static_cast<std::size_t>(item->Type)].push_back(item);
-    }
-  }
-  std::vector<const PTRNDATA*> ordered;
-  ordered.reserve(static_cast<std::size_t>(count));
-  for (const gint type : PtrnTable) {
-    const auto& items = byType[static_cast<std::size_t>(type)];
-    ordered.insert(ordered.end(), items.begin(), items.end());
-  }
-  return ordered;
-}
+// The items of one type stand together in the file: their number, and where their next record and
+// its texts go.
+struct TypeGroup {
+  std::size_t count = 0;
+  std::size_t textSize = 0;
+  std::size_t nextRecord = 0;
+  std::size_t nextText = 0;
+};
 
-// Counts every item, those of no known type included: they are not written, the header counts them
-// all the same.
-void CountItems() {
+using TypeGroups = std::array<TypeGroup, std::size(PtrnTypeList)>;
+
+// Fills the header's counts and measures the groups. The header counts every item, those of no
+// known type included, which are not written.
+TypeGroups CountItems() {
+  TypeGroups groups;
+  std::size_t textSize = 0;
   PtrnHedr.Version = Version;
   PtrnHedr.DataCount = GetPtrnCount();
-  PtrnHedr.TextSize = 0;
   PtrnHedr.UndfFlag = 0;
   for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
-    const PTRNDATA* item = ViewPtrnData(no);
-    for (const std::string_view text : TextsOf(*item)) {
-      PtrnHedr.TextSize += static_cast<gint>(text.size()) + 1;
+    const PTRNDATA& item = *ViewPtrnData(no);
+    std::size_t size = 0;
+    for (const std::string_view text : TextsOf(item)) {
+      size += text.size() + 1;
     }
-    PtrnHedr.UndfFlag += item->UndfFlag != 0;
+    textSize += size;
+    PtrnHedr.UndfFlag += item.UndfFlag != 0;
+    if (IsItemType(item.Type)) {
+      TypeGroup& group = groups[static_cast<std::size_t>(item.Type)];
+      ++group.count;
+      group.textSize += size;
+    }
   }
+  PtrnHedr.TextSize = static_cast<gint>(textSize);
+  return groups;
+}
+
+// Gives the groups their places: in painting order, all records before all texts. The end of both.
+std::size_t PlaceGroups(TypeGroups& groups) {
+  std::size_t next = sizeof(PTRNHEDR);
+  for (const gint type : PtrnTable) {
+    TypeGroup& group = groups[static_cast<std::size_t>(type)];
+    group.nextRecord = next;
+    next += group.count * sizeof(PTRNFILE);
+  }
+  for (const gint type : PtrnTable) {
+    TypeGroup& group = groups[static_cast<std::size_t>(type)];
+    group.nextText = next;
+    next += group.textSize;
+  }
+  return next;
 }
 
 PTRNFILE RecordFromItem(const PTRNDATA& item) {
-  PTRNFILE record{};
+  PTRNFILE record;
   record.Type = item.Type;
   // Stored items are packed, so their numbers need not be aligned.
   std::memcpy(record.Parm, item.Parm, sizeof record.Parm);
@@ -64,27 +83,30 @@ PTRNFILE RecordFromItem(const PTRNDATA& item) {
   return record;
 }
 
-template <typename Record>
-void Append(std::string& bytes, const Record& record) {
-  bytes.append(reinterpret_cast<const char*>(&record), sizeof record);
+void PutItem(FileBytes& bytes, TypeGroup& group, const PTRNDATA& item) {
+  const PTRNFILE record = RecordFromItem(item);
+  std::memcpy(bytes.data() + group.nextRecord, &record, sizeof record);
+  group.nextRecord += sizeof record;
+  for (const std::string_view text : TextsOf(item)) {
+    std::memcpy(bytes.data() + group.nextText, text.data(), text.size());
+    group.nextText += text.size();
+    bytes[group.nextText++] = '\0';
+  }
 }
 
-std::string LayoutBytes() {
-  const std::vector<const PTRNDATA*> items = ItemsInFileOrder();
-  const std::size_t textStart = sizeof(PTRNHEDR) + items.size() * sizeof(PTRNFILE);
-  const std::size_t size = textStart + static_cast<std::size_t>(PtrnHedr.TextSize);
-  std::string bytes;
-  bytes.reserve(size);
-  Append(bytes, PtrnHedr);
-  for (const PTRNDATA* item : items) {
-    Append(bytes, RecordFromItem(*item));
-  }
-  for (const PTRNDATA* item : items) {
-    for (const std::string_view text : TextsOf(*item)) {
-      bytes.append(text).push_back('\0');
+FileBytes LayoutBytes() {
+  TypeGroups groups = CountItems();
+  const std::size_t end = PlaceGroups(groups);
+  const std::size_t recordsEnd = groups[static_cast<std::size_t>(PtrnTable[0])].nextText;
+  FileBytes bytes(recordsEnd + static_cast<std::size_t>(PtrnHedr.TextSize));
+  std::memcpy(bytes.data(), &PtrnHedr, sizeof PtrnHedr);
+  for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
+    const PTRNDATA& item = *ViewPtrnData(no);
+    if (IsItemType(item.Type)) {
+      PutItem(bytes, groups[static_cast<std::size_t>(item.Type)], item);
     }
   }
-  bytes.resize(size, '\0');
+  std::memset(bytes.data() + end, 0, bytes.size() - end);
   return bytes;
 }
 
@@ -92,8 +114,8 @@ std::string LayoutBytes() {
 
 bool WritePtrnFile(const gchar* path, const gchar* name) {
   try {
-    CountItems();
-    return ReplaceFile(JoinPath(path, name, "ptn"), LayoutBytes());
+    const FileBytes bytes = LayoutBytes();
+    return ReplaceFile(JoinPath(path, name, "ptn"), {bytes.data(), bytes.size()});
   } catch (const std::bad_alloc&) {
     return false;
   }

@@ -2,10 +2,66 @@
 
 #include <sys/stat.h>
 
-#include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <cstring>
 
 #include "support/Text.h"
+
+namespace {
+
+constexpr std::size_t TextLimit = 100;
+constexpr std::size_t NameLimit = 80;
+constexpr std::size_t CodeLimit = 20;
+// The most bytes that the texts of one item take, terminators included.
+constexpr std::size_t TextsLimit = 3 * (TextLimit + 1) + (NameLimit + 1) + (CodeLimit + 1);
+
+// Texts are short: looked through and copied a word at a time they take half the time that a search
+// and a copy take.
+using Word = std::uint64_t;
+static_assert(std::endian::native == std::endian::little);
+static_assert(TextsLimit + sizeof(Word) <= FilePieces::MostAhead);
+
+// Not 0 when the word has a zero byte; the lowest bit set is then the high bit of the first.
+constexpr Word ZeroByteBits(Word word) {
+  constexpr Word Ones = 0x0101010101010101;
+  return (word - Ones) & ~word & (Ones << 7);
+}
+
+// Copies the text at `from` into an empty field, its terminator not; the length of the text, more
+// than `limit` where no terminator stands up to there. Whole words are read.
+template <std::size_t Size>
+std::size_t CopyWords(gchar (&field)[Size], const char* from, std::size_t limit) {
+  std::size_t at = 0;
+  for (; at + sizeof(Word) <= Size; at += sizeof(Word)) {
+    Word word;
+    std::memcpy(&word, from + at, sizeof word);
+    const Word zeros = ZeroByteBits(word);
+    if (zeros != 0) {
+      word &= (zeros ^ (zeros - 1)) >> 8;  // the bytes before the terminator
+      std::memcpy(field + at, &word, sizeof word);
+      return at + static_cast<std::size_t>(std::countr_zero(zeros)) / 8;
+    }
+    std::memcpy(field + at, &word, sizeof word);
+  }
+  for (; at <= limit && from[at] != '\0'; ++at) {
+    field[at] = from[at];
+  }
+  return at;
+}
+
+// Copies the text at `from` into an empty field; where the next one begins.
+template <std::size_t Size>
+const char* TakeText(gchar (&field)[Size], const char* from, std::size_t limit) {
+  const std::size_t length = CopyWords(field, from, limit);
+  if (length <= limit) {
+    return from + length + 1;
+  }
+  CopyText(field, CutEuc({from, length}, limit));
+  return from + limit + 1;
+}
+
+}  // namespace
 
 LayoutInput::LayoutInput(const std::string& path) {
   FileHandle file = FileHandle::OpenToRead(path.c_str());
@@ -16,45 +72,36 @@ LayoutInput::LayoutInput(const std::string& path) {
   }
 }
 
-std::string_view LayoutInput::Ahead(std::size_t size) {
-  if (end_ - begin_ < size) {
-    std::memmove(piece_.data(), piece_.data() + begin_, end_ - begin_);
-    end_ -= begin_;
-    begin_ = 0;
-    const ssize_t come = file_.ReadAt(piece_.data() + end_, PieceSize - end_, loaded_);
-    if (come > 0) {
-      end_ += static_cast<std::size_t>(come);
-      loaded_ += come;
-    }
-  }
-  return {piece_.data() + begin_, std::min(size, end_ - begin_)};
-}
-
-bool LayoutInput::Read(void* buffer, std::size_t size) {
-  const std::string_view bytes = Ahead(size);
-  if (bytes.size() < size) {
+bool LayoutInput::ReadHeader(PTRNHEDR& header) {
+  PTRNHEDR read;
+  if (file_.ReadAt(&read, sizeof read, 0) != static_cast<ssize_t>(sizeof read)) {
     return false;
   }
-  std::memcpy(buffer, bytes.data(), size);
-  begin_ += size;
+  header = read;
+  constexpr gint64 start = sizeof(PTRNHEDR);
+  constexpr gint64 record = sizeof(PTRNFILE);
+  const gint64 count = std::max(read.DataCount, 0);
+  const gint64 held = std::clamp<gint64>((size_ - start) / record, 0, count);
+  const gint64 textStart = start + record * held;
+  recordsHeld_ = static_cast<gint>(held);
+  holdsTexts_ = held == count && read.TextSize >= 0 && read.TextSize <= size_ - textStart;
+  records_.Begin(file_, start, record * held);
+  texts_.Begin(file_, textStart, holdsTexts_ ? read.TextSize : 0);
   return true;
 }
 
-bool LayoutInput::BeginTexts(gint size) {
-  const gint64 position = loaded_ - static_cast<gint64>(end_ - begin_);
-  if (size < 0 || size > size_ - position) {
-    return false;
-  }
-  textLeft_ = size;
-  return true;
+bool LayoutInput::NextRecord(PTRNFILE& record) {
+  std::memcpy(&record, records_.Ahead(sizeof record), sizeof record);
+  return records_.Skip(sizeof record);
 }
 
-std::string_view LayoutInput::NextText(std::size_t limit) {
-  const auto most = static_cast<std::size_t>(std::min<gint64>(textLeft_, gint64(limit) + 1));
-  const std::string_view bytes = Ahead(most);
-  const std::size_t end = std::min(bytes.find('\0'), bytes.size());
-  const std::size_t taken = std::min(end + 1, bytes.size());
-  begin_ += taken;
-  textLeft_ -= static_cast<gint64>(taken);
-  return CutEuc(bytes.substr(0, end), limit);
+void LayoutInput::NextTexts(PTRNDATA& item) {
+  const char* const begin = texts_.Ahead(TextsLimit + sizeof(Word));
+  const char* from = begin;
+  from = TakeText(item.Text1, from, TextLimit);
+  from = TakeText(item.Text2, from, TextLimit);
+  from = TakeText(item.Text3, from, TextLimit);
+  from = TakeText(item.ID_Name, from, NameLimit);
+  from = TakeText(item.ID_Code, from, CodeLimit);
+  texts_.Skip(static_cast<std::size_t>(from - begin));
 }

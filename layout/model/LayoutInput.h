@@ -1,12 +1,12 @@
 // A layout file open for reading. Its counts are claims: nothing is believed before the bytes are
-// there, and nothing is held in memory beyond one piece of the file.
+// there, and nothing is held in memory beyond a piece of its records and one of its texts.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
-#include "Types.h"
+#include "layout/Records.h"
+#include "layout/model/FilePieces.h"
 #include "support/FileHandle.h"
 
 class LayoutInput {
@@ -15,27 +15,25 @@ class LayoutInput {
   explicit LayoutInput(const std::string& path);
 
   bool IsOpen() const { return static_cast<bool>(file_); }
-  gint64 Size() const { return size_; }
-  // Reads exactly `size` bytes, at most PieceSize; false when the file ends before.
-  bool Read(void* buffer, std::size_t size);
-  // Starts the text block: the next `size` bytes. False when the file holds less.
-  bool BeginTexts(gint size);
-  // The next text of the block, at most `limit` of its bytes. A longer text is cut there, and what
-  // is left of it past one more byte is taken for the next text. Past the end of the block texts
-  // are empty. Valid until the next reading.
-  std::string_view NextText(std::size_t limit);
-
-  static constexpr std::size_t PieceSize = 16384;
+  // The header, untouched, and goes to the first record and its texts. False when the file ends
+  // before; what follows here is not for such a file.
+  bool ReadHeader(PTRNHEDR& header);
+  // Number of whole records that the file holds, at most as many as the header counts.
+  gint RecordsHeld() const { return recordsHeld_; }
+  // Whether the file holds all that the header counts. Without, all texts are empty.
+  bool HoldsTexts() const { return holdsTexts_; }
+  // The next record; false past the last one, and where the file has become shorter meanwhile.
+  bool NextRecord(PTRNFILE& record);
+  // Fills an item's empty text fields with the next five texts. A text too long for its field is
+  // cut, and what is left of it past one more byte is taken for the next text. Past the end of the
+  // block texts are empty.
+  void NextTexts(PTRNDATA& item);
 
  private:
-  // Up to `size` bytes that lie ahead, fewer only at the end of the file.
-  std::string_view Ahead(std::size_t size);
-
   FileHandle file_;
   gint64 size_ = 0;
-  gint64 loaded_ = 0;    // bytes of the file that have come into the piece
-  gint64 textLeft_ = 0;  // bytes of the text block that lie ahead
-  std::array<char, PieceSize> piece_;
-  std::size_t begin_ = 0;
-  std::size_t end_ = 0;
+  gint recordsHeld_ = 0;
+  bool holdsTexts_ = false;
+  FilePieces records_;
+  FilePieces texts_;
 };

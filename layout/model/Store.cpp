@@ -1,12 +1,18 @@
 #include "layout/Store.h"
 
+#include <algorithm>
+#include <cstring>
 #include <vector>
+
+#include "support/BareMemory.h"
 
 namespace {
 
 constexpr std::size_t FirstCapacity = 100;
 
-std::vector<PTRNDATA> PtrnArray;
+using ItemArray = std::vector<PTRNDATA, BareMemory<PTRNDATA>>;
+
+ItemArray PtrnArray;
 
 bool IsStored(gint no) {
   return no >= 0 && static_cast<std::size_t>(no) < PtrnArray.size();
@@ -20,7 +26,7 @@ void IntPtrnData() {
 }
 
 void ExtPtrnData() {
-  std::vector<PTRNDATA>().swap(PtrnArray);
+  ItemArray().swap(PtrnArray);
 }
 
 gint GetPtrnCount() {
@@ -45,6 +51,22 @@ gint SetPtrnData(gint no, const PTRNDATA* in) {
 
 void AddPtrnData(const PTRNDATA* in) {
   PtrnArray.push_back(*in);
+}
+
+PTRNDATA* AddEmptyPtrnData(gint count) {
+  const std::size_t before = PtrnArray.size();
+  PtrnArray.resize(before + static_cast<std::size_t>(count));
+  PTRNDATA* first = PtrnArray.data() + before;
+  std::memset(first, 0, static_cast<std::size_t>(count) * sizeof *first);
+  return first;
+}
+
+void DropLastPtrnData(gint count) {
+  PtrnArray.resize(PtrnArray.size() - std::min(PtrnArray.size(), static_cast<std::size_t>(count)));
+}
+
+void MakeRoomForPtrnData(gint count) {
+  PtrnArray.reserve(PtrnArray.size() + static_cast<std::size_t>(count));
 }
 
 void DelPtrnData(gint no) {
