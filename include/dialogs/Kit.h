@@ -95,14 +95,3 @@ extern GtkWidget* Dlg_CheckButn_Parent;
 extern GtkWidget* Dlg_ComboBox_Parent;
 extern GtkWidget* Dlg_ColrData_Parent;
 extern GtkWidget* Dlg_MarkData_Parent;
-
-// The parent window of the latest call of each builder; pickers of swatches open over theirs.
-extern GtkWidget* Dlg_String_Parent;
-extern GtkWidget* Dlg_Numeric_Parent;
-extern GtkWidget* Dlg_EditBox_Parent;
-extern GtkWidget* Dlg_NumrBox_Parent;
-extern GtkWidget* Dlg_RadioButn_Parent;
-extern GtkWidget* Dlg_CheckButn_Parent;
-extern GtkWidget* Dlg_ComboBox_Parent;
-extern GtkWidget* Dlg_ColrData_Parent;
-extern GtkWidget* Dlg_MarkData_Parent;

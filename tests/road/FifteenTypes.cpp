@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <vector>
 
 #include "Constant.h"
@@ -278,6 +279,30 @@ TEST_F(FifteenTypes, CheckBox) {
       R"({"Type": 11, "Text1": "確認", "Text2": "", "Text3": "", "ID_Type": 2, "ID_Name": "",
           "ID_Code": "PUMP_A", "ID_No": 5, "UndfFlag": 0,
           "Parm": [168,121,0,0, 15,35,11,9, 0,0,0,0, 0,0,0,1, 4,0,0,0,0,0,0,0,0,0,0,0,
+                   0,10]})");
+}
+
+TEST_F(FifteenTypes, Bitmap) {
+  const std::string pictures = Folder.Path() + "/home/pictures";
+  std::filesystem::create_directories(pictures);
+  std::filesystem::copy_file(TEST_SOURCE_DIR "/data/artwork/bitmap/logo.png",
+                             pictures + "/valve.png");
+  g_setenv("HOME", (Folder.Path() + "/home").c_str(), TRUE);
+  Walk(
+      "ビットマップ", Box, ByMenuBar,
+      [](const Panel& panel) {
+        Click(panel.Control({"ビットマップ名", 4}, GTK_TYPE_BUTTON));
+        const Panel chooser("画像ファイル選択");
+        ClickRow(chooser.Window(), "pictures");
+        ClickRow(chooser.Window(), "valve.png");
+        chooser.Press(" 選択 ");
+        EXPECT_TRUE(SeeGone("画像ファイル選択"));
+        panel.PickColour({"透過色", 1}, 7);
+        panel.Tick("有効");
+      },
+      R"({"Type": 12, "Text1": "valve.png", "Text2": "", "Text3": "", "ID_Type": 2, "ID_Name": "",
+          "ID_Code": "PUMP_A", "ID_No": 5, "UndfFlag": 0,
+          "Parm": [72,60,204,140, 7,1,0,0, 0,0,0,0, 0,0,0,0, 0,0,0,0,0,0,0,0,0,0,0,0,
                    0,10]})");
 }
 

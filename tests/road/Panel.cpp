@@ -127,13 +127,7 @@ void Panel::Enter(const Cell& cell, gint number) const {
 }
 
 void Panel::Enter(const Cell& cell, const std::string& text) const {
-  GtkWidget* entry = Control(cell, GTK_TYPE_ENTRY);
-  ClickInto(entry);
-  Look([&] {
-    gtk_clipboard_set_text(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), text.c_str(), -1);
-  });
-  PressKey(GDK_KEY_v, {GDK_KEY_Control_L});
-  EXPECT_TRUE(See([&] { return text == gtk_entry_get_text(GTK_ENTRY(entry)); })) << text;
+  EnterText(Control(cell, GTK_TYPE_ENTRY), text);
 }
 
 void Panel::Choose(const Cell& cell, gint index) const {
@@ -174,6 +168,15 @@ void Panel::Press(const std::string& label) const {
              g_strcmp0(gtk_button_get_label(GTK_BUTTON(widget)), label.c_str()) == 0;
     });
   }));
+}
+
+void EnterText(GtkWidget* entry, const std::string& text) {
+  ClickInto(entry);
+  Look([&] {
+    gtk_clipboard_set_text(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), text.c_str(), -1);
+  });
+  PressKey(GDK_KEY_v, {GDK_KEY_Control_L});
+  EXPECT_TRUE(See([&] { return text == gtk_entry_get_text(GTK_ENTRY(entry)); })) << text;
 }
 
 void ClickRow(GtkWidget* window, const std::string& text) {

@@ -42,6 +42,9 @@ class Panel {
   GtkWidget* window_;
 };
 
+// Replaces what stands in an entry by a text from the clipboard.
+void EnterText(GtkWidget* entry, const std::string& text);
+
 // Clicks the row of a list or tree that shows this text.
 void ClickRow(GtkWidget* window, const std::string& text);
 

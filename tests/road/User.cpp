@@ -11,6 +11,9 @@
 
 namespace {
 constexpr auto Patience = std::chrono::seconds(10);
+// Once something went wrong, what follows from it is not waited for: a part of many steps would
+// take minutes to fail.
+constexpr auto PatienceAfterFailure = std::chrono::milliseconds(100);
 constexpr auto LookInterval = std::chrono::milliseconds(2);
 
 std::unique_ptr<Seat> Hands;
@@ -149,7 +152,10 @@ void Play(const std::function<void()>& part) {
 }
 
 bool See(const std::function<bool()>& condition) {
-  const auto deadline = std::chrono::steady_clock::now() + Patience;
+  using std::chrono::steady_clock;
+  const auto deadline = steady_clock::now() + (testing::Test::HasFailure()
+                                                   ? steady_clock::duration(PatienceAfterFailure)
+                                                   : steady_clock::duration(Patience));
   while (!Look(condition)) {
     if (std::chrono::steady_clock::now() > deadline) return false;
     std::this_thread::sleep_for(LookInterval);
