@@ -24,7 +24,7 @@ int RunBuild(const BuildOptions& options);
 // How a project is looked at.
 struct ViewOptions {
   std::string Project;
-  std::string Profile;          // "" = the one beside the executable
+  std::string Profile;          // "" = the designer's own
   std::optional<int> Language;  // none = the profile's
   int Colour = 0;
 };

@@ -20,7 +20,8 @@ std::string FindLayout(const std::string& name);
 // program's own is reached through a link in a folder of its own.
 class ProfileInUse {
  public:
-  // `file` "" takes the profile beside the executable; a missing one leaves all keys unset.
+  // `file` "" takes the profile beside the executable, else the one of the unpacked archive, the
+  // user's, the shipped one; a missing one leaves all keys unset.
   explicit ProfileInUse(const std::string& file);
   ~ProfileInUse();
   ProfileInUse(const ProfileInUse&) = delete;

@@ -15,6 +15,20 @@ std::string ExecutableFolder() {
   return path ? FolderName(path.get()) : ".";
 }
 
+bool HoldsProfile(const std::string& folder) {
+  return access((folder + "/" + std::string(ProfileName)).c_str(), R_OK) == 0;
+}
+
+// The tool stands in a program folder, or where a package or an unpacked archive put it.
+std::string DesignerFolder() {
+  const std::string own = ExecutableFolder();
+  for (const std::string& folder :
+       {own, own + "/../program", std::string(g_get_user_data_dir()) + "/VarnixMaster",
+        own + "/../share/VarnixMaster"})
+    if (HoldsProfile(folder)) return folder;
+  return own;
+}
+
 bool FitsPathName(const std::string& folder) {
   return folder.size() + 1 + ProfileName.size() < sizeof(PathName);
 }
@@ -22,7 +36,7 @@ bool FitsPathName(const std::string& folder) {
 }  // namespace
 
 ProfileInUse::ProfileInUse(const std::string& file) {
-  std::string folder = ExecutableFolder();
+  std::string folder = DesignerFolder();
   good_ = true;
   if (!file.empty()) {
     good_ = access(file.c_str(), R_OK) == 0 || Refuse(file, "cannot be read");

@@ -26,8 +26,7 @@ std::string CheckTime(const std::string& text) {
 
 void AddView(CLI::App& command, ViewOptions& view) {
   command.add_option("PROJECT", view.Project, "Project file (*.prj)")->required();
-  command.add_option("--profile", view.Profile,
-                     "Designer profile instead of the one beside the tool");
+  command.add_option("--profile", view.Profile, "Designer profile instead of the designer's own");
   command
       .add_option("--language", view.Language, "Language shown, 0 to 2 (default: the profile's)")
       ->check(CLI::Range(0, 2));
@@ -83,7 +82,7 @@ void AddGenerate(CLI::App& app, Options& options, int& result) {
   command->add_option("--program-dir", options.Generate.ProgramFolder,
                       "Folder for the sources instead of the project's own");
   command->add_option("--profile", options.Generate.Profile,
-                      "Designer profile instead of the one beside the tool");
+                      "Designer profile instead of the designer's own");
   command->callback([&] { result = RunGenerate(options.Generate); });
 }
 
@@ -108,7 +107,7 @@ void AddCheck(CLI::App& app, Options& options, int& result) {
   command->add_option("PROJECT", options.Check.Project, "Project file (*.prj)")->required();
   command->add_flag("--json", options.Check.Json, "Print the findings as JSON");
   command->add_option("--profile", options.Check.Profile,
-                      "Designer profile instead of the one beside the tool");
+                      "Designer profile instead of the designer's own");
   command->callback([&] { result = RunCheck(options.Check); });
 }
 

@@ -1,4 +1,4 @@
-// Filling the program folder by the build's script.
+// Filling the program folder by the build's scripts.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@ using testing::Not;
 class ProgramFolder : public testing::Test {
  protected:
   std::string Command() const {
-    return TEST_SOURCE_DIR "/data/build-program-folder.sh '" + folder_.Path("program") +
-           "' '" TOOL_PATH "' '" + folder_.Path("state") + "'";
+    return TEST_SOURCE_DIR "/data/fill-program-folder.sh --renew '" + folder_.Path("program") +
+           "' '" + TEST_BUILD_DIR "/shipped' '" + folder_.Path("state") + "'";
   }
   void Fill() const { ASSERT_EQ(std::system(Command().c_str()), 0); }
 
@@ -62,13 +62,13 @@ TEST_F(ProgramFolder, ReplacesWhatHasANewSourceAndDropsWhatHasNoneAnyMore) {
   Fill();
   // As if the last build had shipped another picture, and a layout that is gone from the sources.
   folder_.Write("state/shipped/Orvalis.bmp", "old");
-  folder_.Write("program/Orvalis.bmp", "old");
+  folder_.Write("program/Orvalis.bmp", "changed");
   folder_.Write("state/shipped/Sample/gone.ptn", "gone");
   folder_.Write("program/Sample/gone.ptn", "gone");
   folder_.Write("state/shipped/Sample/edited.ptn", "gone");
   folder_.Write("program/Sample/edited.ptn", "edited since");
   Fill();
-  EXPECT_THAT(folder_.Read("program/Orvalis.bmp"), Not(testing::Eq("old")));
+  EXPECT_THAT(folder_.Read("program/Orvalis.bmp"), Not(testing::Eq("changed")));
   EXPECT_FALSE(folder_.Exists("program/Sample/gone.ptn"));
   EXPECT_TRUE(folder_.Exists("program/Sample/edited.ptn"));
 }
