@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr gint64 MaxPictureBytes = gint64{256} << 20;
+// 33 million pixels. More is no picture for a screen, and a small file can claim and hold it.
+constexpr gint64 MaxPictureBytes = gint64{128} << 20;
 constexpr gint64 MaxKeptBytes = gint64{256} << 20;
 constexpr std::size_t MaxKeptFiles = 64;
 

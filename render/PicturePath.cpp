@@ -26,6 +26,7 @@ std::string PicturePathInside(const std::string& folder, const std::string& name
   if (inside.back() != '/') {
     inside += '/';
   }
-  const std::string path = JoinPath(folder, name, "");
-  return RealPath(path).compare(0, inside.size(), inside) == 0 ? path : "";
+  // Without links, so that what is opened is what was looked at.
+  const std::string path = RealPath(JoinPath(folder, name, ""));
+  return path.starts_with(inside) ? path : "";
 }

@@ -1,11 +1,11 @@
 // Files that claim what they do not hold: nothing crashes, and nothing is believed past the file's
 // own end.
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
 
+#include "tests/common/PeakMemory.h"
 #include "tests/layout/LayoutFixture.h"
 
 namespace {
@@ -129,13 +129,6 @@ TEST_F(LayoutFileHostileTest, FoldersAndPipesAreNotLayouts) {
   std::filesystem::remove(folder_.Path("Main.ptn"));
   ASSERT_EQ(mkfifo(folder_.Path("Main.ptn").c_str(), 0600), 0);
   EXPECT_EQ(Read(), 0) << "must not wait for a writer";
-}
-
-// The most memory that the process has had so far, in KiB.
-long PeakMemory() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
 }
 
 TEST_F(LayoutFileHostileTest, AHugeHollowFileTakesNoMemory) {

@@ -93,7 +93,7 @@ TEST(CheckCodeTest, RegistryMustHoldCodeAndSlots) {
 }
 
 TEST(CheckSourceTest, NamesMustNotBreakSources) {
-  for (const char* name : {"A\"B", "A\nB", "A\\B", "A\rB"}) {
+  for (const char* name : {"A\"B", "A\nB", "A\\B", "A\rB", "A?\?/", "A/*", "A//B"}) {
     CheckedProject project = PlainProject();
     project.Layouts.push_back(project.Layouts[0]);
     project.Layouts[1].Name = name;
@@ -107,6 +107,17 @@ TEST(CheckSourceTest, NamesMustNotBreakSources) {
   project.Layouts.push_back(project.Layouts[0]);
   project.Layouts[1].Name = "\xB7\xD7\xC2\xAC 'A' <1>";  // Japanese and harmless marks
   EXPECT_THAT(Found(project), IsEmpty());
+}
+
+TEST(CheckSourceTest, ScreensOfTheProjectMustNotBreakTheRuntimeProfile) {
+  CheckedProject project = PlainProject();
+  std::strcpy(project.Settings.PtrnStart, "Main\n[LOG]");
+  std::strcpy(project.Settings.PtrnStop, "Main\r");
+  std::vector<std::string> fields;
+  for (const Finding& finding : RunCheckRule(SourceNameRule(), project)) {
+    fields.push_back(finding.Field);
+  }
+  EXPECT_THAT(fields, ElementsAre("PtrnStart", "PtrnStop"));
 }
 
 TEST(CheckSourceTest, MessagesStayOnOneLine) {

@@ -74,11 +74,4 @@ TEST_F(BitmapFolder, LinksWithinItAndToItAreFollowed) {
   EXPECT_TRUE(DrawsFrom(root_.Path("Other"), "inside.bmp"));
 }
 
-TEST_F(BitmapFolder, AHeaderThatClaimsAbsurdSizesDrawsNothing) {
-  root_.Write("Bitmaps/wide.bmp", BlackBitmap(0x7fffffff, 1));
-  root_.Write("Bitmaps/large.bmp", BlackBitmap(30000, 30000));
-  EXPECT_FALSE(Draws("wide.bmp"));
-  EXPECT_FALSE(Draws("large.bmp"));
-}
-
 }  // namespace

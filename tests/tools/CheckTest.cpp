@@ -132,8 +132,8 @@ TEST(Check, NamesThatBreakSourcesStopGeneration) {
   project.Layout("[]", "A\nB.ptn");
   ASSERT_EQ(mkdir(project.Folder().Path("program").c_str(), 0700), 0);
   const std::string reason =
-      "A?B: PtrnName: \"A\\x0AB\" holds a quote, a backslash or a line break, which breaks the "
-      "generated sources [name-breaks-source]\n";
+      "A?B: PtrnName: \"A\\x0AB\" holds a quote, a backslash, a comment or a line break, which "
+      "breaks the generated sources [name-breaks-source]\n";
   EXPECT_EQ(project.Check().Out, reason);
   const ToolRun run = RunTool({"generate", project.Folder().Path("Plant.prj"), "--program-dir",
                                project.Folder().Path("program")});
