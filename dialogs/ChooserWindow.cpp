@@ -1,5 +1,7 @@
 #include "dialogs/ChooserWindow.h"
 
+#include "dialogs/Accessible.h"
+
 DialogWindow NewChooserWindow(const gchar* title, GCallback choose, GCallback cancel,
                               GtkWidget** chooseButton) {
   const DialogWindow dialog = NewDialogWindow(title);
@@ -15,6 +17,9 @@ DialogWindow NewChooserWindow(const gchar* title, GCallback choose, GCallback ca
 GtkWidget* NewScrolled(GtkWidget* child, GtkPolicyType horizontal) {
   GtkWidget* scrolled = gtk_scrolled_window_new(nullptr, nullptr);
   gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scrolled), horizontal, GTK_POLICY_AUTOMATIC);
+  // The keyboard goes to what is in it.
+  gtk_widget_set_can_focus(scrolled, FALSE);
+  NameScrollBars(scrolled);
   gtk_scrolled_window_set_shadow_type(GTK_SCROLLED_WINDOW(scrolled), GTK_SHADOW_IN);
   gtk_container_add(GTK_CONTAINER(scrolled), child);
   gtk_widget_show(scrolled);

@@ -1,4 +1,5 @@
 // The dialog that asks how often and how far to copy, or how far to move.
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/ControlTables.h"
 #include "dialogs/DialogWindow.h"
@@ -70,6 +71,7 @@ gint Dlg_Copy_Move(GtkWidget* parent, gint mode, const gchar* title, DLGPARM* pa
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
   Dlg_String(dialog.Window, table, copy ? Dlg_Copy_String : Dlg_Move_String);
   Dlg_NumrBox(dialog.Window, table, copy ? Dlg_Copy_Numr : Dlg_Move_Numr);
+  NameControls(table);
   SetDefaultButton(AddDialogButton(dialog, copy ? " 複写 " : " 移動 ", G_CALLBACK(Dlg_CopyMove_OK),
                                    dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(Dlg_CopyMove_CAN), dialog.Window);

@@ -104,7 +104,7 @@ gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type) {
   const DialogWindow dialog =
       NewChooserWindow(title, G_CALLBACK(FileSelect_OK), G_CALLBACK(FileSelect_CAN), &button);
   KeepWidget(&FileSelect_Button, button);
-  KeepWidget(&FileList, NewNameList());
+  KeepWidget(&FileList, NewNameList("ファイル"));
   OnNameSelected(FileList, G_CALLBACK(FileSelect_File), dialog.Window);
   g_signal_connect(FileList, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
 

@@ -1,6 +1,7 @@
 // Choosing a folder; one that does not exist is made on request.
 #include <string>
 
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
@@ -81,6 +82,7 @@ gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
 
   gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
   GtkWidget* entry = gtk_entry_new();
+  SetAccessibleName(entry, Title);
   gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
   gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(home).c_str());
   gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);

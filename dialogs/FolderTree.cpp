@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "dialogs/Accessible.h"
 #include "support/FileTools.h"
 #include "support/Text.h"
 
@@ -181,9 +182,11 @@ GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
   g_object_unref(store);
   g_object_set_data_full(G_OBJECT(view), "varnix-folder-tree", state,
                          [](gpointer data) { delete static_cast<TreeState*>(data); });
+  constexpr const gchar* Name = "フォルダー";
+  SetAccessibleName(view, Name);
   gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(view), FALSE);
   gtk_tree_view_insert_column_with_attributes(
-      GTK_TREE_VIEW(view), -1, nullptr, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
+      GTK_TREE_VIEW(view), -1, Name, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
   GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(view));
   gtk_tree_selection_set_select_function(selection, BelowRoot, nullptr, nullptr);
   g_signal_connect(view, "test-expand-row", G_CALLBACK(FillBeforeUnfolding), state);

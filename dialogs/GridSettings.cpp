@@ -1,5 +1,6 @@
 // The grid settings dialog of the open layout.
 #include "Constant.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/ControlTables.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
@@ -55,6 +56,7 @@ void PtrnGridSet(GtkWidget* /*parent*/, gpointer /*data*/) {
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
   BuildControls(dialog.Window, table,
                 {.String = PtrnGrid_String, .Combo = PtrnGrid_Combo, .Colr = PtrnGrid_Colr});
+  NameControls(table);
   SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(PtrnGridSet_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnGridSet_CAN), dialog.Window);
   RunModal(dialog.Window, PtrnWnd);

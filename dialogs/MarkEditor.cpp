@@ -3,7 +3,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <optional>
+#include <string>
 
+#include "dialogs/Accessible.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
 
@@ -21,6 +23,7 @@ struct MarkEdit {
   MARKDATA Data;
   gint Result;
   std::optional<POINT> Last;  // mark pixel under the latest press or drag while a button is held
+  POINT Cursor;               // mark pixel that the keyboard draws
 };
 
 gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
@@ -35,6 +38,15 @@ void PaintGridLine(cairo_t* cairo, gint index, double x1, double y1, double x2, 
   cairo_set_line_cap(cairo, solid ? CAIRO_LINE_CAP_SQUARE : CAIRO_LINE_CAP_BUTT);
   cairo_move_to(cairo, x1 + 0.5, y1 + 0.5);
   cairo_line_to(cairo, x2 + 0.5, y2 + 0.5);
+  cairo_stroke(cairo);
+}
+
+// Around its pixel, in a colour that is neither of the mark's.
+void PaintCursor(cairo_t* cairo, const MarkEdit* edit) {
+  cairo_set_dash(cairo, nullptr, 0, 0);
+  cairo_set_source_rgb(cairo, 0.9, 0.1, 0.1);
+  cairo_set_line_width(cairo, 2);
+  cairo_rectangle(cairo, edit->Cursor.x * Cell, edit->Cursor.y * Cell, Cell, Cell);
   cairo_stroke(cairo);
 }
 
@@ -53,6 +65,7 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
       cairo_rectangle(cairo, Cell * x + 1, Cell * y + 1, 6, 6);
       cairo_fill(cairo);
     }
+  if (gtk_widget_has_visible_focus(edit->Enlarged)) PaintCursor(cairo, edit);
   return TRUE;
 }
 
@@ -60,6 +73,14 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
 gint PixelAt(double place) {
   constexpr double Far = 10000;  // further than any screen
   return static_cast<gint>(std::floor(std::clamp(place, -Far, Far) / Cell));
+}
+
+void TellCursor(const MarkEdit* edit) {
+  const POINT& at = edit->Cursor;
+  const bool set = MarkDataGet(edit->Number, &edit->Data, at.x, at.y) != 0;
+  SetAccessibleName(edit->Enlarged, "マーク " + std::to_string(edit->Number) + " の拡大図 " +
+                                        std::to_string(at.x) + " / " + std::to_string(at.y) +
+                                        (set ? " 黒" : " 白"));
 }
 
 void SetPixel(MarkEdit* edit, gint x, gint y, gint data) {
@@ -108,6 +129,42 @@ gboolean MakeMarkData_Motion(GtkWidget* /*view*/, const GdkEventMotion* event, M
   return TRUE;
 }
 
+// Where a key moves the cursor to; nothing when it is no such key.
+std::optional<POINT> Moved(const MarkEdit* edit, guint key) {
+  const POINT at = edit->Cursor;
+  const SIZE size = edit->Size;
+  switch (key) {
+    case GDK_KEY_Left:
+    case GDK_KEY_KP_Left:
+      return POINT{std::max(at.x - 1, 0), at.y};
+    case GDK_KEY_Right:
+    case GDK_KEY_KP_Right:
+      return POINT{std::min(at.x + 1, size.cx - 1), at.y};
+    case GDK_KEY_Up:
+    case GDK_KEY_KP_Up:
+      return POINT{at.x, std::max(at.y - 1, 0)};
+    case GDK_KEY_Down:
+    case GDK_KEY_KP_Down:
+      return POINT{at.x, std::min(at.y + 1, size.cy - 1)};
+    default:
+      return std::nullopt;
+  }
+}
+
+// The arrow keys move from pixel to pixel, Space turns one over.
+gboolean MakeMarkData_Key(GtkWidget* view, const GdkEventKey* event, MarkEdit* edit) {
+  const POINT at = edit->Cursor;
+  if (const std::optional<POINT> to = Moved(edit, event->keyval))
+    edit->Cursor = *to;
+  else if (event->keyval == GDK_KEY_space || event->keyval == GDK_KEY_KP_Space)
+    SetPixel(edit, at.x, at.y, 1 - MarkDataGet(edit->Number, &edit->Data, at.x, at.y));
+  else
+    return FALSE;
+  TellCursor(edit);
+  gtk_widget_queue_draw(view);
+  return TRUE;
+}
+
 void MakeMarkData_OK(GtkWidget* /*button*/, MarkEdit* edit) {
   edit->Result = 1;
   gtk_widget_destroy(edit->Dialog);
@@ -148,6 +205,9 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
                                             GDK_POINTER_MOTION_HINT_MASK);
   g_signal_connect(edit->Enlarged, "button-press-event", G_CALLBACK(MakeMarkData_Button), edit);
   g_signal_connect(edit->Enlarged, "motion-notify-event", G_CALLBACK(MakeMarkData_Motion), edit);
+  g_signal_connect(edit->Enlarged, "key-press-event", G_CALLBACK(MakeMarkData_Key), edit);
+  gtk_widget_set_can_focus(edit->Enlarged, TRUE);
+  TellCursor(edit);
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
   gtk_container_set_border_width(GTK_CONTAINER(box), 10);
   gtk_box_pack_start(GTK_BOX(box), edit->ActualSize, FALSE, FALSE, 0);
@@ -160,9 +220,16 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
 
 gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox) {
   const DialogWindow window = NewDialogWindow("マーク作成");
-  MarkEdit edit = {
-      window.Window,        nullptr, nullptr,     markbox, markno, MarkDataSize[markno / 50],
-      markbox[markno].mark, 0,       std::nullopt};
+  MarkEdit edit = {.Dialog = window.Window,
+                   .ActualSize = nullptr,
+                   .Enlarged = nullptr,
+                   .Marks = markbox,
+                   .Number = markno,
+                   .Size = MarkDataSize[markno / 50],
+                   .Data = markbox[markno].mark,
+                   .Result = 0,
+                   .Last = std::nullopt,
+                   .Cursor = {0, 0}};
   gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   AddViews(window.Content, &edit);

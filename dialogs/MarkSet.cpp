@@ -1,37 +1,40 @@
 #include "dialogs/MarkSet.h"
 
+#include <memory>
+
 #include "dialogs/ChooserWindow.h"
+#include "dialogs/SwatchArea.h"
+#include "dialogs/SwatchGrid.h"
 
 namespace {
 
 constexpr gint Columns = 10;
-constexpr const gchar* NumberKey = "varnix-mark";
+// What a swatch of the set shows and does.
+struct MarkSwatch {
+  const MARKBOX* Marks;
+  gint Number;
+  MarkPress Press;
+};
 
-gint SwatchNumber(GtkWidget* swatch) {
-  return GPOINTER_TO_INT(g_object_get_data(G_OBJECT(swatch), NumberKey));
+void PaintSwatch(GtkWidget* area, cairo_t* cairo, gpointer data) {
+  const auto* swatch = static_cast<const MarkSwatch*>(data);
+  DrawMarkData(area, cairo, swatch->Number, swatch->Marks[swatch->Number].mark);
 }
 
-gboolean PaintSwatch(GtkWidget* swatch, cairo_t* cairo, const MARKBOX* marks) {
-  const gint number = SwatchNumber(swatch);
-  DrawMarkData(swatch, cairo, number, marks[number].mark);
-  return TRUE;
-}
-
-gboolean PressSwatch(GtkWidget* swatch, const GdkEventButton* event, MarkPress press) {
-  if (event->type == GDK_BUTTON_PRESS) press(swatch, SwatchNumber(swatch), event->button);
-  return TRUE;
+void PressSwatch(GtkWidget* area, guint button, gpointer data) {
+  const auto* swatch = static_cast<const MarkSwatch*>(data);
+  swatch->Press(area, swatch->Number, button);
 }
 
 GtkWidget* NewSwatch(const MARKBOX* marks, gint number, MarkPress press) {
   const SIZE size = MarkDataSize[number / 50];
-  GtkWidget* swatch = gtk_drawing_area_new();
-  gtk_widget_set_size_request(swatch, size.cx + 32, size.cy + 8);
-  gtk_widget_add_events(swatch, GDK_BUTTON_PRESS_MASK);
-  g_object_set_data(G_OBJECT(swatch), NumberKey, GINT_TO_POINTER(number));
-  g_signal_connect(swatch, "draw", G_CALLBACK(PaintSwatch), const_cast<MARKBOX*>(marks));
-  g_signal_connect(swatch, "button-press-event", G_CALLBACK(PressSwatch),
-                   reinterpret_cast<gpointer>(press));
-  return swatch;
+  auto swatch = std::make_unique<MarkSwatch>(MarkSwatch{marks, number, press});
+  GtkWidget* area =
+      NewSwatchArea({size.cx + 32, size.cy + 8}, PaintSwatch, PressSwatch, swatch.get());
+  g_object_set_data_full(G_OBJECT(area), "varnix-mark", swatch.release(),
+                         [](gpointer data) { delete static_cast<MarkSwatch*>(data); });
+  TellMark(area, number);
+  return area;
 }
 
 }  // namespace
@@ -50,6 +53,7 @@ DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPres
   for (gint number = 0; number < MarkCount; ++number)
     gtk_grid_attach(GTK_GRID(table), NewSwatch(marks, number, press), number % Columns,
                     number / Columns, 1, 1);
+  MakeOneTabStop(table);
   GtkWidget* scrolled = NewScrolled(table, GTK_POLICY_AUTOMATIC);
   gtk_box_pack_start(GTK_BOX(window.Content), scrolled, TRUE, TRUE, 0);
   gtk_widget_show_all(table);

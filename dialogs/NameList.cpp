@@ -1,5 +1,6 @@
 #include "dialogs/NameList.h"
 
+#include "dialogs/Accessible.h"
 #include "support/Text.h"
 
 namespace {
@@ -25,13 +26,14 @@ void StopReporting(GtkWidget* list, gpointer data) {
 
 }  // namespace
 
-GtkWidget* NewNameList() {
+GtkWidget* NewNameList(const gchar* name) {
   GtkListStore* store = gtk_list_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING);
   GtkWidget* list = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
   g_object_unref(store);
   gtk_tree_view_set_headers_visible(GTK_TREE_VIEW(list), FALSE);
   gtk_tree_view_insert_column_with_attributes(
-      GTK_TREE_VIEW(list), -1, "", gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
+      GTK_TREE_VIEW(list), -1, name, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
+  SetAccessibleName(list, name);
   gtk_widget_show(list);
   return list;
 }

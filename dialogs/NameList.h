@@ -6,8 +6,8 @@
 
 #include <string>
 
-// A shown, empty list.
-GtkWidget* NewNameList();
+// A shown, empty list; assistive technology reads its name.
+GtkWidget* NewNameList(const gchar* name);
 // Appends a row that shows `label` (record or path bytes) and carries `bytes`.
 void AddName(GtkWidget* list, const std::string& label, const std::string& bytes);
 void ClearNames(GtkWidget* list);

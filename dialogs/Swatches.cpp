@@ -1,9 +1,11 @@
 // Colour and mark swatches: their pictures, and the choice of another number with a click.
 #include <algorithm>
+#include <string>
 
 #include "dialogs/Cells.h"
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
+#include "dialogs/SwatchArea.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"
 
@@ -51,20 +53,26 @@ void PaintOutline(cairo_t* cairo, gint x, gint y, gint width, gint height) {
   cairo_stroke(cairo);
 }
 
-// How a row's kind of swatch shows and chooses its number.
-void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_COLRDATA& row) {
+// How a row's kind of swatch shows, tells and chooses its number.
+void PaintNumbered(GtkWidget* area, cairo_t* cairo, const DLG_COLRDATA& row) {
   const gint number = LoadInt(row.colr);
   if (number >= 0 && number < ColrCount)
-    DrawColrData(box, cairo, number, ColrData[number]);
+    DrawColrData(area, cairo, number, ColrData[number]);
   else
-    PaintNumber(box, cairo, number);
+    PaintNumber(area, cairo, number);
 }
-void PaintSwatch(GtkWidget* box, cairo_t* cairo, const DLG_MARKDATA& row) {
+void PaintNumbered(GtkWidget* area, cairo_t* cairo, const DLG_MARKDATA& row) {
   const gint number = LoadInt(row.mark);
   if (number >= 0 && number < MarkCount)
-    DrawMarkData(box, cairo, number, MarkData[number]);
+    DrawMarkData(area, cairo, number, MarkData[number]);
   else
-    PaintNumber(box, cairo, number);
+    PaintNumber(area, cairo, number);
+}
+void TellNumber(GtkWidget* area, const DLG_COLRDATA& row) {
+  TellColour(area, LoadInt(row.colr));
+}
+void TellNumber(GtkWidget* area, const DLG_MARKDATA& row) {
+  TellMark(area, LoadInt(row.mark));
 }
 gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
   *number = Dlg_ColrSelect(Dlg_ColrData_Parent);
@@ -76,35 +84,29 @@ gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
 }
 
 template <class Row>
-gboolean DrawSwatch(GtkWidget* box, cairo_t* cairo, const Row* row) {
-  PaintSwatch(box, cairo, *row);
-  return TRUE;
+void PaintRow(GtkWidget* area, cairo_t* cairo, gpointer row) {
+  PaintNumbered(area, cairo, *static_cast<const Row*>(row));
 }
 
 template <class Row>
-gboolean PressSwatch(GtkWidget* box, const GdkEventButton* event, const Row* row) {
-  if (event->type != GDK_BUTTON_PRESS || event->button != 1) return TRUE;
+void PressRow(GtkWidget* area, guint button, gpointer data) {
+  if (button != GDK_BUTTON_PRIMARY) return;
+  const auto* row = static_cast<const Row*>(data);
   gint number = -1;
   gint* bound = ChooseNumber(*row, &number);
-  if (number != -1) {
-    StoreInt(bound, number);
-    gtk_widget_queue_draw(box);
-  }
-  return TRUE;
+  if (number == -1) return;
+  StoreInt(bound, number);
+  TellNumber(area, *row);
+  gtk_widget_queue_draw(area);
 }
 
 template <class Row>
-GtkWidget* NewSwatch(gint width, gint height, const Row& row) {
-  GtkWidget* box = gtk_drawing_area_new();
-  gtk_widget_set_size_request(box, width, height);
+GtkWidget* NewSwatch(SIZE size, Row& row) {
+  GtkWidget* area = NewSwatchArea(size, PaintRow<Row>, PressRow<Row>, &row);
   // In line with the controls beside it where the cell is higher.
-  gtk_widget_set_valign(box, GTK_ALIGN_CENTER);
-  gtk_widget_add_events(box, GDK_BUTTON_PRESS_MASK);
-  auto* data = const_cast<Row*>(&row);
-  g_signal_connect(box, "draw", G_CALLBACK(DrawSwatch<Row>), data);
-  g_signal_connect(box, "button-press-event", G_CALLBACK(PressSwatch<Row>), data);
-  gtk_widget_show(box);
-  return box;
+  gtk_widget_set_valign(area, GTK_ALIGN_CENTER);
+  TellNumber(area, row);
+  return area;
 }
 
 }  // namespace
@@ -135,19 +137,26 @@ void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDAT
   PaintOutline(cairo, 25, 0, size.cx + 1, size.cy + 1);
 }
 
+void TellColour(GtkWidget* swatch, gint colrno) {
+  SetSwatchValue(swatch, "色番号 " + std::to_string(colrno));
+}
+
+void TellMark(GtkWidget* swatch, gint markno) {
+  SetSwatchValue(swatch, "マーク " + std::to_string(markno));
+}
+
 void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
   Dlg_ColrData_Parent = parent;
   ForEachRow(rows, [table](DLG_COLRDATA& row) {
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);
-    GtkWidget* swatch = NewSwatch(62, 20, row);
-    gtk_widget_set_valign(swatch, GTK_ALIGN_CENTER);
-    gtk_box_pack_start(GTK_BOX(box), swatch, TRUE, TRUE, 0);
+    gtk_box_pack_start(GTK_BOX(box), NewSwatch({62, 20}, row), TRUE, TRUE, 0);
     PlaceControl(table, box, row);
   });
 }
 
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows) {
   Dlg_MarkData_Parent = parent;
-  ForEachRow(rows,
-             [table](DLG_MARKDATA& row) { PlaceControl(table, NewSwatch(32, 36, row), row); });
+  ForEachRow(rows, [table](DLG_MARKDATA& row) {
+    PlaceControl(table, NewSwatch({32, 36}, row), row);
+  });
 }

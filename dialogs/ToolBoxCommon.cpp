@@ -1,5 +1,6 @@
 // The section of the tool box that all types share, and the point read-outs.
 #include "Constant.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/ToolBoxPage.h"
 #include "dialogs/ToolBoxRows.h"
@@ -52,8 +53,9 @@ void SetCommonRows(gint line, bool onePoint, bool registers) {
   ToolComn_Check[3].line = line + (registers ? 6 : 5);
 }
 
-void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line) {
+void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line, const gchar* name) {
   KeepWidget(slot, NewLabel(""));
+  SetAccessibleName(*slot, name);
   PlaceControl(table, *slot, line, 1, 2);
 }
 
@@ -69,12 +71,14 @@ void ShowPoint(GtkWidget* label, const POINT& point) {
 void ToolBox_Comn(GtkWidget* table, gint line, gint flag1, gint flag2) {
   GtkWidget* window = gtk_widget_get_toplevel(table);
   SetCommonRows(line, flag1 != 0, flag2 != 0);
-  AddReadOut(table, &ToolBox_Label1, 0);
+  AddReadOut(table, &ToolBox_Label1, 0, ToolComn_String[flag1 == 0 ? 0 : 1].text);
   KeepWidget(&ToolBox_Label2, nullptr);
-  if (flag1 == 0) AddReadOut(table, &ToolBox_Label2, 1);
+  if (flag1 == 0) AddReadOut(table, &ToolBox_Label2, 1, ToolComn_String[2].text);
   Dlg_String(window, table, ToolComn_String);
   Dlg_EditBox(window, table, ToolComn_Edit);
   Dlg_NumrBox(window, table, ToolComn_Numr);
+  // Its row has no label.
+  SetAccessibleName(ToolComn_Numr[0].spin, "識別番号");
   Dlg_ComboBox(window, table, ToolComn_Combo);
   Dlg_CheckButn(window, table, ToolComn_Check);
   SetToolBoxPoint();

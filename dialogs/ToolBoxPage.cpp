@@ -2,6 +2,7 @@
 #include "dialogs/ToolBoxPage.h"
 
 #include "ProjData.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 
 namespace {
@@ -65,5 +66,6 @@ void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
     AddBrowseButton(table, page.Browse);
   }
   ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);
+  NameControls(table);
   gtk_container_foreach(GTK_CONTAINER(table), WidenFirstGap, table);
 }

@@ -76,8 +76,8 @@ void ToolBoxList_Select(GtkTreeView* view, GtkTreePath* path, GtkTreeViewColumn*
   gtk_widget_destroy(gtk_widget_get_toplevel(GTK_WIDGET(view)));
 }
 
-GtkWidget* NewList(const std::vector<std::string>& texts) {
-  GtkWidget* list = NewNameList();
+GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts) {
+  GtkWidget* list = NewNameList(name);
   for (const std::string& text : texts) AddName(list, text, text);
   gtk_tree_view_column_set_min_width(gtk_tree_view_get_column(GTK_TREE_VIEW(list), 0), 280);
   // One click chooses. The selection alone would not do: a list that gets the keyboard focus
@@ -92,7 +92,7 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
   const DialogWindow dialog = NewDialogWindow(title);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* scrolled = NewScrolled(NewList(ListOfKind(kind)), GTK_POLICY_AUTOMATIC);
+  GtkWidget* scrolled = NewScrolled(NewList(title, ListOfKind(kind)), GTK_POLICY_AUTOMATIC);
   gtk_widget_set_size_request(scrolled, 600, 300);
   gtk_container_set_border_width(GTK_CONTAINER(scrolled), 10);
   gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);

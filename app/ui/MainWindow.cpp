@@ -6,6 +6,7 @@
 #include "WindowPlace.h"
 #include "app/Menus.h"
 #include "app/Window.h"
+#include "dialogs/Accessible.h"
 #include "layout/Commands.h"
 #include "render/Primitives.h"
 
@@ -13,6 +14,8 @@ namespace {
 GtkWidget* CreateCanvas() {
   GtkWidget* canvas = gtk_drawing_area_new();
   KeepWidget(&PtrnDraw, canvas);
+  gtk_widget_set_can_focus(canvas, TRUE);
+  SetAccessibleName(canvas, "レイアウト");
   PtrnDraw_Mode = 0;
   ConnectCanvas(canvas);
   CreatePopupMenu(canvas);
@@ -23,6 +26,8 @@ GtkWidget* CreateScrolledCanvas() {
   GtkWidget* scrolled = gtk_scrolled_window_new(nullptr, nullptr);
   gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scrolled), GTK_POLICY_AUTOMATIC,
                                  GTK_POLICY_AUTOMATIC);
+  gtk_widget_set_can_focus(scrolled, FALSE);
+  NameScrollBars(scrolled);
   // Bars beside the canvas; over it they would cover the layout's edge.
   gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scrolled), FALSE);
   GtkWidget* viewport = gtk_viewport_new(nullptr, nullptr);

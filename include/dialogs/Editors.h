@@ -31,3 +31,6 @@ gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox);
 // Paint a swatch.
 void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colrdata);
 void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDATA& markdata);
+// Have assistive technology read the number that a swatch shows.
+void TellColour(GtkWidget* swatch, gint colrno);
+void TellMark(GtkWidget* swatch, gint markno);

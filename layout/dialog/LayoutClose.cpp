@@ -1,6 +1,7 @@
 // The dialog that decides what becomes of a changed layout.
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/Kit.h"
 #include "dialogs/NameList.h"
@@ -51,9 +52,11 @@ void PtrnFileClose_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
 }
 
 void AddNameEntry(const DialogWindow& dialog) {
-  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel("画面/帳票名"), FALSE, FALSE, 0);
+  constexpr const gchar* Label = "画面/帳票名";
+  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel(Label), FALSE, FALSE, 0);
   GtkWidget* table = gtk_grid_new();
   Dlg_EditBox(dialog.Window, table, PtrnFileClose_Edit);
+  SetAccessibleName(PtrnFileClose_Edit[0].entry, Label);
   g_signal_connect(PtrnFileClose_Edit[0].entry, "changed", G_CALLBACK(PtrnFileClose_Entry),
                    nullptr);
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, FALSE, FALSE, 0);
@@ -68,7 +71,7 @@ gint PtrnFileClose(GtkWidget* parent) {
   const DialogWindow dialog = NewDialogWindow("レイアウトを閉じる");
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   AddNameEntry(dialog);
-  GtkWidget* list = NewNameList();
+  GtkWidget* list = NewNameList("レイアウト");
   AddLayoutList(dialog, list);
   ListLayouts(list, false);
   KeepWidget(&SaveButton,

@@ -89,7 +89,7 @@ gint PtrnFileOpen(GtkWidget* parent) {
   PtrnFileOpen_Flag = 0;
   const DialogWindow dialog = NewDialogWindow(Title);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  KeepWidget(&LayoutNames, NewNameList());
+  KeepWidget(&LayoutNames, NewNameList("レイアウト"));
   AddLayoutList(dialog, LayoutNames);
   AddDialogButton(dialog, " フォルダーより探す ", G_CALLBACK(PtrnFileOpen_Search), dialog.Window);
   AddDialogButton(dialog, " 未設定 ", G_CALLBACK(PtrnFileOpen_Undef), dialog.Window);

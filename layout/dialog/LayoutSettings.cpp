@@ -1,6 +1,7 @@
 // The settings dialog of a layout, over the working copy EditHedr.
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/DialogWindow.h"
@@ -45,6 +46,7 @@ void AddPage(const DialogWindow& dialog, const LayoutPage& page) {
   gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
   BuildControls(dialog.Window, table, page.Tables);
   if (page.Bitmap != nullptr) AddBrowseButton(table, page.Bitmap);
+  NameControls(table);
 }
 
 }  // namespace

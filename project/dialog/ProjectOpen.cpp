@@ -4,6 +4,7 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
@@ -88,7 +89,7 @@ void ProjFileOpen_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
 }
 
 void AddList(const DialogWindow& dialog) {
-  GtkWidget* list = NewNameList();
+  GtkWidget* list = NewNameList("プロジェクト");
   for (gsize row = 0; row < ProjTable.size(); ++row)
     AddName(list, ProjTable[row].name, std::to_string(row));
   OnNameSelected(list, G_CALLBACK(ProjFileOpen_Slct), dialog.Window);
@@ -99,8 +100,10 @@ void AddList(const DialogWindow& dialog) {
 }
 
 void AddFolderEntry(const DialogWindow& dialog) {
-  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel("フォルダー"), FALSE, FALSE, 0);
+  constexpr const gchar* Label = "フォルダー";
+  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel(Label), FALSE, FALSE, 0);
   GtkWidget* entry = gtk_entry_new();
+  SetAccessibleName(entry, Label);
   gtk_editable_set_editable(GTK_EDITABLE(entry), FALSE);
   gtk_widget_set_can_focus(entry, FALSE);
   gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 0);

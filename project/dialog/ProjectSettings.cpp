@@ -3,6 +3,7 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/DialogWindow.h"
@@ -142,9 +143,11 @@ void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
     for (const FrameButton& button : Buttons)
       if (button.Page == number && button.Frame == static_cast<gint>(frame))
         AddButton(table, button.Label, button.Line, button.Culm, G_CALLBACK(button.Clicked));
+    const gchar* title = page.Frames[frame].Title;
+    NameControls(table, title != nullptr ? title : "");
     GtkWidget* shown = table;
-    if (page.Frames[frame].Title != nullptr) {
-      shown = gtk_frame_new(page.Frames[frame].Title);
+    if (title != nullptr) {
+      shown = gtk_frame_new(title);
       gtk_container_add(GTK_CONTAINER(shown), table);
       gtk_widget_show(shown);
     }
@@ -171,6 +174,7 @@ gint EditProjData(GtkWidget* parent, const gchar* title) {
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   EditProj = dialog.Window;
   GtkWidget* notebook = gtk_notebook_new();
+  SetAccessibleName(notebook, "設定の種類");
   gint number = 0;
   for (const ProjectPage& page : ProjectPages()) AddPage(notebook, number++, page);
   gtk_container_set_border_width(GTK_CONTAINER(notebook), 10);

@@ -1,0 +1,20 @@
+// A drawing area that is pressed like a button: by the mouse, by Space and Return (button 1) and
+// the menu key (button 3) while it has the keyboard, and by assistive technology.
+#pragma once
+
+#include <gtk/gtk.h>
+
+#include <string>
+
+#include "Types.h"
+
+using SwatchPaint = void (*)(GtkWidget* area, cairo_t* cairo, gpointer data);
+using SwatchPress = void (*)(GtkWidget* area, guint button, gpointer data);
+
+// A shown area that asks for this size.
+GtkWidget* NewSwatchArea(SIZE size, SwatchPaint paint, SwatchPress press, gpointer data);
+bool IsSwatchArea(GtkWidget* widget);
+
+// What assistive technology reads: what the swatch is for ("" in a picker) and what it shows.
+void SetSwatchLabel(GtkWidget* area, const std::string& label);
+void SetSwatchValue(GtkWidget* area, const std::string& value);

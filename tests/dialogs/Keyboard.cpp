@@ -1,0 +1,156 @@
+// Swatches, pickers and the mark editor without a mouse.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+#include "ProjData.h"
+#include "PtrnData.h"
+#include "PtrnMisc.h"
+#include "common/TempFolder.h"
+#include "dialogs/Controls.h"
+#include "dialogs/Editors.h"
+#include "dialogs/ToolBox.h"
+#include "layout/Screen.h"
+#include "window/Widgets.h"
+#include "window/WindowTest.h"
+
+namespace {
+
+constexpr const gchar* ColourPicker = "表示色選択";
+constexpr const gchar* MarkPicker = "マーク選択";
+constexpr const gchar* ColourDialog = "表示色作成";
+constexpr const gchar* MarkDialog = "マーク作成";
+
+void WaitForKeyboard(GtkWidget* window) {
+  gtk_window_present(GTK_WINDOW(window));
+  ASSERT_TRUE(WaitFor([window] { return gtk_window_is_active(GTK_WINDOW(window)) != FALSE; }));
+}
+
+void PressKeys(GtkWidget* window, std::initializer_list<guint> keys) {
+  WaitForKeyboard(window);
+  for (const guint key : keys) PressKey(window, key);
+}
+
+GtkWidget* Focus(GtkWidget* window) {
+  return gtk_window_get_focus(GTK_WINDOW(window));
+}
+
+CellPlace FocusedCell(GtkWidget* window) {
+  return PlaceOf(FindGrid(window), Focus(window));
+}
+
+std::function<void(GtkWidget*)> Keys(std::initializer_list<guint> keys) {
+  return [keys = std::vector<guint>(keys)](GtkWidget* dialog) {
+    WaitForKeyboard(dialog);
+    for (const guint key : keys) PressKey(dialog, key);
+  };
+}
+
+void CancelColour(GtkWidget* dialog) {
+  gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_CANCEL);
+}
+
+}  // namespace
+
+class Keyboard : public WindowTest {
+ protected:
+  Keyboard() {
+    WriteProfile("");
+    OpenWindow();
+    CopyText(ProjPath, Project.Path());
+  }
+  // The swatch of the erase colour, with the keyboard on it.
+  static void FocusEraseColour() {
+    Dlg_ToolBox(PtrnWnd, 15);
+    WaitForKeyboard(ToolBox);
+    gtk_widget_grab_focus(ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_DRAWING_AREA));
+  }
+  // Edits mark 7 with keys; what the editor leaves of pixel (x, y).
+  gint DrawnWith(std::initializer_list<guint> keys, gint x, gint y) {
+    const DialogAnswer answer(MarkDialog, [&](GtkWidget* editor) {
+      PressKeys(editor, keys);
+      PressButton("設定")(editor);
+    });
+    EXPECT_EQ(MakeMarkData(PtrnWnd, 7, Boxes.data()), 1);
+    return MarkDataGet(7, &Boxes[7].mark, x, y);
+  }
+
+  TempFolder Project;
+  std::vector<MARKBOX> Boxes = std::vector<MARKBOX>(MarkCount);
+};
+
+TEST_F(Keyboard, SpaceAndReturnChooseAColour) {
+  for (const guint key : {GDK_KEY_space, GDK_KEY_Return}) {
+    FocusEraseColour();
+    PtrnData.Parm[29] = 0;
+    // Colours run down the columns: 10 stands right of 0, 11 below 10.
+    const DialogAnswer answer(ColourPicker, Keys({GDK_KEY_Right, GDK_KEY_Down, key}));
+    PressKey(ToolBox, key);
+    EXPECT_EQ(+PtrnData.Parm[29], 11);
+  }
+}
+
+TEST_F(Keyboard, TheMenuKeyEditsThePickersColour) {
+  const DialogAnswer answer(ColourPicker, [](GtkWidget* picker) {
+    WaitForKeyboard(picker);
+    {
+      const DialogAnswer colour(ColourDialog, CancelColour);
+      PressKey(picker, GDK_KEY_Menu);
+    }
+    CloseByManager(picker);
+  });
+  EXPECT_EQ(Dlg_ColrSelect(PtrnWnd), -1);
+}
+
+TEST_F(Keyboard, TabLeavesTheColoursForTheButtonsAndComesBackToTheSameOne) {
+  const DialogAnswer answer("表示色設定", [](GtkWidget* editor) {
+    PressKeys(editor, {GDK_KEY_Down, GDK_KEY_Down, GDK_KEY_Right});
+    EXPECT_EQ(FocusedCell(editor), (CellPlace{2, 1, 1}));
+    PressKey(editor, GDK_KEY_Tab);
+    EXPECT_EQ(Focus(editor), FindLabel(editor, " 設定 "));
+    PressKey(editor, GDK_KEY_Tab);
+    EXPECT_EQ(Focus(editor), FindLabel(editor, " 取消 "));
+    PressKey(editor, GDK_KEY_Tab);
+    EXPECT_EQ(FocusedCell(editor), (CellPlace{2, 1, 1}));
+    CloseByManager(editor);
+  });
+  EditColrData(nullptr, nullptr);
+}
+
+TEST_F(Keyboard, TheArrowsScrollTheMarksToTheOneThatHasTheKeyboard) {
+  const DialogAnswer answer(MarkPicker, [](GtkWidget* picker) {
+    WaitForKeyboard(picker);
+    for (gint row = 0; row < 30; row++) PressKey(picker, GDK_KEY_Down);
+    EXPECT_EQ(FocusedCell(picker), (CellPlace{30, 0, 0}));
+    GtkWidget* port = gtk_widget_get_ancestor(FindGrid(picker), GTK_TYPE_VIEWPORT);
+    const auto shown = [&] {
+      gint y = 0;
+      gtk_widget_translate_coordinates(Focus(picker), port, 0, 0, nullptr, &y);
+      return y >= 0 && y + gtk_widget_get_allocated_height(Focus(picker)) <=
+                           gtk_widget_get_allocated_height(port);
+    };
+    EXPECT_TRUE(WaitFor(shown));
+    PressKey(picker, GDK_KEY_Return);
+  });
+  EXPECT_EQ(Dlg_MarkSelect(PtrnWnd), 300);
+}
+
+TEST_F(Keyboard, TheArrowsAndSpaceDrawAMark) {
+  EXPECT_EQ(DrawnWith({GDK_KEY_Right, GDK_KEY_Right, GDK_KEY_Down, GDK_KEY_space}, 2, 1), 1);
+  EXPECT_EQ(DrawnWith({GDK_KEY_Right, GDK_KEY_Right, GDK_KEY_Down, GDK_KEY_space}, 2, 1), 0);
+}
+
+TEST_F(Keyboard, TheArrowsStayInTheMark) {
+  EXPECT_EQ(DrawnWith({GDK_KEY_Left, GDK_KEY_Up, GDK_KEY_space}, 0, 0), 1);
+  const DialogAnswer answer(MarkDialog, [](GtkWidget* editor) {
+    WaitForKeyboard(editor);
+    for (gint i = 0; i < 20; i++) PressKey(editor, GDK_KEY_Right);
+    for (gint i = 0; i < 40; i++) PressKey(editor, GDK_KEY_Down);
+    PressKey(editor, GDK_KEY_space);
+    PressButton("設定")(editor);
+  });
+  EXPECT_EQ(MakeMarkData(PtrnWnd, 7, Boxes.data()), 1);
+  EXPECT_EQ(MarkDataGet(7, &Boxes[7].mark, 15, 31), 1);
+}
