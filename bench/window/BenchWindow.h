@@ -1,0 +1,27 @@
+// The main window, opened for a benchmark.
+#pragma once
+
+#include "app/Window.h"
+#include "window/Widgets.h"
+#include "window/WindowTest.h"
+
+class BenchWindow : public WindowTest {
+ public:
+  // As large as the display lets it be.
+  BenchWindow() {
+    OpenWindow();
+    gtk_window_maximize(GTK_WINDOW(PtrnWnd));
+    WaitFor([] { return gtk_window_is_maximized(GTK_WINDOW(PtrnWnd)) != FALSE; });
+    FinishFrame(PtrnDraw);
+  }
+  using WindowTest::ShowLayout;
+
+ private:
+  void TestBody() override {}
+};
+
+// Paints all of the canvas that is to be seen.
+inline void PaintWholeCanvas() {
+  gtk_widget_queue_draw(PtrnDraw);
+  FinishFrame(PtrnDraw);
+}
