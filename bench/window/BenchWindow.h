@@ -1,7 +1,9 @@
-// The main window, opened for a benchmark.
+// The main window with the sample project, opened for a benchmark.
 #pragma once
 
+#include "PtrnMisc.h"
 #include "app/Window.h"
+#include "window/Program.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -9,6 +11,7 @@ class BenchWindow : public WindowTest {
  public:
   // As large as the display lets it be.
   BenchWindow() {
+    CopyText(PathName, Folder.Path());
     OpenWindow();
     gtk_window_maximize(GTK_WINDOW(PtrnWnd));
     WaitFor([] { return gtk_window_is_maximized(GTK_WINDOW(PtrnWnd)) != FALSE; });
@@ -18,6 +21,8 @@ class BenchWindow : public WindowTest {
 
  private:
   void TestBody() override {}
+
+  ProgramFolder Folder;
 };
 
 // Paints all of the canvas that is to be seen.

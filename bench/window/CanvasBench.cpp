@@ -1,9 +1,9 @@
 // What the canvas does for one motion of the pointer and one step of scrolling, against painting
 // all of it that is to be seen. Times are those of the whole process, the toolkit's included.
 #include "BenchWindow.h"
+#include "PtrnData.h"
 #include "bench/FullLayout.h"
 #include "bench/Measure.h"
-#include "PtrnData.h"
 #include "window/Exposures.h"
 
 namespace {
@@ -20,8 +20,8 @@ double VisiblePixels() {
          gtk_widget_get_allocated_height(viewport);
 }
 
-// Picks the item on top and begins to drag it. False when that fails.
-bool PickTopItem(gint x, gint y) {
+// Picks an item and begins to drag it. False when that fails.
+bool BeginDrag(gint x, gint y) {
   for (int press = 0; press < 2; ++press) {
     SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, x, y);
     if (PtrnMode == ModeDragging) return true;
@@ -33,11 +33,15 @@ bool PickTopItem(gint x, gint y) {
 void MotionOfDrag(benchmark::State& state) {
   BenchWindow window;
   const FullLayout layout(ItemCount - TextCount, TextCount);
-  const PTRNDATA item = FrameItem(400, 300, 640, 460, 3);
-  AddPtrnData(&item);
+  PTRNDATA item = FrameItem(400, 300, 640, 460, 3);
+  item.Parm[ItemSlot::X1] = 400;
+  item.Parm[ItemSlot::Y1] = 300;
+  item.Parm[ItemSlot::X2] = 640;
+  item.Parm[ItemSlot::Y2] = 460;
+  SetPtrnData(0, &item);  // the first at a place is picked
   window.ShowLayout(LayoutWidth, LayoutHeight, Zoom100);
   FinishFrame(PtrnDraw);
-  if (!PickTopItem(450, 300)) return state.SkipWithError("nothing to drag");
+  if (!BeginDrag(450, 300)) return state.SkipWithError("nothing to drag");
   FinishFrame(PtrnDraw);
   Exposures exposures;
   gint step = 0;
@@ -56,17 +60,34 @@ void MotionOfDrag(benchmark::State& state) {
 }
 BENCHMARK(MotionOfDrag)->Unit(benchmark::kMillisecond);
 
+// The pointer over the items, no button pressed.
+void MotionOverItems(benchmark::State& state) {
+  BenchWindow window;
+  const FullLayout layout(ItemCount - TextCount, TextCount);
+  window.ShowLayout(LayoutWidth, LayoutHeight, Zoom100);
+  FinishFrame(PtrnDraw);
+  gint step = 0;
+  Compare(
+      state,
+      [&] {
+        ++step;
+        SendMotion(step * 7 % 900, step * 11 % 600);
+      },
+      PaintWholeCanvas);
+}
+BENCHMARK(MotionOverItems)->Unit(benchmark::kMillisecond);
+
 void ScrollBy40(benchmark::State& state) {
   constexpr gint Step = 40;
   BenchWindow window;
   const FullLayout layout(ItemCount - TextCount, TextCount);
   window.ShowLayout(LayoutWidth, LayoutHeight, static_cast<gint>(state.range(0)));
   FinishFrame(PtrnDraw);
-  GtkAdjustment* down = gtk_scrollable_get_vadjustment(
-      GTK_SCROLLABLE(gtk_widget_get_parent(PtrnDraw)));
+  GtkAdjustment* down =
+      gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(gtk_widget_get_parent(PtrnDraw)));
   Exposures exposures;
-  const gint room = static_cast<gint>(gtk_adjustment_get_upper(down) -
-                                      gtk_adjustment_get_page_size(down));
+  const gint room =
+      static_cast<gint>(gtk_adjustment_get_upper(down) - gtk_adjustment_get_page_size(down));
   gint at = 0;
   double painted = 0;
   int steps = 0;

@@ -1,10 +1,10 @@
 // Opening dialogs until they are painted and closing them, against the same with a bare window.
 #include "BenchWindow.h"
-#include "bench/Measure.h"
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnDialog.h"
 #include "PtrnMisc.h"
+#include "bench/Measure.h"
 #include "common/TempFolder.h"
 
 namespace {

@@ -4,7 +4,7 @@
 //   start_probe bare
 //   start_probe program FOLDER                     with the project of the profile there
 //   start_probe program FOLDER WIDTH HEIGHT ZOOM   and then its start-up layout in this size,
-//                                                  scrolled from one corner to the other
+//                                                  scrolled through
 #include <gtk/gtk.h>
 #include <unistd.h>
 
@@ -21,32 +21,22 @@
 
 namespace {
 
-constexpr gint ScrollSteps = 100;
+// The widget that is waited for, null once it is painted.
+GtkWidget* Awaited;
 
-// Runs the main loop until the window has painted once more.
-void Paint(GtkWidget* window) {
-  bool painted = false;
-  GdkFrameClock* clock = gtk_widget_get_frame_clock(window);
-  const gulong handler = g_signal_connect(
-      clock, "after-paint",
-      G_CALLBACK(+[](GdkFrameClock*, gpointer flag) { *static_cast<bool*>(flag) = true; }),
-      &painted);
-  gtk_widget_queue_draw(window);
-  while (!painted) gtk_main_iteration();
-  g_signal_handler_disconnect(clock, handler);
+// A hook, because the canvas's own handler ends the signal's emission.
+gboolean NoteDrawing(GSignalInvocationHint* /*hint*/, guint /*count*/, const GValue* values,
+                     gpointer /*data*/) {
+  if (g_value_get_object(values) == Awaited) Awaited = nullptr;
+  return TRUE;
 }
 
-// Runs the main loop until the widget is painted.
+// Runs the main loop until the widget is painted and the display has it.
 void WaitForDrawing(GtkWidget* widget) {
-  bool drawn = false;
-  const gulong handler = g_signal_connect_swapped(
-      widget, "draw", G_CALLBACK(+[](bool* flag) {
-        *flag = true;
-        return FALSE;
-      }),
-      &drawn);
-  while (!drawn) gtk_main_iteration();
-  g_signal_handler_disconnect(widget, handler);
+  Awaited = widget;
+  while (Awaited != nullptr) gtk_main_iteration();
+  while (gtk_events_pending()) gtk_main_iteration();
+  gdk_display_sync(gtk_widget_get_display(widget));
 }
 
 GtkWidget* BareWindow() {
@@ -58,6 +48,12 @@ GtkWidget* BareWindow() {
   gtk_menu_shell_append(GTK_MENU_SHELL(bar), gtk_menu_item_new_with_label("File"));
   gtk_box_pack_start(GTK_BOX(box), bar, FALSE, FALSE, 0);
   GtkWidget* area = gtk_drawing_area_new();
+  g_signal_connect(area, "draw", G_CALLBACK(+[](GtkWidget*, cairo_t* cairo) {
+                     cairo_set_source_rgb(cairo, 1, 1, 1);
+                     cairo_paint(cairo);
+                     return TRUE;
+                   }),
+                   nullptr);
   gtk_box_pack_start(GTK_BOX(box), area, TRUE, TRUE, 0);
   gtk_widget_show_all(window);
   return area;
@@ -72,12 +68,13 @@ GtkWidget* StartProgram(const char* folder) {
   return PtrnDraw;
 }
 
+// Page by page, so that each step has something to paint.
 void ScrollThrough(GtkAdjustment* adjustment) {
-  const gdouble end =
-      gtk_adjustment_get_upper(adjustment) - gtk_adjustment_get_page_size(adjustment);
-  for (gint step = 1; step <= ScrollSteps; ++step) {
-    gtk_adjustment_set_value(adjustment, end * step / ScrollSteps);
-    Paint(PtrnWnd);
+  const gdouble page = gtk_adjustment_get_page_size(adjustment);
+  const gdouble end = gtk_adjustment_get_upper(adjustment) - page;
+  for (gdouble at = page; at <= end; at += page) {
+    gtk_adjustment_set_value(adjustment, at);
+    WaitForDrawing(PtrnDraw);
   }
 }
 
@@ -113,9 +110,9 @@ int main(int argc, char** argv) {
   if (!gtk_init_check(&argc, &argv)) return 3;
   const bool program = argc > 2 && std::strcmp(argv[1], "program") == 0;
   GtkWidget* canvas = program ? StartProgram(argv[2]) : BareWindow();
+  g_signal_add_emission_hook(g_signal_lookup("draw", GTK_TYPE_WIDGET), 0, NoteDrawing, nullptr,
+                             nullptr);
   WaitForDrawing(canvas);
-  Paint(gtk_widget_get_toplevel(canvas));
-  gdk_display_sync(gtk_widget_get_display(canvas));
   if (program && argc > 5 && !ShowLayout(argv + 3)) return 4;
   std::printf("%.1f\n", ResidentMegabytes());
   std::fflush(stdout);
