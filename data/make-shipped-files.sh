@@ -14,9 +14,9 @@ mkdir -p "$1"
 out=$(cd "$1" && pwd)
 tool=$2
 data=$(cd "$(dirname "$0")" && pwd)
-files=$(mktemp -d "$out/files.XXXXXX")
-trap 'rm -rf "$files"' EXIT
-chmod 755 "$files"
+work=$(mktemp -d "$out/making.XXXXXX")
+trap 'rm -rf "$work"' EXIT
+files=$work/files
 
 build_layouts() { # FOLDER OUT: each layout is named by its first title
   local file name
@@ -26,22 +26,29 @@ build_layouts() { # FOLDER OUT: each layout is named by its first title
   done
 }
 
-mkdir -p "$files"/{Sample/Bitmap,VarnixData/{Bitmap,Ptrn}}
+build_project() { # SOURCES PROJECT_FILE: with the palette and the marks that both samples share
+  local folder=${2%/*} list
+  mkdir -p "$folder/Bitmap"
+  "$tool" build "$1/project.json" "$2"
+  "$tool" build "$data/sample/palette.json" "$folder/PtrnColr"
+  "$tool" build "$data/sample/marks.json" "$folder/PtrnMark"
+  "$tool" build "$1/codes.json" "$folder/PtrnCode"
+  for list in 1 2 3; do "$tool" build "$1/texts$list.json" "$folder/PtrnText$list"; done
+  build_layouts "$1/layouts" "$folder"
+}
+
+mkdir -p "$files/VarnixData"/{Bitmap,Ptrn}
 iconv -f UTF-8 -t EUC-JP "$data/profile/VarnixMaster.ini" >"$files/VarnixMaster.ini"
 cp "$data"/artwork/start/*.bmp "$data/artwork/icon/VarnixMaster.png" "$files"
-cp "$data"/artwork/bitmap/* "$files/Sample/Bitmap"
 cp "$data"/artwork/bitmap/{logo.png,water.bmp} "$files/VarnixData/Bitmap"
-
-sample=$data/sample
-"$tool" build "$sample/project.json" "$files/Sample/WaterWorks.prj"
-"$tool" build "$sample/palette.json" "$files/Sample/PtrnColr"
-"$tool" build "$sample/marks.json" "$files/Sample/PtrnMark"
-"$tool" build "$sample/codes.json" "$files/Sample/PtrnCode"
-for list in 1 2 3; do
-  "$tool" build "$sample/texts$list.json" "$files/Sample/PtrnText$list"
-done
-build_layouts "$sample/layouts" "$files/Sample"
 build_layouts "$data/template" "$files/VarnixData/Ptrn"
+
+build_project "$data/sample" "$files/Sample/WaterWorks.prj"
+cp "$data"/artwork/bitmap/* "$files/Sample/Bitmap"
+
+python3 -B "$data/power/make_project.py" "$work/power"
+build_project "$work/power" "$files/PowerSample/PowerPlant.prj"
+cp "$data/artwork/bitmap/logo.png" "$files/PowerSample/Bitmap"
 
 tar -C "$files" --sort=name --owner=0 --group=0 --numeric-owner --mtime=@0 --mode=u+rw,go=rX -cf - . |
   gzip -9n >"$out/files.tar.gz"

@@ -1,4 +1,4 @@
-// The sample project as the build ships it: what a customer sees first must be whole and fit.
+// The sample projects as the build ships them: what a customer sees first must be whole and fit.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -68,13 +68,18 @@ std::vector<PTRNDATA> StoredItems() {
   return items;
 }
 
-class SampleProject : public testing::Test {
+struct Sample {
+  const char* Folder;
+  const char* Name;
+};
+
+class SampleProject : public testing::TestWithParam<Sample> {
  protected:
   void SetUp() override {
     g_strlcpy(PathName, Program.c_str(), sizeof(PathName));
-    g_strlcpy(ProjPath, (Program + "/Sample").c_str(), sizeof(ProjPath));
+    g_strlcpy(ProjPath, (Program + "/" + GetParam().Folder).c_str(), sizeof(ProjPath));
     PROJFILE file{};
-    ASSERT_EQ(FileRead(ProjPath, "WaterWorks", "prj", &file, sizeof(file), 0), 1);
+    ASSERT_EQ(FileRead(ProjPath, GetParam().Name, "prj", &file, sizeof(file), 0), 1);
     ProjData = file.Data;
     SetBmapPath();
     InitDrawData();
@@ -120,7 +125,7 @@ class SampleProject : public testing::Test {
   std::vector<std::string> names_;
 };
 
-TEST_F(SampleProject, HoldsLayoutsOfEveryKind) {
+TEST_P(SampleProject, HoldsLayoutsOfEveryKind) {
   std::array<int, 3> kinds{};
   std::vector<std::string> shown;
   for (const std::string& name : names_) {
@@ -137,7 +142,7 @@ TEST_F(SampleProject, HoldsLayoutsOfEveryKind) {
   EXPECT_THAT(shown, Contains(Utf8(ProjData.PtrnStop)));
 }
 
-TEST_F(SampleProject, UsesEveryItemTypeAndLeavesNothingIncomplete) {
+TEST_P(SampleProject, UsesEveryItemTypeAndLeavesNothingIncomplete) {
   std::set<gint> types;
   for (const std::string& name : names_) {
     SCOPED_TRACE(Utf8(name.c_str()));
@@ -151,7 +156,7 @@ TEST_F(SampleProject, UsesEveryItemTypeAndLeavesNothingIncomplete) {
   EXPECT_THAT(types, ElementsAre(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15));
 }
 
-TEST_F(SampleProject, SpeaksThreeLanguages) {
+TEST_P(SampleProject, SpeaksThreeLanguages) {
   for (const std::string& name : names_) {
     SCOPED_TRACE(Utf8(name.c_str()));
     Open(name);
@@ -170,7 +175,7 @@ TEST_F(SampleProject, SpeaksThreeLanguages) {
   }
 }
 
-TEST_F(SampleProject, KeepsEveryItemWithinItsLayout) {
+TEST_P(SampleProject, KeepsEveryItemWithinItsLayout) {
   ForEachView([] {
     for (const PTRNDATA& item : StoredItems()) {
       const Box box = BoxOf(item);
@@ -181,7 +186,7 @@ TEST_F(SampleProject, KeepsEveryItemWithinItsLayout) {
   });
 }
 
-TEST_F(SampleProject, LetsNoTextRunIntoAnother) {
+TEST_P(SampleProject, LetsNoTextRunIntoAnother) {
   ForEachView([] {
     const std::vector<PTRNDATA> items = StoredItems();
     std::vector<PTRNDATA> texts;
@@ -196,7 +201,7 @@ TEST_F(SampleProject, LetsNoTextRunIntoAnother) {
   });
 }
 
-TEST_F(SampleProject, FitsCaptionsIntoButtons) {
+TEST_P(SampleProject, FitsCaptionsIntoButtons) {
   ForEachView([] {
     for (const PTRNDATA& item : StoredItems()) {
       if (item.Type != TypeButton) continue;
@@ -210,7 +215,7 @@ TEST_F(SampleProject, FitsCaptionsIntoButtons) {
   });
 }
 
-TEST_F(SampleProject, NamesOnlyLayoutsPicturesAndMarksThatExist) {
+TEST_P(SampleProject, NamesOnlyLayoutsPicturesAndMarksThatExist) {
   const std::set<std::string> layouts(names_.begin(), names_.end());
   for (const std::string& name : names_) {
     SCOPED_TRACE(Utf8(name.c_str()));
@@ -236,7 +241,7 @@ TEST_F(SampleProject, NamesOnlyLayoutsPicturesAndMarksThatExist) {
 }
 
 // What committing every item one by one would have left in the registry.
-TEST_F(SampleProject, RegistersExactlyTheCodesThatItsItemsUse) {
+TEST_P(SampleProject, RegistersExactlyTheCodesThatItsItemsUse) {
   std::map<std::string, gint> slots;
   for (const std::string& name : names_) {
     Open(name);
@@ -258,7 +263,7 @@ TEST_F(SampleProject, RegistersExactlyTheCodesThatItsItemsUse) {
   EXPECT_EQ(registered, slots);
 }
 
-TEST_F(SampleProject, LooksDifferentInEachColourSystem) {
+TEST_P(SampleProject, LooksDifferentInEachColourSystem) {
   for (const std::string& name : names_) {
     SCOPED_TRACE(Utf8(name.c_str()));
     std::set<std::vector<guint32>> pictures;
@@ -279,7 +284,7 @@ TEST_F(SampleProject, LooksDifferentInEachColourSystem) {
 }
 
 // Saving the project's settings pushes its common look into the layouts: they have it already.
-TEST_F(SampleProject, AlreadyHasTheLookThatItsSettingsAskFor) {
+TEST_P(SampleProject, AlreadyHasTheLookThatItsSettingsAskFor) {
   TempFolder kept;
   TempFolder renewed;
   ASSERT_EQ(CopyFolder(ProjPath, kept.Path().c_str()), 1);
@@ -296,7 +301,7 @@ gint Brightness(gint colour) {
       (((pixel >> 16) & 255) * 299 + ((pixel >> 8) & 255) * 587 + (pixel & 255) * 114) / 1000);
 }
 
-TEST_F(SampleProject, KeepsTextLegibleInEachColourSystem) {
+TEST_P(SampleProject, KeepsTextLegibleInEachColourSystem) {
   constexpr gint LeastContrast = 60;
   for (const std::string& name : names_) {
     Open(name);
@@ -318,6 +323,26 @@ TEST_F(SampleProject, KeepsTextLegibleInEachColourSystem) {
             << Utf8(name.c_str()) << ", colour system " << system << ": " << Describe(text);
       }
   }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipped, SampleProject,
+                         testing::Values(Sample{"Sample", "WaterWorks"},
+                                         Sample{"PowerSample", "PowerPlant"}),
+                         [](const auto& sample) { return std::string(sample.param.Name); });
+
+// The large one is measured by its size.
+TEST(PowerPlant, HasFortyLayoutsAndThreeThousandItems) {
+  const std::string folder = Program + "/PowerSample";
+  const std::vector<std::string> names = LayoutNames(folder.c_str());
+  EXPECT_EQ(names.size(), 40U);
+  gsize items = 0;
+  for (const std::string& name : names) {
+    IntPtrnData();
+    ASSERT_EQ(PtrnFileRead(folder.c_str(), name.c_str()), 1);
+    items += StoredItems().size();
+  }
+  ExtPtrnData();
+  EXPECT_EQ(items, 3000U);
 }
 
 }  // namespace
