@@ -4,6 +4,7 @@
 #include "ProjData.h"
 #include "PtrnDraw.h"
 #include "PtrnMisc.h"
+#include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "project/check/Check.h"
 #include "project/model/LayoutNames.h"
