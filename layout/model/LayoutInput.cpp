@@ -80,7 +80,8 @@ bool LayoutInput::ReadHeader(PTRNHEDR& header) {
   header = read;
   constexpr gint64 start = sizeof(PTRNHEDR);
   constexpr gint64 record = sizeof(PTRNFILE);
-  const gint64 count = std::max(read.DataCount, 0);
+  const gint64 wanted = read.DataCount;
+  const gint64 count = std::max<gint64>(wanted, 0);
   const gint64 held = std::clamp<gint64>((size_ - start) / record, 0, count);
   const gint64 textStart = start + record * held;
   recordsHeld_ = static_cast<gint>(held);
