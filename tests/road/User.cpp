@@ -173,8 +173,12 @@ bool SeeGone(const std::string& title) {
 }
 
 void Settle() {
+  Settle(PtrnWnd);
+}
+
+void Settle(GtkWidget* window) {
   WhenIdle();
-  Frame(PtrnWnd);
+  Frame(window);
   WhenIdle();
 }
 
@@ -183,10 +187,16 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
   const bool there = See([&] {
     const Spot spot = SpotOf(widget, x, y);
     if (!spot.Ready) return false;
-    Hands->MovePointer(spot.X, spot.Y);
+    const gint scale = gtk_widget_get_scale_factor(widget);
+    Hands->MovePointer(spot.X * scale, spot.Y * scale);
     return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget));
   });
   EXPECT_TRUE(there) << "another window lies over " << G_OBJECT_TYPE_NAME(widget);
+  WhenIdle();
+}
+
+void PointAway() {
+  Hands->MovePointer(0, 0);
   WhenIdle();
 }
 

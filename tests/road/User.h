@@ -35,12 +35,16 @@ GtkWidget* SeeWindow(const std::string& title);
 bool SeeGone(const std::string& title);
 // Waits until every event sent so far has been handled and what follows from it is painted.
 void Settle();
+// The same for another window.
+void Settle(GtkWidget* window);
 
 enum Button { LeftButton = 1, RightButton = 3 };
 
 // Moves the pointer to a place of a widget once that is really under it; fails the test when not.
 void PointAt(GtkWidget* widget, gint x, gint y);
 void PointAt(GtkWidget* widget);  // its middle
+// Moves the pointer to the corner of the screen.
+void PointAway();
 // Moves with a button held: returns when the program has had the motion.
 void DragTo(GtkWidget* widget, gint x, gint y);
 void ButtonDown(Button button);

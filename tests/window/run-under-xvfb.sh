@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Runs a command on a display of its own, with a window manager and a session bus.
 set -euo pipefail
-export GDK_BACKEND=x11 GTK_THEME=Adwaita LC_ALL=C.UTF-8 NO_AT_BRIDGE=1 GSETTINGS_BACKEND=memory
+export GDK_BACKEND=x11 GTK_THEME=${VARNIX_THEME:-Adwaita} LC_ALL=C.UTF-8 NO_AT_BRIDGE=1 GSETTINGS_BACKEND=memory
 export GTK_MODULES= GTK_IM_MODULE=gtk-im-context-simple
 here=$(cd "$(dirname "$0")" && pwd)
 export LSAN_OPTIONS="suppressions=$here/../lsan.supp:print_suppressions=0${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
@@ -38,7 +38,7 @@ until_true() {
 }
 
 # The server itself takes the next free number, so displays that start at once do not meet.
-Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
+Xvfb -displayfd 3 -screen 0 "${VARNIX_SCREEN:-1600x1200}x24" -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
 started+=($!)
 until_true $! grep -q . "$work/display"
 DISPLAY=:$(cat "$work/display")
