@@ -1,5 +1,7 @@
 #include "dialogs/DialogWindow.h"
 
+#include "dialogs/ScreenRoom.h"
+
 #include "layout/Screen.h"
 
 namespace {
@@ -30,12 +32,14 @@ DialogWindow NewDialogWindow(const gchar* title) {
   g_signal_connect(dialog.Window, "key-press-event", G_CALLBACK(CloseOnEscape), nullptr);
 
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
-  dialog.Content = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  dialog.Content = AddScrollableContent(dialog.Window, box);
   dialog.Actions = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
   gtk_container_set_border_width(GTK_CONTAINER(dialog.Actions), 10);
-  gtk_box_pack_start(GTK_BOX(box), dialog.Content, TRUE, TRUE, 0);
-  gtk_box_pack_end(GTK_BOX(box), dialog.Actions, FALSE, FALSE, 0);
-  gtk_box_pack_end(GTK_BOX(box), gtk_separator_new(GTK_ORIENTATION_HORIZONTAL), FALSE, FALSE, 0);
+  GtkWidget* footer = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  gtk_box_pack_start(GTK_BOX(footer), gtk_separator_new(GTK_ORIENTATION_HORIZONTAL), FALSE, FALSE,
+                     0);
+  gtk_box_pack_start(GTK_BOX(footer), dialog.Actions, FALSE, FALSE, 0);
+  gtk_box_pack_end(GTK_BOX(box), footer, FALSE, FALSE, 0);
   gtk_container_add(GTK_CONTAINER(dialog.Window), box);
   gtk_widget_show_all(box);
   return dialog;
@@ -48,6 +52,10 @@ GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCall
   gtk_box_pack_start(GTK_BOX(dialog.Actions), button, FALSE, FALSE, 0);
   gtk_widget_show(button);
   return button;
+}
+
+void LeaveOutActions(const DialogWindow& dialog) {
+  gtk_widget_destroy(gtk_widget_get_parent(dialog.Actions));
 }
 
 void SetDefaultButton(GtkWidget* button) {
@@ -70,6 +78,7 @@ void RunModal(GtkWidget* window, GtkWidget* parent) {
 // The program's main loop may be told to end while a dialog is shown beside a usable main window.
 void RunModeless(GtkWidget* window, GtkWidget* parent) {
   SetDialogParent(window, parent);
+  FitToScreen(window);
   bool open = true;
   g_signal_connect_swapped(window, "destroy", G_CALLBACK(+[](bool* flag) { *flag = false; }),
                            &open);

@@ -5,7 +5,7 @@
 
 struct DialogWindow {
   GtkWidget* Window;
-  GtkWidget* Content;  // vertical box
+  GtkWidget* Content;  // vertical box; scrolls where the screen is too low for it
   GtkWidget* Actions;  // horizontal box of the buttons
 };
 
@@ -14,6 +14,8 @@ DialogWindow NewDialogWindow(const gchar* title);
 // Adds a shown button; `clicked` gets (button, data).
 GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCallback clicked,
                            gpointer data);
+// Takes line and row away from a dialog without buttons.
+void LeaveOutActions(const DialogWindow& dialog);
 // Return in an entry of the dialog presses this button.
 void SetDefaultButton(GtkWidget* button);
 // Keeps `window` above the window that `parent` lies in; nothing happens without one.

@@ -84,6 +84,7 @@ gint Dlg_MarkSelect(GtkWidget* parent) {
   CopyMarks(Dlg_MarkBox.get());
   const DialogWindow window =
       NewMarkSetWindow("マーク選択", Dlg_MarkBox->data(), Dlg_MarkSelect_Press);
+  LeaveOutActions(window);
   MarkSlct = window.Window;
   RunModal(window.Window, parent);
   Dlg_MarkBox.reset();
@@ -93,6 +94,7 @@ gint Dlg_MarkSelect(GtkWidget* parent) {
 gint Dlg_MarkSearch(GtkWidget* parent, const MARKBOX* markbox) {
   MarkSearch_MarkNo = -1;
   const DialogWindow window = NewMarkSetWindow("マーク選択", markbox, Dlg_MarkSearch_Press);
+  LeaveOutActions(window);
   MarkSearch = window.Window;
   RunModal(window.Window, parent);
   return MarkSearch_MarkNo;

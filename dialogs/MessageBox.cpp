@@ -40,11 +40,10 @@ gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, c
                     gint butn) {
   MessageButnNo = 0;
   const DialogWindow dialog = NewDialogWindow(title);
-  gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER_ON_PARENT);
   gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
-  gtk_widget_set_margin_bottom(dialog.Content, 10);
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 20);
   AddMessage(dialog.Content, mesg1);
   AddMessage(dialog.Content, mesg2);
   AddButtons(dialog.Actions, butn >= 1 && butn <= 3 ? butn : 0);

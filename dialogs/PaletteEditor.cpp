@@ -117,6 +117,7 @@ void EditColrData(GtkWidget* parent, gpointer data) {
 gint Dlg_ColrSelect(GtkWidget* parent) {
   ColrSlct.Result = -1;
   const DialogWindow window = NewPaletteWindow(&ColrSlct, "表示色選択", Dlg_ColrSelect_Event);
+  LeaveOutActions(window);
   RunModal(window.Window, parent);
   return ColrSlct.Result;
 }

@@ -35,6 +35,14 @@ SwatchArea* Swatch(gpointer area) {
   return static_cast<SwatchArea*>(area);
 }
 
+// Whole, so that pixels stay square.
+gint LetterScale(GtkWidget* area) {
+  constexpr gint Usual = 96 * 1024;
+  gint dpi = Usual;
+  g_object_get(gtk_widget_get_settings(area), "gtk-xft-dpi", &dpi, nullptr);
+  return CLAMP((dpi + Usual / 2) / Usual, 1, 4);
+}
+
 void PressArea(GtkWidget* area, guint button) {
   const SwatchArea* swatch = Swatch(area);
   swatch->Press(area, button, swatch->Data);
@@ -71,6 +79,7 @@ void PaintFocus(GtkWidget* area, cairo_t* cairo) {
 gboolean Draw(GtkWidget* area, cairo_t* cairo) {
   const SwatchArea* swatch = Swatch(area);
   cairo_save(cairo);
+  cairo_scale(cairo, LetterScale(area), LetterScale(area));
   swatch->Paint(area, cairo, swatch->Data);
   cairo_restore(cairo);
   if (gtk_widget_has_visible_focus(area)) PaintFocus(area, cairo);
@@ -170,9 +179,14 @@ GtkWidget* NewSwatchArea(SIZE size, SwatchPaint paint, SwatchPress press, gpoint
   swatch->Paint = paint;
   swatch->Press = press;
   swatch->Data = data;
-  gtk_widget_set_size_request(area, size.cx, size.cy);
+  ResizeSwatchArea(area, size);
   gtk_widget_show(area);
   return area;
+}
+
+void ResizeSwatchArea(GtkWidget* area, SIZE size) {
+  const gint scale = LetterScale(area);
+  gtk_widget_set_size_request(area, size.cx * scale, size.cy * scale);
 }
 
 bool IsSwatchArea(GtkWidget* widget) {

@@ -11,8 +11,11 @@
 using SwatchPaint = void (*)(GtkWidget* area, cairo_t* cairo, gpointer data);
 using SwatchPress = void (*)(GtkWidget* area, guint button, gpointer data);
 
-// A shown area that asks for this size.
+// A shown area that asks for this size. On a display set to much larger letters than 96 dpi means,
+// swatches are as many whole times larger.
 GtkWidget* NewSwatchArea(SIZE size, SwatchPaint paint, SwatchPress press, gpointer data);
+// Asks for another size.
+void ResizeSwatchArea(GtkWidget* area, SIZE size);
 bool IsSwatchArea(GtkWidget* widget);
 
 // What assistive technology reads: what the swatch is for ("" in a picker) and what it shows.

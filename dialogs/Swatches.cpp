@@ -83,6 +83,16 @@ gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
   return row.mark;
 }
 
+SIZE SwatchSize(const DLG_COLRDATA& /*row*/) {
+  return {62, 20};
+}
+// The cells beside it give room for a mark of 32 x 32; a larger one needs its own.
+SIZE SwatchSize(const DLG_MARKDATA& row) {
+  const gint number = LoadInt(row.mark);
+  const SIZE mark = number >= 0 && number < MarkCount ? MarkDataSize[number / 50] : SIZE{0, 0};
+  return {mark.cx > 32 ? mark.cx + 28 : 32, mark.cy > 32 ? mark.cy + 4 : 36};
+}
+
 template <class Row>
 void PaintRow(GtkWidget* area, cairo_t* cairo, gpointer row) {
   PaintNumbered(area, cairo, *static_cast<const Row*>(row));
@@ -96,13 +106,14 @@ void PressRow(GtkWidget* area, guint button, gpointer data) {
   gint* bound = ChooseNumber(*row, &number);
   if (number == -1) return;
   StoreInt(bound, number);
+  ResizeSwatchArea(area, SwatchSize(*row));
   TellNumber(area, *row);
   gtk_widget_queue_draw(area);
 }
 
 template <class Row>
-GtkWidget* NewSwatch(SIZE size, Row& row) {
-  GtkWidget* area = NewSwatchArea(size, PaintRow<Row>, PressRow<Row>, &row);
+GtkWidget* NewSwatch(Row& row) {
+  GtkWidget* area = NewSwatchArea(SwatchSize(row), PaintRow<Row>, PressRow<Row>, &row);
   // In line with the controls beside it where the cell is higher.
   gtk_widget_set_valign(area, GTK_ALIGN_CENTER);
   TellNumber(area, row);
@@ -149,14 +160,12 @@ void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
   Dlg_ColrData_Parent = parent;
   ForEachRow(rows, [table](DLG_COLRDATA& row) {
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);
-    gtk_box_pack_start(GTK_BOX(box), NewSwatch({62, 20}, row), TRUE, TRUE, 0);
+    gtk_box_pack_start(GTK_BOX(box), NewSwatch(row), TRUE, TRUE, 0);
     PlaceControl(table, box, row);
   });
 }
 
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows) {
   Dlg_MarkData_Parent = parent;
-  ForEachRow(rows, [table](DLG_MARKDATA& row) {
-    PlaceControl(table, NewSwatch({32, 36}, row), row);
-  });
+  ForEachRow(rows, [table](DLG_MARKDATA& row) { PlaceControl(table, NewSwatch(row), row); });
 }

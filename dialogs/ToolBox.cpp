@@ -5,6 +5,7 @@
 
 #include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
+#include "dialogs/ScreenRoom.h"
 #include "dialogs/ToolBoxPage.h"
 #include "layout/Commit.h"
 #include "layout/EditState.h"
@@ -60,11 +61,14 @@ void ToolBox_Destroy(GtkWidget* window, gpointer /*data*/) {
   if (ToolBox == window) ToolBox = nullptr;
 }
 
-void PlaceToolBox(GtkWindow* window, const POINT& place) {
-  if (place.x == 0 && place.y == 0)
-    gtk_window_set_position(window, GTK_WIN_POS_CENTER);
-  else
-    gtk_window_move(window, place.x, place.y);
+void PlaceToolBox(GtkWidget* window, const POINT& remembered) {
+  FitToScreen(window);
+  if (remembered.x == 0 && remembered.y == 0) {
+    gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
+    return;
+  }
+  const POINT place = PlaceOnScreen(window, remembered);
+  gtk_window_move(GTK_WINDOW(window), place.x, place.y);
 }
 
 // The menu's keys work in the panel as in the window that it belongs to. Opening leaves the
@@ -112,7 +116,6 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   ToolBox = dialog.Window;
   SetToolBoxContent(dialog.Window, dialog.Content);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
-  PlaceToolBox(GTK_WINDOW(dialog.Window), ToolBox_PointData[type - 1]);
   ToldOrigin.reset();
   g_signal_connect(dialog.Window, "configure-event", G_CALLBACK(ToolBox_Configure), nullptr);
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
@@ -122,6 +125,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
   SetDialogParent(dialog.Window, parent);
   ShareKeyboard(GTK_WINDOW(dialog.Window), parent);
+  PlaceToolBox(dialog.Window, ToolBox_PointData[type - 1]);
   gtk_widget_show(dialog.Window);
 }
 

@@ -53,9 +53,24 @@ void SetCommonRows(gint line, bool onePoint, bool registers) {
   ToolComn_Check[3].line = line + (registers ? 6 : 5);
 }
 
+// In digits of one width, so that figures stand below each other and do not dance.
+GtkWidget* NewReadOut() {
+  GtkWidget* label = NewLabel("");
+  PangoAttrList* look = pango_attr_list_new();
+  pango_attr_list_insert(look, pango_attr_family_new("monospace"));
+  gtk_label_set_attributes(GTK_LABEL(label), look);
+  pango_attr_list_unref(look);
+  return label;
+}
+
+// One page has a swatch in the same cell; the figures step aside for it.
 void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line, const gchar* name) {
-  KeepWidget(slot, NewLabel(""));
+  GtkWidget* shared = gtk_grid_get_child_at(GTK_GRID(table), 1, line);
+  GtkRequisition room = {0, 0};
+  if (shared != nullptr) gtk_widget_get_preferred_size(shared, nullptr, &room);
+  KeepWidget(slot, NewReadOut());
   SetAccessibleName(*slot, name);
+  if (shared != nullptr) gtk_widget_set_margin_start(*slot, room.width + 8);
   PlaceControl(table, *slot, line, 1, 2);
 }
 

@@ -17,13 +17,24 @@ void ShowSystemColours(DLG_COLRDATA* rows) {
     if (row->culm2 >= 3) row->culm1 = four ? row->culm2 : -1;
 }
 
-// A wider gap after the first column than between the others.
-void WidenFirstGap(GtkWidget* child, gpointer table) {
-  gint left = 0;
-  gint width = 0;
-  gtk_container_child_get(GTK_CONTAINER(table), child, "left-attach", &left, "width", &width,
-                          nullptr);
-  if (left == 0 && width == 1) gtk_widget_set_margin_end(child, 10);
+// A wider gap after the first column, the labels, than between the others, which are all as wide.
+void AlignColumns(GtkWidget* table) {
+  GtkSizeGroup* columns = gtk_size_group_new(GTK_SIZE_GROUP_HORIZONTAL);
+  GList* cells = gtk_container_get_children(GTK_CONTAINER(table));
+  for (GList* cell = cells; cell != nullptr; cell = cell->next) {
+    auto* widget = static_cast<GtkWidget*>(cell->data);
+    gint left = 0;
+    gint width = 0;
+    gtk_container_child_get(GTK_CONTAINER(table), widget, "left-attach", &left, "width", &width,
+                            nullptr);
+    if (width != 1) continue;
+    if (left == 0)
+      gtk_widget_set_margin_end(widget, 10);
+    else
+      gtk_size_group_add_widget(columns, widget);
+  }
+  g_list_free(cells);
+  g_object_unref(columns);
 }
 
 }  // namespace
@@ -67,5 +78,5 @@ void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
   }
   ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);
   NameControls(table);
-  gtk_container_foreach(GTK_CONTAINER(table), WidenFirstGap, table);
+  AlignColumns(table);
 }

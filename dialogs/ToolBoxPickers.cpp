@@ -96,6 +96,7 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
   gtk_widget_set_size_request(scrolled, 600, 300);
   gtk_container_set_border_width(GTK_CONTAINER(scrolled), 10);
   gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);
+  LeaveOutActions(dialog);
   RunModal(dialog.Window, parent);
   return SelectList;
 }

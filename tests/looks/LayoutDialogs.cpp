@@ -1,8 +1,8 @@
-#include "support/Resource.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "looks/Looks.h"
+#include "support/Resource.h"
 
 namespace {
 class LayoutDialogs : public LooksTest {
@@ -12,7 +12,9 @@ class LayoutDialogs : public LooksTest {
     constexpr struct {
       const char* Kind;
       const char* Name;
-    } Kinds[] = {{"親ウィンドウ", "layout-parent"}, {"子ウィンドウ", "layout-child"}, {"その他", "layout-other"}};
+    } Kinds[] = {{"親ウィンドウ", "layout-parent"},
+                 {"子ウィンドウ", "layout-child"},
+                 {"その他", "layout-other"}};
     for (const auto& kind : Kinds) {
       ChooseMenu(MenuBar(), {"ファイル", "レイアウトの新規作成", kind.Kind});
       ShowAndLeave(kind.Name + suffix, std::string("レイアウト情報の設定［") + kind.Kind + "］");
@@ -26,6 +28,7 @@ TEST_F(LayoutDialogs, Settings) {
 
 TEST_F(LayoutDialogs, SettingsInThreeLanguages) {
   Play([this] {
+    OpenSamples();
     PressKey(GDK_KEY_F3, {GDK_KEY_Control_L});
     EXPECT_TRUE(See([] { return Language == 2; }));
     ShowSettings("-3");

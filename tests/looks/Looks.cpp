@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 
 // Where a sample is picked, counted from its first point: on outlines beside the handles, inside
 // texts.
-constexpr POINT Grip[] = {{0, 0},  {24, 0}, {60, 24}, {24, 0}, {134, 14}, {24, 0}, {8, 8}, {8, 8},
-                          {8, 8},  {24, 0}, {8, 8},   {8, 8},  {24, 0},   {8, 0},  {24, 0}, {8, 0}};
+constexpr POINT Grip[] = {{0, 0}, {24, 0}, {60, 24}, {24, 0}, {134, 11}, {24, 0}, {8, 8},  {8, 8},
+                          {8, 8}, {24, 0}, {8, 8},   {8, 8},  {24, 0},   {8, 0},  {24, 0}, {8, 0}};
 
 std::string ReadText(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -27,7 +27,8 @@ std::string ReadText(const fs::path& path) {
 
 // What a user's folders hold: projects that are known and pictures.
 void FillHome(const fs::path& home, const fs::path& program) {
-  for (const char* name : {"Pictures", "Projects/Logic", "Projects/PumpStation", "Projects/WaterWorks"})
+  for (const char* name :
+       {"Pictures", "Projects/Logic", "Projects/PumpStation", "Projects/WaterWorks"})
     fs::create_directories(home / name);
   fs::copy_file(program / "Sample/WaterWorks.prj", home / "Projects/WaterWorks/WaterWorks.prj",
                 fs::copy_options::overwrite_existing);
@@ -57,6 +58,8 @@ void NameFolders(const fs::path& home, const fs::path& program) {
 }  // namespace
 
 LooksTest::LooksTest() {
+  // Pictures show no half-way looks.
+  g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
   const gchar* dpi = std::getenv("VARNIX_DPI");
   if (dpi != nullptr)
     g_object_set(gtk_settings_get_default(), "gtk-xft-dpi", std::atoi(dpi) * 1024, nullptr);
@@ -87,7 +90,8 @@ GtkWidget* LooksTest::PickSample(gint type) {
     for (gint no = 0; no < GetPtrnCount(); ++no) {
       const PTRNDATA* item = ViewPtrnData(no);
       if (item->Type == type)
-        return POINT{item->Parm[ItemSlot::X1] + Grip[type].x, item->Parm[ItemSlot::Y1] + Grip[type].y};
+        return POINT{item->Parm[ItemSlot::X1] + Grip[type].x,
+                     item->Parm[ItemSlot::Y1] + Grip[type].y};
     }
     return POINT{-1, -1};
   });

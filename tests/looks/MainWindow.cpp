@@ -1,6 +1,7 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
+#include "dialogs/ToolBox.h"
 #include "looks/Looks.h"
 
 namespace {
@@ -24,21 +25,25 @@ TEST_F(MainWindow, Menus) {
     ShowMenu("menu-file-new", {"ファイル", "レイアウトの新規作成"});
     ShowMenu("menu-edit", {"編集"});
     ShowMenu("menu-view", {"表示"});
-    for (const char* sub : {"ズーム", "非検出", "表示色", "言語"})
-      ShowMenu(std::string("menu-view-") + sub, {"表示", sub});
+    ShowMenu("menu-zoom", {"表示", "ズーム"});
+    ShowMenu("menu-unpickable", {"表示", "非検出"});
+    ShowMenu("menu-colour", {"表示", "表示色"});
+    ShowMenu("menu-language", {"表示", "言語"});
   });
 }
 
 TEST_F(MainWindow, RightButtonMenus) {
   Play([this] {
+    // Panels go as far to the right as the screen allows.
+    for (POINT& place : ToolBox_PointData) place = {9999, 60};
     OpenSamples();
-    ClickCanvas(20, 620, RightButton);
+    ClickCanvas(200, 120, RightButton);
     EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[0]) != FALSE; }));
     ShowScreen("popup-view", PtrnWnd);
     PressKey(GDK_KEY_Escape);
     PickSample(3);
     Show("window-selected", PtrnWnd);
-    ClickCanvas(20, 620, RightButton);
+    ClickCanvas(60, 480, RightButton);
     EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[1]) != FALSE; }));
     ShowScreen("popup-item", PtrnWnd);
     PressKey(GDK_KEY_Escape);

@@ -1,13 +1,12 @@
 #include "Constant.h"
-#include "support/Resource.h"
 #include "PtrnData.h"
 #include "looks/Looks.h"
+#include "support/Resource.h"
 
 namespace {
 class Panels : public LooksTest {
  protected:
   void ShowPanels(const std::string& prefix, std::initializer_list<gint> types) {
-    OpenSamples();
     for (const gint type : types) {
       Show(prefix + std::to_string(type), PickSample(type));
       Panel(PtrnTypeList[type - 1]).Press(" 再表示 ");
@@ -24,18 +23,23 @@ class Panels : public LooksTest {
 };
 
 TEST_F(Panels, EachType) {
-  Play([this] { ShowPanels("panel-", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}); });
+  Play([this] {
+    OpenSamples();
+    ShowPanels("panel-", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15});
+  });
 }
 
 TEST_F(Panels, InTwoColourSystems) {
   Play([this] {
     TwoColourSystems();
+    OpenSamples();
     ShowPanels("panel-two-colours-", {1, 2, 3, 5, 6, 13});
   });
 }
 
 TEST_F(Panels, InTwoLanguages) {
   Play([this] {
+    OpenSamples();
     PressKey(GDK_KEY_F2, {GDK_KEY_Control_L});
     EXPECT_TRUE(See([] { return Language == 1; }));
     ShowPanels("panel-two-languages-", {6, 9, 10, 11});
@@ -44,6 +48,7 @@ TEST_F(Panels, InTwoLanguages) {
 
 TEST_F(Panels, InThreeLanguages) {
   Play([this] {
+    OpenSamples();
     PressKey(GDK_KEY_F3, {GDK_KEY_Control_L});
     EXPECT_TRUE(See([] { return Language == 2; }));
     ShowPanels("panel-three-languages-", {6, 9, 10, 11});

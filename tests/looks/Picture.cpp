@@ -19,7 +19,9 @@ void Keep(const std::string& name, GdkWindow* window, const GdkRectangle& part) 
 
 // Nothing under the pointer is to look pressed or pointed at, and no cursor is to blink.
 void Rest(GtkWidget* window) {
-  Look([window] { g_object_set(gtk_widget_get_settings(window), "gtk-cursor-blink", FALSE, nullptr); });
+  Look([window] {
+    g_object_set(gtk_widget_get_settings(window), "gtk-cursor-blink", FALSE, nullptr);
+  });
   PointAway();
   Settle();
 }

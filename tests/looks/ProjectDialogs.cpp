@@ -10,7 +10,8 @@ const std::string OpenProject = "プロジェクトを開く";
 TEST_F(ProjectDialogs, SettingsPages) {
   Play([] {
     ChooseMenu(MenuBar(), {"ファイル", Settings});
-    for (const char* page : {"project-general", "project-parent", "project-child", "project-other"}) {
+    for (const char* page :
+         {"project-general", "project-parent", "project-child", "project-other"}) {
       Show(page, Settings);
       PressKey(GDK_KEY_Next, {GDK_KEY_Control_L});
     }
@@ -30,7 +31,7 @@ TEST_F(ProjectDialogs, FolderChooser) {
   Play([] {
     const std::string title = "プロジェクト領域へのパス";
     ChooseMenu(MenuBar(), {"ファイル", Settings});
-    Panel(Settings).Press("参照");
+    Click(Panel(Settings).Control({"プロジェクト情報格納先フォルダー", 4}, GTK_TYPE_BUTTON));
     ClickRow(SeeWindow(title), "Projects");
     ShowAndLeave("folder-chooser", title);
     EscapeFrom(Settings);

@@ -36,8 +36,8 @@ std::string Named(GtkWidget* widget) {
   const gchar* text = GTK_IS_LABEL(widget) ? gtk_label_get_text(GTK_LABEL(widget)) : "";
   const GdkRectangle area = Area(widget);
   std::ostringstream name;
-  name << G_OBJECT_TYPE_NAME(widget) << " \"" << text << "\" at " << area.x << ", " << area.y << ", "
-       << area.width << " x " << area.height;
+  name << G_OBJECT_TYPE_NAME(widget) << " \"" << text << "\" at " << area.x << ", " << area.y
+       << ", " << area.width << " x " << area.height;
   return name.str();
 }
 
@@ -60,8 +60,8 @@ void CheckRoom(GtkWidget* widget) {
   gtk_widget_get_preferred_size(widget, &least, nullptr);
   const gint width = gtk_widget_get_allocated_width(widget) + gtk_widget_get_margin_start(widget) +
                      gtk_widget_get_margin_end(widget);
-  const gint height = gtk_widget_get_allocated_height(widget) +
-                      gtk_widget_get_margin_top(widget) + gtk_widget_get_margin_bottom(widget);
+  const gint height = gtk_widget_get_allocated_height(widget) + gtk_widget_get_margin_top(widget) +
+                      gtk_widget_get_margin_bottom(widget);
   EXPECT_GE(width, least.width) << Named(widget) << " is squeezed";
   EXPECT_GE(height, least.height) << Named(widget) << " is squeezed";
 }
@@ -86,16 +86,25 @@ void CheckTexts(GtkWidget* widget) {
   if (GTK_IS_CELL_VIEW(widget)) {
     GtkRequisition whole;
     gtk_widget_get_preferred_size(widget, nullptr, &whole);
-    EXPECT_GE(gtk_widget_get_allocated_width(widget), whole.width) << Named(widget) << " cuts its text";
+    EXPECT_GE(gtk_widget_get_allocated_width(widget), whole.width)
+        << Named(widget) << " cuts its text";
   }
+}
+
+// The part of a cell that its control really takes.
+GdkRectangle Ink(GtkWidget* widget) {
+  GdkRectangle area = Area(widget);
+  if (GTK_IS_BOX(widget) && Children(widget).size() == 1) return Ink(Children(widget)[0]);
+  if (GTK_IS_DRAWING_AREA(widget)) gtk_widget_get_size_request(widget, &area.width, nullptr);
+  return area;
 }
 
 void CheckApart(GtkWidget* grid) {
   const std::vector<GtkWidget*> children = Children(grid);
   for (gsize i = 0; i < children.size(); ++i)
     for (gsize j = i + 1; j < children.size(); ++j) {
-      const GdkRectangle first = Area(children[i]);
-      const GdkRectangle second = Area(children[j]);
+      const GdkRectangle first = Ink(children[i]);
+      const GdkRectangle second = Ink(children[j]);
       EXPECT_FALSE(gdk_rectangle_intersect(&first, &second, nullptr))
           << Named(children[i]) << " and " << Named(children[j]) << " lie over each other";
     }
