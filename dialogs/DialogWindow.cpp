@@ -32,7 +32,9 @@ DialogWindow NewDialogWindow(const gchar* title) {
   g_signal_connect(dialog.Window, "key-press-event", G_CALLBACK(CloseOnEscape), nullptr);
 
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
-  dialog.Content = AddScrollableContent(dialog.Window, box);
+  dialog.Content = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+  gtk_box_pack_start(GTK_BOX(box), dialog.Content, TRUE, TRUE, 0);
+  SetDialogContent(dialog.Window, dialog.Content);
   dialog.Actions = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
   gtk_container_set_border_width(GTK_CONTAINER(dialog.Actions), 10);
   GtkWidget* footer = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);

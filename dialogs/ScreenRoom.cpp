@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/Accessible.h"
 #include "layout/Screen.h"
 
 namespace {
@@ -27,30 +28,40 @@ gint NaturalHeight(GtkWidget* widget) {
   return natural.height;
 }
 
-}  // namespace
-
-GtkWidget* AddScrollableContent(GtkWidget* window, GtkWidget* box) {
-  GtkWidget* content = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
+// Puts the content into a scrolled window of this height, where it stood in its box.
+void MakeScrolled(GtkWidget* window, GtkWidget* content, gint height) {
+  GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(window));
+  GtkWidget* box = gtk_widget_get_parent(content);
   GtkWidget* scrolled = gtk_scrolled_window_new(nullptr, nullptr);
-  gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scrolled), GTK_POLICY_NEVER, GTK_POLICY_NEVER);
+  SetAccessibleName(scrolled, gtk_window_get_title(GTK_WINDOW(window)));
+  gtk_scrolled_window_set_policy(GTK_SCROLLED_WINDOW(scrolled), GTK_POLICY_NEVER,
+                                 GTK_POLICY_ALWAYS);
+  gtk_scrolled_window_set_min_content_height(GTK_SCROLLED_WINDOW(scrolled), height);
   // Over the content the bar would cover its right edge.
   gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(scrolled), FALSE);
+  g_object_ref(content);
+  gtk_container_remove(GTK_CONTAINER(box), content);
   gtk_container_add(GTK_CONTAINER(scrolled), content);
+  g_object_unref(content);
   gtk_viewport_set_shadow_type(GTK_VIEWPORT(gtk_widget_get_parent(content)), GTK_SHADOW_NONE);
   gtk_box_pack_start(GTK_BOX(box), scrolled, TRUE, TRUE, 0);
+  gtk_box_reorder_child(GTK_BOX(box), scrolled, 0);
+  gtk_widget_show(gtk_widget_get_parent(content));
+  gtk_widget_show(scrolled);
+  if (focus != nullptr) gtk_window_set_focus(GTK_WINDOW(window), focus);
+}
+
+}  // namespace
+
+void SetDialogContent(GtkWidget* window, GtkWidget* content) {
   g_object_set_data(G_OBJECT(window), ContentKey, content);
-  return content;
 }
 
 void FitToScreen(GtkWidget* window) {
   auto* content = static_cast<GtkWidget*>(g_object_get_data(G_OBJECT(window), ContentKey));
   if (content == nullptr) return;
   const gint surplus = NaturalHeight(window) + FrameRoom.cy - Screen(window).height;
-  if (surplus <= 0) return;
-  auto* scrolled = GTK_SCROLLED_WINDOW(gtk_widget_get_ancestor(content, GTK_TYPE_SCROLLED_WINDOW));
-  gtk_scrolled_window_set_policy(scrolled, GTK_POLICY_NEVER, GTK_POLICY_ALWAYS);
-  gtk_scrolled_window_set_min_content_height(scrolled,
-                                             std::max(NaturalHeight(content) - surplus, 1));
+  if (surplus > 0) MakeScrolled(window, content, std::max(NaturalHeight(content) - surplus, 1));
 }
 
 POINT PlaceOnScreen(GtkWidget* window, const POINT& place) {

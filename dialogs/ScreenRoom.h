@@ -5,8 +5,8 @@
 
 #include "Types.h"
 
-// Adds to the window's vertical box the box that the dialog is filled into.
-GtkWidget* AddScrollableContent(GtkWidget* window, GtkWidget* box);
+// Tells which child of a vertical box in the window scrolls where the screen is too low for all.
+void SetDialogContent(GtkWidget* window, GtkWidget* content);
 // Makes a filled dialog no higher than the screen.
 void FitToScreen(GtkWidget* window);
 // Where the window lies whole on the screen, as near to `place` as can be.

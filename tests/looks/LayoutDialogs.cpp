@@ -52,7 +52,7 @@ TEST_F(LayoutDialogs, CloseAndOverwrite) {
     Panel("矩形").Enter(Cell{"線幅"}, 4);
     Panel("矩形").Press(" 登録 ");
     EXPECT_TRUE(See([] { return PtrnFlag == 2; }));
-    ChooseMenu(MenuBar(), {"ファイル", "レイアウトを閉じる"});
+    PressKey(GDK_KEY_w, {GDK_KEY_Control_L});
     Show("layout-close", "レイアウトを閉じる");
     Panel("レイアウトを閉じる").Press(" 保存 ");
     ShowAndLeave("message-2", "レイアウト保存");
