@@ -37,6 +37,7 @@ TEST_F(MainWindow, RightButtonMenus) {
     // Panels go as far to the right as the screen allows.
     for (POINT& place : ToolBox_PointData) place = {9999, 60};
     OpenSamples();
+    Show("window-samples", PtrnWnd);
     ClickCanvas(200, 120, RightButton);
     EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[0]) != FALSE; }));
     ShowScreen("popup-view", PtrnWnd);
