@@ -23,10 +23,10 @@ program=$(cd "$1" && pwd)
 source=$2
 state=$(cd "$3" && pwd)
 # The designer and its projects have 257 bytes for the path of a file in the folder.
-[ ${#program} -le 230 ] && [[ $program != *$'\n'* ]] || {
+if [ ${#program} -gt 230 ] || [[ $program = *$'\n'* ]]; then
   echo "fill-program-folder.sh: the path is too long or has a line end: $program" >&2
   exit 1
-}
+fi
 
 # Two at once take turns.
 exec 9>"$state/lock"
@@ -132,8 +132,9 @@ is_kept() { # FILE, relative
 
 update_profile
 while IFS= read -r -d '' file; do
-  [ "$file" != ./VarnixMaster.ini ] && ! is_kept "$file" && wanted "$file" || continue
-  put "$fresh/$file" "$program/$file"
+  if [ "$file" != ./VarnixMaster.ini ] && ! is_kept "$file" && wanted "$file"; then
+    put "$fresh/$file" "$program/$file"
+  fi
 done < <(files_of "$fresh")
 # What is no longer shipped goes, unless it was changed there.
 while IFS= read -r -d '' file; do

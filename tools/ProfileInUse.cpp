@@ -21,7 +21,7 @@ bool HoldsProfile(const std::string& folder) {
 
 // The tool stands in a program folder, or where a package or an unpacked archive put it.
 std::string DesignerFolder() {
-  const std::string own = ExecutableFolder();
+  std::string own = ExecutableFolder();
   for (const std::string& folder :
        {own, own + "/../program", std::string(g_get_user_data_dir()) + "/VarnixMaster",
         own + "/../share/VarnixMaster"})

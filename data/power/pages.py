@@ -84,11 +84,11 @@ def system_page(codes, system):
     panel(layout, 16, 52, 1248, 264, ("主系統", "Main line", "Hauptstrang"))
     diagram(layout, 32, 88, 1216, prefix, system["medium"], system["equipment"])
     top, height = 328, 556
-    step = height // 7
     panel(layout, 16, top, 616, height, ("計測値", "Measurements", "Messwerte"))
-    measurements(layout, 16, top + 46, 616, step, prefix, system["measures"])
+    measurements(layout, 16, top + 56, 616, 480 // len(system["measures"]), prefix,
+                 system["measures"])
     panel(layout, 644, top, 620, height, ("機器状態", "Equipment", "Maschinen"))
-    states(layout, 648, top + 36, 604, step, prefix, system["machines"])
+    states(layout, 648, top + 36, 604, 460 // len(system["machines"]), prefix, system["machines"])
     layout.frame(16, 896, 1248, 64, PANEL, BORDER)
     layout.text(32, 920, ("運転モード", "Mode", "Betriebsart"), LARGE, TEXT, 120)
     layout.radio(170, 919, 130, (("自動", "Auto", "Auto"), ("手動", "Manual", "Hand")),
