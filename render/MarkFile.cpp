@@ -1,12 +1,17 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "render/ResourceFile.h"
+
+namespace {
+
+ResourceFile Marks("PtrnMark", MarkData);
+
+}  // namespace
 
 void LoadMarkFile() {
-  FileRead(ProjPath, "PtrnMark", "", MarkData, sizeof MarkData, 0);
+  Marks.Load();
   SetDrawMark();
 }
 
 void SaveMarkFile() {
   SetDrawMark();
-  FileWrite(ProjPath, "PtrnMark", "", MarkData, sizeof MarkData, 0);
+  Marks.Save();
 }

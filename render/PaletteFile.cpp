@@ -1,15 +1,17 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "render/ResourceFile.h"
+
+namespace {
+
+ResourceFile Palette("PtrnColr", ColrData);
+
+}  // namespace
 
 void LoadColrFile() {
-  FileRead(ProjPath, "PtrnColr", "", ColrData, sizeof ColrData, 0);
+  Palette.Load();
   SetDrawColr();
 }
 
 void SaveColrFile() {
   SetDrawColr();
-  // The settings of the first project show the palette editor before there is a folder.
-  if (ProjPath[0] != '\0') {
-    FileWrite(ProjPath, "PtrnColr", "", ColrData, sizeof ColrData, 0);
-  }
+  Palette.Save();
 }

@@ -6,6 +6,20 @@
 #include <cerrno>
 #include <utility>
 
+namespace {
+
+// Takes a step that ends with 0 again for as long as the system interrupts it.
+template <typename Step>
+bool Succeeds(Step step) {
+  int result = 0;
+  do {
+    result = step();
+  } while (result != 0 && errno == EINTR);
+  return result == 0;
+}
+
+}  // namespace
+
 FileHandle::FileHandle(FileHandle&& other) noexcept
     : descriptor_(std::exchange(other.descriptor_, -1)) {}
 
@@ -18,8 +32,21 @@ FileHandle::~FileHandle() {
   if (descriptor_ >= 0) close(descriptor_);
 }
 
+bool FileHandle::Close() {
+  // An interrupted close has closed all the same.
+  return close(std::exchange(descriptor_, -1)) == 0 || errno == EINTR;
+}
+
+FileHandle FileHandle::Open(const char* path, int flags, mode_t mode) {
+  int descriptor = -1;
+  do {
+    descriptor = open(path, flags | O_CLOEXEC, mode);
+  } while (descriptor < 0 && errno == EINTR);
+  return FileHandle(descriptor);
+}
+
 FileHandle FileHandle::OpenToRead(const char* path) {
-  return FileHandle(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  return Open(path, O_RDONLY | O_NONBLOCK);
 }
 
 ssize_t FileHandle::ReadAt(void* buffer, std::size_t size, off_t offset) const {
@@ -44,4 +71,12 @@ bool FileHandle::WriteAt(std::string_view bytes, off_t offset) const {
     offset += count;
   }
   return true;
+}
+
+bool FileHandle::SetLength(off_t length) const {
+  return Succeeds([this, length] { return ftruncate(descriptor_, length); });
+}
+
+bool FileHandle::Flush() const {
+  return Succeeds([this] { return fsync(descriptor_); });
 }

@@ -3,6 +3,7 @@
 #include <fnmatch.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <new>
 #include <stdexcept>
 
@@ -23,6 +24,11 @@ std::optional<std::string> ReadWholeFile(const std::string& path, std::size_t li
   return std::nullopt;
 } catch (const std::length_error&) {
   return std::nullopt;
+}
+
+bool IsMissing(const std::string& path) {
+  struct stat status;
+  return stat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
 bool VisitFiles(const std::string& folder, const char* pattern,

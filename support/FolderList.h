@@ -14,6 +14,6 @@ struct FolderCloser {
 using FolderHandle = std::unique_ptr<DIR, FolderCloser>;
 
 // Names of all regular files, hidden ones included, in the folder's own order; nothing when it
-// cannot be opened. The list is complete before anybody acts on it: a folder that changes while it
-// is being read may show an entry twice.
+// cannot be read to its end. The list is complete before anybody acts on it: a folder that changes
+// while it is being read may show an entry twice.
 std::optional<std::vector<std::string>> RegularFileNames(const std::string& folder);

@@ -11,9 +11,6 @@
 
 namespace {
 
-// Far above any profile; keeps a foreign file from being searched for keys.
-constexpr std::size_t ProfileLimit = 16u << 20;
-
 // Locks the folder, not the profile, which is another file after each change. Waits for at most a
 // second: whoever is stopped with the lock in his hand must not stop everybody else.
 FileHandle LockFolderOf(const std::string& path) {
@@ -36,7 +33,7 @@ std::string ProfilePath(const gchar* profname) {
 }
 
 std::optional<std::string> LoadProfile(const std::string& path) {
-  if (FileSize(path.c_str(), "", "") < 1) return std::string();
+  if (IsMissing(path)) return std::string();
   return ReadWholeFile(path, ProfileLimit);
 }
 

@@ -7,6 +7,9 @@
 #include <optional>
 #include <string>
 
+// Far above any profile; keeps a foreign file from being searched for keys.
+constexpr std::size_t ProfileLimit = 16u << 20;
+
 // Path of a profile; "" names the designer's own.
 std::string ProfilePath(const gchar* profname);
 // The text, "" for a missing or empty file; nothing when a file is there but cannot be read.

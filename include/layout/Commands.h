@@ -19,6 +19,8 @@ void PtrnExit(GtkWidget* widget, gpointer data);
 
 // Offers to save a changed layout. 1 = go on, the layout is released; 0 = the user cancelled.
 gint SavePtrnData();
+// Writes the open layout to its file; false when it could not be written.
+bool SaveLayout();
 // Begin and end the editing of a layout.
 void PtrnDataInit();
 void PtrnDataExit();

@@ -1,6 +1,7 @@
 // The project's code registry "PtrnCode" and string lists "PtrnText1".."PtrnText3".
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -20,7 +21,10 @@ bool RegisterCode(std::vector<PTRNCODE>& registry, std::string_view code, gint n
 gint CodeSlots(gint no);
 // A new registry: the record that reserves the system's 100 slots.
 PTRNCODE SystemCode();
-// The records of a registry file; empty when it is missing.
+// The records of the registry file, none when it is missing; nothing when it is there but cannot be
+// read.
+std::optional<std::vector<PTRNCODE>> LoadPtrnCode();
+// The same, with none for a file that cannot be read.
 std::vector<PTRNCODE> ReadPtrnCode();
 // Writes all records at once; 1 or 0.
 gint WritePtrnCode(const std::vector<PTRNCODE>& registry);

@@ -26,6 +26,8 @@ void AddPtrnData(const PTRNDATA* in);
 PTRNDATA* AddEmptyPtrnData(gint count);
 // Removes the last `count` items.
 void DropLastPtrnData(gint count);
+// Removes the first `count` items.
+void DropFirstPtrnData(gint count);
 // Makes room for `count` more items, so that adding them does not move the others.
 void MakeRoomForPtrnData(gint count);
 // Removes an item, the later ones move down.
@@ -44,9 +46,17 @@ void PtrnFileWrite(const gchar* path, const gchar* name);
 // Fills EditHedr for a new layout: 0 parent window, 1 child window, else other.
 void PtrnFileInit(gint type);
 
-// How whole a layout file is.
+// How whole a layout file is. One that cannot be read counts as broken.
 enum class LayoutFileState { Whole, Missing, Broken };
 // Looks at the file's size and counts alone; reads nothing into the store.
 LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name);
-// As PtrnFileWrite, and tells whether the file was written.
+// What a damaged layout file still holds must outlive its rewriting: copies it to "<name>.ptn.bak".
+// False when that failed, so that the file must not be written.
+bool KeepDamagedPtrnFile(const gchar* path, const gchar* name);
+// Short = missing, not whole, or without items. Failed = the device or the memory was at fault:
+// what the store holds then is less than the file does and must not be written back.
+enum class LayoutReading { Whole, Short, Failed };
+// As PtrnFileRead, and tells why.
+LayoutReading ReadPtrnFile(const gchar* path, const gchar* name);
+// As PtrnFileWrite, and tells whether the file was written. Without folder or name it is not.
 bool WritePtrnFile(const gchar* path, const gchar* name);

@@ -1,7 +1,4 @@
-// Checking the layout settings, and noting the start and exit screen in the project.
-#include <cstring>
-
-#include "ProjData.h"
+// Checking the layout settings.
 #include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
@@ -44,15 +41,6 @@ const gchar* FirstError() {
   return nullptr;
 }
 
-// The project's screen becomes this layout when it is marked as such, and nothing when it was this
-// layout and is not marked any more.
-void RenewScreen(gint marked, gchar (&screen)[82]) {
-  if (marked != 0)
-    CopyText(screen, FieldText(EditHedr.PtrnName1));
-  else if (FieldText(screen) == FieldText(EditHedr.PtrnName1))
-    CopyText(screen, "");
-}
-
 }  // namespace
 
 gint EditPtrnData_Check() {
@@ -60,15 +48,4 @@ gint EditPtrnData_Check() {
   if (message == nullptr) return 1;
   Dlg_MessageBox(EditLayoutWindow, "入力エラー", message, "", 1);
   return 0;
-}
-
-gint EditPtrnData_Renew() {
-  RenewScreen(EditHedr.Parm2[ViewSlot::StartScreen], ProjData.PtrnStart);
-  RenewScreen(EditHedr.Parm2[ViewSlot::StopScreen], ProjData.PtrnStop);
-  PROJFILE file;
-  const gint read = FileRead(ProjPath, ProjName, "prj", &file, sizeof file, 0);
-  if (read != 1) return read;
-  CopyText(file.Data.PtrnStart, FieldText(ProjData.PtrnStart));
-  CopyText(file.Data.PtrnStop, FieldText(ProjData.PtrnStop));
-  return FileWrite(ProjPath, ProjName, "prj", &file, sizeof file, 0);
 }

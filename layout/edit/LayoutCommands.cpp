@@ -68,7 +68,12 @@ void PtrnDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
   }
   PtrnFlag = 1;
   PtrnDataInit();
-  PtrnFileRead(ProjPath, PtrnName);
+  // What the device delivers in part is not opened: saving it would lose the rest. A file that is
+  // missing or damaged opens with what there is.
+  if (ReadPtrnFile(ProjPath, PtrnName) == LayoutReading::Failed) {
+    PtrnDataExit();
+    return;
+  }
   PtrnHedr.Parm2[ViewSlot::Zoom] = ProfileZoom();
   ShowLayout();
 }
@@ -83,7 +88,7 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
       return;
     }
     // What could not be saved stays open, silently: closing would lose it.
-    if (answer == Save && !WritePtrnFile(ProjPath, PtrnName)) {
+    if (answer == Save && !SaveLayout()) {
       return;
     }
   }
@@ -93,7 +98,7 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
 // The snapshots go, their count stays: undoing right after a save empties the store.
 void PtrnDataSave([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (PtrnFlag != 2 || !WritePtrnFile(ProjPath, PtrnName)) {
+  if (PtrnFlag != 2 || !SaveLayout()) {
     return;
   }
   PtrnFlag = 1;

@@ -19,6 +19,10 @@ void PtrnDataInit() {
   SetCursor(CursorPlain);
 }
 
+bool SaveLayout() {
+  return KeepDamagedPtrnFile(ProjPath, PtrnName) && WritePtrnFile(ProjPath, PtrnName);
+}
+
 void PtrnDataExit() {
   ExtPtrnData();
   PtrnSaveExit();

@@ -30,7 +30,7 @@ gint SavePtrnData() {
       return 0;
     }
     // A layout that could not be saved is not released.
-    if (answer == AnswerSave && !WritePtrnFile(ProjPath, PtrnName)) {
+    if (answer == AnswerSave && !SaveLayout()) {
       return 0;
     }
   }

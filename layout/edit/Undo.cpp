@@ -7,6 +7,7 @@
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "support/FileTools.h"
 
 gchar PtrnSavePath[258];
 gchar PtrnSaveName[10][82];
@@ -18,17 +19,28 @@ constexpr gint SlotCount = 10;
 constexpr const gchar* SlotExtension = "ptn";
 
 void DeleteSlot(gint slot) {
-  FileDelete(PtrnSavePath, PtrnSaveName[slot], SlotExtension);
+  // Before the slots have names there are none.
+  if (PtrnSavePath[0] != '\0') {
+    FileDelete(PtrnSavePath, PtrnSaveName[slot], SlotExtension);
+  }
 }
 
-// Drops the oldest snapshot and frees the last slot.
-void ShiftSlots() {
+bool IsEmptySlot(gint slot) {
+  return IsMissing(JoinPath(PtrnSavePath, PtrnSaveName[slot], SlotExtension));
+}
+
+// Drops the oldest snapshot and frees the last slot. False when the others could not move up.
+bool ShiftSlots() {
   for (gint slot = 0; slot + 1 < SlotCount; ++slot) {
     DeleteSlot(slot);
-    FileRename(PtrnSavePath, PtrnSaveName[slot + 1], SlotExtension, PtrnSaveName[slot],
-               SlotExtension);
+    if (FileRename(PtrnSavePath, PtrnSaveName[slot + 1], SlotExtension, PtrnSaveName[slot],
+                   SlotExtension) == 0 &&
+        !IsEmptySlot(slot + 1)) {
+      return false;
+    }
   }
   DeleteSlot(SlotCount - 1);
+  return true;
 }
 
 }  // namespace
@@ -53,33 +65,32 @@ void PtrnSaveExit() {
   }
 }
 
-// A snapshot that could not be written does not count: undoing to it would lose the layout.
+// A snapshot that could not be written does not count: undoing to it would lose the layout. A
+// history with a gap would lose it too, so one that cannot move up is given up.
 void PushPtrnData() {
-  if (PtrnSaveCount >= SlotCount) {
-    ShiftSlots();
-    PtrnSaveCount = SlotCount;
-  } else {
-    ++PtrnSaveCount;
+  gint slot = PtrnSaveCount;
+  if (slot >= SlotCount) {
+    slot = ShiftSlots() ? SlotCount - 1 : 0;
   }
-  const gchar* name = PtrnSaveName[PtrnSaveCount - 1];
-  FileDelete(PtrnSavePath, name, SlotExtension);
-  PtrnFileWrite(PtrnSavePath, name);
-  if (FileExist(PtrnSavePath, name, SlotExtension) == 0) {
-    --PtrnSaveCount;
-  }
+  PtrnSaveCount = WritePtrnFile(PtrnSavePath, PtrnSaveName[slot]) ? slot + 1 : slot;
   SetMainMenu();
 }
 
-// The grid display is no part of the history; everything else goes back, the zoom included.
+// The grid display is no part of the history; everything else goes back, the zoom included. A
+// snapshot that the device cannot deliver changes nothing.
 void PopPtrnData() {
   if (PtrnSaveCount <= 0) {
     return;
   }
-  ExtPtrnData();
-  IntPtrnData();
+  const PTRNHEDR header = PtrnHedr;
+  const gint count = GetPtrnCount();
+  if (ReadPtrnFile(PtrnSavePath, PtrnSaveName[PtrnSaveCount - 1]) == LayoutReading::Failed) {
+    PtrnHedr = header;
+    DropLastPtrnData(GetPtrnCount() - count);
+    return;
+  }
+  DropFirstPtrnData(count);
   --PtrnSaveCount;
-  const gint grid = PtrnHedr.Parm2[ViewSlot::GridShown];
-  PtrnFileRead(PtrnSavePath, PtrnSaveName[PtrnSaveCount]);
-  PtrnHedr.Parm2[ViewSlot::GridShown] = grid;
+  PtrnHedr.Parm2[ViewSlot::GridShown] = header.Parm2[ViewSlot::GridShown];
   SetMainMenu();
 }

@@ -9,12 +9,18 @@ constexpr gchar RegistryName[] = "PtrnCode";
 
 }  // namespace
 
-std::vector<PTRNCODE> ReadPtrnCode() {
-  std::vector<PTRNCODE> registry = ReadRecords<PTRNCODE>(ProjPath, RegistryName);
-  for (PTRNCODE& record : registry) {
-    record.ID_Code[sizeof record.ID_Code - 1] = '\0';
+std::optional<std::vector<PTRNCODE>> LoadPtrnCode() {
+  auto registry = ReadRecords<PTRNCODE>(ProjPath, RegistryName);
+  if (registry) {
+    for (PTRNCODE& record : *registry) {
+      record.ID_Code[sizeof record.ID_Code - 1] = '\0';
+    }
   }
   return registry;
+}
+
+std::vector<PTRNCODE> ReadPtrnCode() {
+  return LoadPtrnCode().value_or(std::vector<PTRNCODE>());
 }
 
 gint WritePtrnCode(const std::vector<PTRNCODE>& registry) {
@@ -22,19 +28,19 @@ gint WritePtrnCode(const std::vector<PTRNCODE>& registry) {
 }
 
 void RegstPtrnCode(const gchar* code, gint no) {
+  std::optional<std::vector<PTRNCODE>> registry = LoadPtrnCode();
+  if (!registry) {
+    return;
+  }
   bool changed = false;
-  std::vector<PTRNCODE> registry = ReadPtrnCode();
-  if (registry.empty()) {
-    if (HoldsRecords<PTRNCODE>(ProjPath, RegistryName)) {
-      return;  // there, but it cannot be read: better no entry than a lost registry
-    }
-    registry.push_back(SystemCode());
+  if (registry->empty()) {
+    registry->push_back(SystemCode());
     changed = true;
   }
-  if (RegisterCode(registry, code, no)) {
+  if (RegisterCode(*registry, code, no)) {
     changed = true;
   }
   if (changed) {
-    WritePtrnCode(registry);
+    WritePtrnCode(*registry);
   }
 }

@@ -8,6 +8,7 @@ void FilePieces::Begin(const FileHandle& file, gint64 offset, gint64 size) {
   left_ = size;
   begin_ = 0;
   end_ = 0;
+  failed_ = false;
   Refill();
 }
 
@@ -23,6 +24,7 @@ void FilePieces::Refill() {
     next_ += come;
     left_ -= come;
   } else {
+    failed_ = come < 0;
     left_ = 0;
   }
   std::memset(piece_.data() + end_, 0, MostAhead);

@@ -16,6 +16,8 @@ class FilePieces {
   const char* Ahead(std::size_t size);
   // Passes over bytes that were asked for; false when they go past the end.
   bool Skip(std::size_t size);
+  // Whether the system could not deliver a piece.
+  bool Failed() const { return failed_; }
 
   static constexpr std::size_t MostAhead = 512;
 
@@ -29,6 +31,7 @@ class FilePieces {
   gint64 left_ = 0;  // number of those bytes
   std::size_t begin_ = 0;
   std::size_t end_ = 0;
+  bool failed_ = false;
   std::array<char, PieceSize + MostAhead> piece_;
 };
 

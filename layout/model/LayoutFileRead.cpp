@@ -76,20 +76,27 @@ bool ReadItems(LayoutInput& input) {
   return whole;
 }
 
-gint ReadLayout(LayoutInput& input) {
+bool ReadLayout(LayoutInput& input) {
   if (!input.IsOpen() || !ReadHeader(input, PtrnHedr)) {
-    return 0;
+    return false;
   }
-  return ReadItems(input) && PtrnHedr.TextSize != 0 && input.HoldsTexts() ? 1 : 0;
+  return ReadItems(input) && PtrnHedr.TextSize != 0 && input.HoldsTexts();
 }
 
 }  // namespace
 
-gint PtrnFileRead(const gchar* path, const gchar* name) {
+LayoutReading ReadPtrnFile(const gchar* path, const gchar* name) {
   try {
     LayoutInput input(JoinPath(path, name, "ptn"));
-    return ReadLayout(input);
+    const bool whole = ReadLayout(input);
+    return input.Failed() ? LayoutReading::Failed
+           : whole        ? LayoutReading::Whole
+                          : LayoutReading::Short;
   } catch (const std::bad_alloc&) {
-    return 0;
+    return LayoutReading::Failed;
   }
+}
+
+gint PtrnFileRead(const gchar* path, const gchar* name) {
+  return ReadPtrnFile(path, name) == LayoutReading::Whole ? 1 : 0;
 }

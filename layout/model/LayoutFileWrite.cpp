@@ -113,6 +113,10 @@ FileBytes LayoutBytes() {
 }  // namespace
 
 bool WritePtrnFile(const gchar* path, const gchar* name) {
+  // A layout without a name would become a hidden file, one without a folder a file somewhere.
+  if (*path == '\0' || *name == '\0') {
+    return false;
+  }
   try {
     const FileBytes bytes = LayoutBytes();
     return ReplaceFile(JoinPath(path, name, "ptn"), {bytes.data(), bytes.size()});

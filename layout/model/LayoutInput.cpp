@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <bit>
+#include <cerrno>
 #include <cstdint>
 #include <cstring>
 
@@ -61,12 +62,20 @@ const char* TakeText(gchar (&field)[Size], const char* from, std::size_t limit) 
   return from + limit + 1;
 }
 
+// Why a name cannot be opened though nothing is wrong with the system.
+bool IsRefusal(int error) {
+  return error == ENOENT || error == ENOTDIR || error == EACCES || error == EPERM ||
+         error == ENAMETOOLONG || error == ELOOP || error == ENXIO;
+}
+
 }  // namespace
 
 LayoutInput::LayoutInput(const std::string& path) {
   FileHandle file = FileHandle::OpenToRead(path.c_str());
   struct stat status;
-  if (file && fstat(file.Get(), &status) == 0 && S_ISREG(status.st_mode)) {
+  if (!file || fstat(file.Get(), &status) != 0) {
+    failed_ = !IsRefusal(errno);
+  } else if (S_ISREG(status.st_mode)) {
     file_ = std::move(file);
     size_ = status.st_size;
   }
@@ -74,7 +83,9 @@ LayoutInput::LayoutInput(const std::string& path) {
 
 bool LayoutInput::ReadHeader(PTRNHEDR& header) {
   PTRNHEDR read;
-  if (file_.ReadAt(&read, sizeof read, 0) != static_cast<ssize_t>(sizeof read)) {
+  const ssize_t come = file_.ReadAt(&read, sizeof read, 0);
+  if (come != static_cast<ssize_t>(sizeof read)) {
+    failed_ = come < 0;
     return false;
   }
   header = read;

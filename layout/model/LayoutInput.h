@@ -14,6 +14,9 @@ class LayoutInput {
   // Opens a regular file; anything else (a folder, a pipe) counts as not open.
   explicit LayoutInput(const std::string& path);
 
+  // True when the system could not deliver what is there; a file that is missing, forbidden or no
+  // regular one is merely not open.
+  bool Failed() const { return failed_ || records_.Failed() || texts_.Failed(); }
   bool IsOpen() const { return static_cast<bool>(file_); }
   // The header, untouched, and goes to the first record and its texts. False when the file ends
   // before; what follows here is not for such a file.
@@ -31,6 +34,7 @@ class LayoutInput {
 
  private:
   FileHandle file_;
+  bool failed_ = false;
   gint64 size_ = 0;
   gint recordsHeld_ = 0;
   bool holdsTexts_ = false;

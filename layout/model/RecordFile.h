@@ -1,39 +1,37 @@
-// Files that are nothing but records of one kind, one after the other.
+// Files that are nothing but records of one kind, one after the other, in the project folder.
 #pragma once
 
+#include <cstring>
 #include <new>
+#include <optional>
+#include <string>
 #include <vector>
 
+#include "support/FileTools.h"
 #include "support/Files.h"
 
-// Whether the file is there and large enough for a record.
+// All whole records, none of a missing file; nothing when the file is there but cannot be read.
+// Whoever enters a record in such a file leaves it alone: better no entry than a lost file.
 template <typename Record>
-bool HoldsRecords(const gchar* folder, const gchar* name) {
-  return FileSize(folder, name, "") >= static_cast<gint>(sizeof(Record));
-}
-
-// All whole records; none when the file is missing or unreadable.
-template <typename Record>
-std::vector<Record> ReadRecords(const gchar* folder, const gchar* name) {
+std::optional<std::vector<Record>> ReadRecords(const gchar* folder, const gchar* name) try {
   std::vector<Record> records;
-  if (!HoldsRecords<Record>(folder, name)) {
-    return records;
-  }
-  const gint count = FileSize(folder, name, "") / static_cast<gint>(sizeof(Record));
-  try {
-    records.resize(static_cast<std::size_t>(count));
-  } catch (const std::bad_alloc&) {
-    return {};
-  }
-  if (!FileRead(folder, name, "", records.data(), count * static_cast<gint>(sizeof(Record)), 0)) {
-    records.clear();
+  const std::string path = JoinPath(folder, name, "");
+  if (IsMissing(path)) return records;
+  const std::optional<std::string> bytes = ReadWholeFile(path, G_MAXINT);
+  if (!bytes) return std::nullopt;
+  records.resize(bytes->size() / sizeof(Record));
+  if (!records.empty()) {
+    std::memcpy(records.data(), bytes->data(), records.size() * sizeof(Record));
   }
   return records;
+} catch (const std::bad_alloc&) {
+  return std::nullopt;
 }
 
-// Replaces the file; 1 or 0.
+// Replaces the file; 1 or 0. Without a folder there is no project to write to.
 template <typename Record>
 gint WriteRecords(const gchar* folder, const gchar* name, const std::vector<Record>& records) {
+  if (*folder == '\0') return 0;
   return FileWrite(folder, name, "", records.data(),
                    static_cast<gint>(records.size() * sizeof(Record)), 0);
 }

@@ -61,6 +61,10 @@ PTRNDATA* AddEmptyPtrnData(gint count) {
   return first;
 }
 
+void DropFirstPtrnData(gint count) {
+  PtrnArray.erase(PtrnArray.begin(), PtrnArray.begin() + std::min(count, GetPtrnCount()));
+}
+
 void DropLastPtrnData(gint count) {
   PtrnArray.resize(PtrnArray.size() - std::min(PtrnArray.size(), static_cast<std::size_t>(count)));
 }

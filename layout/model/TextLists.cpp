@@ -29,15 +29,15 @@ void RegstPtrnText(const gchar* text, gint k) {
     return;
   }
   const gchar* list = ListName(k);
-  std::vector<PTRNTEXT> texts = ReadRecords<PTRNTEXT>(ProjPath, list);
-  if (texts.empty() && HoldsRecords<PTRNTEXT>(ProjPath, list)) {
-    return;  // there, but it cannot be read: better no entry than a lost list
+  std::optional<std::vector<PTRNTEXT>> texts = ReadRecords<PTRNTEXT>(ProjPath, list);
+  if (!texts) {
+    return;
   }
-  const bool known = std::any_of(texts.begin(), texts.end(), [&entry](const PTRNTEXT& other) {
+  const bool known = std::any_of(texts->begin(), texts->end(), [&entry](const PTRNTEXT& other) {
     return FieldText(other.text) == FieldText(entry.text);
   });
   if (!known) {
-    texts.push_back(entry);
-    WriteRecords(ProjPath, list, texts);
+    texts->push_back(entry);
+    WriteRecords(ProjPath, list, *texts);
   }
 }

@@ -9,6 +9,7 @@
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/NameList.h"
+#include "support/FileTools.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ void ReadKnownProjects() {
     gchar path[100];
     ProfileRead2("", Section, Section, no, "ss", name, path);
     if (name[0] == '\0' || path[0] == '\0') continue;
-    if (FileExist(path, name, "prj") == 0) {
+    if (IsMissing(JoinPath(path, name, "prj"))) {
       ProfileDelete2("", Section, Section, no);
       continue;
     }

@@ -2,6 +2,7 @@
 #include "PtrnMisc.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "support/FileTools.h"
 
 namespace {
 
@@ -26,13 +27,14 @@ void ForgetLastProject() {
   ProfileDelete1("", "PROJECT", "PROJECT");
 }
 
-// Entries whose project file is gone go; their numbers stay free.
+// Entries whose project file is gone go; their numbers stay free. A file that cannot be looked at
+// is not gone.
 void PruneKnownProjects() {
   for (gint no = 0; no < KnownProjectCount; ++no) {
     gchar name[FieldSize];
     gchar path[FieldSize];
     ProfileRead2("", "PROJNAME", "PROJNAME", no, "ss", name, path);
-    if (name[0] != '\0' && path[0] != '\0' && FileExist(path, name, "prj") == 0) {
+    if (name[0] != '\0' && path[0] != '\0' && IsMissing(JoinPath(path, name, "prj"))) {
       ProfileDelete2("", "PROJNAME", "PROJNAME", no);
     }
   }

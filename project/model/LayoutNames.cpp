@@ -9,9 +9,15 @@ constexpr std::string_view Suffix = ".ptn";
 }  // namespace
 
 std::vector<std::string> LayoutNames(const std::string& folder) {
+  return ListLayoutNames(folder).value_or(std::vector<std::string>());
+}
+
+std::optional<std::vector<std::string>> ListLayoutNames(const std::string& folder) {
   std::vector<std::string> names;
-  VisitFiles(folder, "*.ptn",
-             [&names](const std::string& name) { names.push_back(LayoutName(name)); });
+  if (!VisitFiles(folder, "*.ptn",
+                  [&names](const std::string& name) { names.push_back(LayoutName(name)); })) {
+    return std::nullopt;
+  }
   return names;
 }
 

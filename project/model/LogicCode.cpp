@@ -3,6 +3,7 @@
 #include <limits>
 #include <map>
 #include <new>
+#include <optional>
 #include <string>
 
 #include "ProjData.h"
@@ -27,16 +28,33 @@ void CollectCode(CodeNumbers& codes, const PTRNDATA& item) {
   }
 }
 
-void CollectLayout(CodeNumbers& codes, const std::string& layout) {
+// False when the layout is there and the system could not deliver it whole.
+bool CollectLayout(CodeNumbers& codes, const std::string& layout) {
   PtrnHedr = PTRNHEDR{};
   IntPtrnData();
-  PtrnFileRead(ProjPath, layout.c_str());
+  const LayoutReading reading = ReadPtrnFile(ProjPath, layout.c_str());
   const gint count = GetPtrnCount();
   for (gint no = 0; no < count; ++no) {
     CollectCode(codes, *ViewPtrnData(no));
   }
   ExtPtrnData();
   PtrnHedr = PTRNHEDR{};
+  return reading != LayoutReading::Failed;
+}
+
+// All layouts of the project; nothing when one could not be read, as its codes would be lost.
+std::optional<CodeNumbers> CollectProject() {
+  const auto layouts = ListLayoutNames(ProjPath);
+  if (!layouts) {
+    return std::nullopt;
+  }
+  CodeNumbers codes;
+  for (const std::string& layout : *layouts) {
+    if (!CollectLayout(codes, layout)) {
+      return std::nullopt;
+    }
+  }
+  return codes;
 }
 
 // The registry that entering the codes one by one would give.
@@ -84,14 +102,16 @@ void SetPtrnCode(const gchar* ptrnfile) {
 
 void LogicDataEdit1() {
   try {
-    CodeNumbers codes;
-    for (const std::string& layout : LayoutNames(ProjPath)) {
-      CollectLayout(codes, layout);
+    std::optional<CodeNumbers> codes = CollectProject();
+    if (!codes) {
+      return;
     }
-    std::vector<PTRNCODE> registry = NewRegistry(std::move(codes));
+    std::vector<PTRNCODE> registry = NewRegistry(std::move(*codes));
     const gint slots = NumberCodes(registry);
-    WritePtrnCode(registry);
-    WriteFlagArea(slots);
+    // The flags are as many as the registry numbers.
+    if (WritePtrnCode(registry) != 0) {
+      WriteFlagArea(slots);
+    }
   } catch (const std::bad_alloc&) {
     ExtPtrnData();
   }

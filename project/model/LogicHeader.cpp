@@ -4,5 +4,8 @@
 #include "support/FileTools.h"
 
 void LogicDataEdit2() {
-  ReplaceFile(JoinPath(ProjData.ProgPath, "VarnixCode", "h"), CodeHeader(ReadPtrnCode()));
+  const auto registry = LoadPtrnCode();
+  if (registry) {
+    ReplaceFile(JoinPath(ProjData.ProgPath, "VarnixCode", "h"), CodeHeader(*registry));
+  }
 }

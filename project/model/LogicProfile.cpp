@@ -12,15 +12,13 @@ void InitProjIni(const gchar* path, const gchar* name) {
 }
 
 void LogicDataEdit4() {
-  if (!FileExist(ProjData.ProgPath, ProjName, "ini")) {
-    InitProjIni(ProjData.ProgPath, ProjName);
-  }
   const std::string file = JoinPath(ProjData.ProgPath, ProjName, "ini");
-  std::optional<std::string> runtime = LoadProfile(file);
-  if (!runtime) {
-    return;  // there, but it cannot be read: left alone
+  std::optional<std::string> runtime =
+      IsMissing(file) ? NewRuntimeProfile() : ReadWholeFile(file, ProfileLimit);
+  const std::optional<std::string> designer = LoadProfile(ProfilePath(""));
+  if (!runtime || !designer) {
+    return;  // there, but it cannot be read: the runtime profile is left alone
   }
-  const std::string designer = LoadProfile(ProfilePath("")).value_or("");
-  UpdateRuntimeProfile(*runtime, designer, ProjData, ProjPath);
+  UpdateRuntimeProfile(*runtime, *designer, ProjData, ProjPath);
   ReplaceFile(file, *runtime);
 }

@@ -15,7 +15,7 @@ std::string ProgramFile(const gchar* ext) {
 }
 
 void CreateOnce(const gchar* ext, const std::string& text) {
-  if (!FileExist(ProjData.ProgPath, ProjName, ext)) {
+  if (IsMissing(ProgramFile(ext))) {
     ReplaceFile(ProgramFile(ext), text);
   }
 }

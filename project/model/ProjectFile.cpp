@@ -2,6 +2,7 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "support/FileTools.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ PROJDATA CleanTexts(PROJDATA data) {
 
 template <std::size_t Size>
 void ClearUnlessLayout(gchar (&layout)[Size], const gchar* path) {
-  if (!FileExist(path, layout, "ptn")) {
+  if (IsMissing(JoinPath(path, layout, "ptn"))) {
     std::memset(layout, 0, Size);
   }
 }
@@ -42,6 +43,9 @@ gint ProjFileRead(const gchar* path, const gchar* name) {
 }
 
 gint ProjFileWrite(const gchar* path, const gchar* name) {
+  if (*path == '\0' || *name == '\0') {
+    return 0;
+  }
   ClearUnlessLayout(ProjData.PtrnStart, path);
   ClearUnlessLayout(ProjData.PtrnStop, path);
   const PROJFILE file{Version, CleanTexts(ProjData)};

@@ -21,24 +21,16 @@ void CopyLook(PTRNHEDR& header) {
   CopyGridLook(header, ProjData);
 }
 
-// What a damaged file still holds must outlive its rewriting.
-bool KeepDamagedFile(const gchar* path, const gchar* name) {
-  if (CheckPtrnFile(path, name) != LayoutFileState::Broken || FileSize(path, name, "ptn") == 0) {
-    return true;
-  }
-  return FileCopy(path, name, "ptn", path, name, "ptn.bak") != 0;
-}
-
 }  // namespace
 
 void PtrnFileRenew(const gchar* path, const gchar* name) {
-  if (!KeepDamagedFile(path, name)) {
+  if (!KeepDamagedPtrnFile(path, name)) {
     return;
   }
   PtrnHedr = PTRNHEDR{};
   IntPtrnData();
-  PtrnFileRead(path, name);
-  if (!PtrnHedr.Parm1[HedrSlot::KeepAsIs]) {
+  const LayoutReading reading = ReadPtrnFile(path, name);
+  if (reading != LayoutReading::Failed && !PtrnHedr.Parm1[HedrSlot::KeepAsIs]) {
     CopyLook(PtrnHedr);
     PtrnFileWrite(path, name);
   }
