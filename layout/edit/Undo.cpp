@@ -72,6 +72,9 @@ void PushPtrnData() {
   if (slot >= SlotCount) {
     slot = ShiftSlots() ? SlotCount - 1 : 0;
   }
+  // Not through a link that somebody may have put there: the folder may be everybody's, and the
+  // names can be foreseen.
+  DeleteSlot(slot);
   PtrnSaveCount = WritePtrnFile(PtrnSavePath, PtrnSaveName[slot]) ? slot + 1 : slot;
   SetMainMenu();
 }

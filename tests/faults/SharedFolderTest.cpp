@@ -12,6 +12,8 @@
 #include "common/TempFolder.h"
 #include "faults/FileCalls.h"
 #include "faults/FolderImage.h"
+#include "faults/ProjectAtHand.h"
+#include "layout/Commands.h"
 #include "support/FileTools.h"
 
 namespace {
@@ -133,6 +135,18 @@ TEST_F(SharedFolderTest, ALinkThatTheSystemForbidsToFollowIsNotFollowed) {
   EXPECT_FALSE(ReplaceFile(folder_.Path("link"), "new"));
   EXPECT_EQ(FileCalls::Heal(), "stat");
   EXPECT_EQ(folder_.Read("file"), "old");
+}
+
+class SharedUndoFolder : public ProjectAtHand {};
+
+TEST_F(SharedUndoFolder, ALinkInThePlaceOfASnapshotIsNotFollowed) {
+  const std::string victim = Folder.Write("victim", "somebody's own");
+  const std::string slot = std::string(PtrnSavePath) + "/" + PtrnSaveName[0] + ".ptn";
+  std::filesystem::create_symlink(victim, slot);
+  PushPtrnData();
+  EXPECT_EQ(PtrnSaveCount, 1);
+  EXPECT_EQ(Folder.Read("victim"), "somebody's own");
+  EXPECT_FALSE(std::filesystem::is_symlink(slot));
 }
 
 }  // namespace
