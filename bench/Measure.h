@@ -2,6 +2,7 @@
 #pragma once
 
 #include <benchmark/benchmark.h>
+#include <valgrind/callgrind.h>
 
 #include <algorithm>
 #include <ctime>
@@ -29,12 +30,45 @@ double BestSeconds(int runs, Body body) {
   return best;
 }
 
+// Under callgrind, lets it count the instructions of the body's second run, and nothing else. False
+// without callgrind.
+template <typename Body>
+bool CountInstructions(benchmark::State& state, Body body) {
+  if (RUNNING_ON_VALGRIND == 0) return false;
+  body();
+  CALLGRIND_START_INSTRUMENTATION;
+  body();
+  CALLGRIND_STOP_INSTRUMENTATION;
+  while (state.KeepRunning()) continue;
+  return true;
+}
+
+inline void Report(benchmark::State& state, double best, double reference) {
+  state.counters["best_ms"] = best * 1e3;
+  state.counters["reference_ms"] = reference * 1e3;
+  state.counters["ratio"] = best / reference;
+}
+
 // Runs the benchmark's body; the counter "ratio" is its best time in units of the reference's best.
+// `before` goes ahead of every run of both, and does not count.
+template <typename Body, typename Reference, typename Before>
+void CompareAfter(benchmark::State& state, Before before, Body body, Reference reference) {
+  if (CountInstructions(state, body)) return;
+  double best = 1e9;
+  for (auto _ : state) {
+    before();
+    best = std::min(best, Seconds(body));
+  }
+  double plain = 1e9;
+  for (int run = 0; run < 20; ++run) {
+    before();
+    plain = std::min(plain, Seconds(reference));
+  }
+  Report(state, best, plain);
+}
+
 template <typename Body, typename Reference>
 void Compare(benchmark::State& state, Body body, Reference reference) {
-  double best = 1e9;
-  for (auto _ : state) best = std::min(best, Seconds(body));
-  const double plain = BestSeconds(20, reference);
-  state.counters["reference_ms"] = plain * 1e3;
-  state.counters["ratio"] = best / plain;
+  CompareAfter(
+      state, [] {}, body, reference);
 }

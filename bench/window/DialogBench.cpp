@@ -66,7 +66,7 @@ void OpenLayoutDialog(benchmark::State& state) {
   const ManyLayouts layouts(static_cast<gint>(state.range(0)));
   CompareDialog(state, "レイアウトを開く", [] { PtrnFileOpen(PtrnWnd); });
 }
-BENCHMARK(OpenLayoutDialog)->Arg(10)->Arg(2000)->Iterations(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenLayoutDialog)->Arg(10)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 // With its switch to the layouts that have incomplete items, each header of which is read.
 void OpenProjectDialog(benchmark::State& state) {
@@ -81,12 +81,12 @@ void OpenProjectDialog(benchmark::State& state) {
   }
   CompareDialog(state, "プロジェクトを開く", [] { ProjFileOpen(PtrnWnd); });
 }
-BENCHMARK(OpenProjectDialog)->Iterations(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenProjectDialog)->Unit(benchmark::kMillisecond);
 
 void MarkPicker(benchmark::State& state) {
   BenchWindow window;
   CompareDialog(state, "マーク選択", [] { Dlg_MarkSelect(PtrnWnd); });
 }
-BENCHMARK(MarkPicker)->Iterations(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(MarkPicker)->Unit(benchmark::kMillisecond);
 
 }  // namespace

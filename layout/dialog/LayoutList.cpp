@@ -15,7 +15,7 @@ void ListLayouts(GtkWidget* list, bool incomplete) {
   VisitFiles(ProjPath, "*.ptn", [list, incomplete](const std::string& file) {
     const std::string name = file.substr(0, file.find('.'));
     if (incomplete) {
-      PTRNHEDR header;
+      PTRNHEDR header{};
       FileRead(ProjPath, file.c_str(), "", &header, sizeof header, 0);
       if (header.UndfFlag == 0) return;
     }
