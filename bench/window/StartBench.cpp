@@ -55,25 +55,23 @@ Run Probe(std::vector<std::string> words) {
   return run;
 }
 
-// The best of several.
-Run BestProbe(const std::vector<std::string>& words) {
-  constexpr int Runs = 15;
-  Run best = Probe(words);
-  for (int run = 1; run < Runs; ++run) {
-    const Run other = Probe(words);
-    best.seconds = std::min(best.seconds, other.seconds);
-    best.elapsed = std::min(best.elapsed, other.elapsed);
-  }
-  return best;
+// The better figures of two runs.
+void KeepBest(Run& best, const Run& other) {
+  if (other.seconds == 0) return;
+  if (best.seconds == 0) best = other;
+  best.seconds = std::min(best.seconds, other.seconds);
+  best.elapsed = std::min(best.elapsed, other.elapsed);
 }
 
+// The two in turn, so that other work of the machine meets both.
 void StartUp(benchmark::State& state) {
   const ProgramFolder folder;
   Run program;
   Run bare;
+  Probe({"bare"});  // the first window of a display makes caches that the later ones use
   for (auto _ : state) {
-    program = BestProbe({"program", folder.Path()});
-    bare = BestProbe({"bare"});
+    KeepBest(program, Probe({"program", folder.Path()}));
+    KeepBest(bare, Probe({"bare"}));
   }
   if (program.seconds == 0 || bare.seconds == 0) return state.SkipWithError("not started");
   state.counters["ratio"] = program.seconds / bare.seconds;
@@ -84,7 +82,7 @@ void StartUp(benchmark::State& state) {
   state.counters["resident_mb"] = program.megabytes;
   state.counters["bare_mb"] = bare.megabytes;
 }
-BENCHMARK(StartUp)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(StartUp)->Iterations(20)->Unit(benchmark::kMillisecond);
 
 // The start-up layout of the sample project, shown in a size and zoom and scrolled through.
 void Memory(benchmark::State& state) {
