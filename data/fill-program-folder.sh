@@ -53,8 +53,8 @@ put() { # FILE PATH: makes PATH a copy of FILE in one step
   mv "${2%/*}/.${2##*/}.new" "$2"
 }
 
-files_of() { # FOLDER: its files, each ended by a zero byte; none when there is no folder
-  [ ! -d "$1" ] || (cd "$1" && find . -type f -print0)
+list_files() { # FOLDER LIST: writes its files to LIST, each ended by a zero byte
+  (cd "$1" && find . -type f -print0) >"$2"
 }
 
 make_fresh() {
@@ -86,8 +86,8 @@ changed_by_user() { # FILE, relative: neither as shipped before nor as shipped n
 project_changed_by_user() { # FOLDER, relative
   local file
   while IFS= read -r -d '' file; do
-    ! changed_by_user "$1/$file" || return 0
-  done < <(files_of "$old/$1")
+    [[ $file != "./$1/"* ]] || ! changed_by_user "$file" || return 0
+  done <"$state/old-files"
   return 1
 }
 
@@ -118,6 +118,8 @@ update_profile() {
 }
 
 make_fresh
+list_files "$old" "$state/old-files"
+list_files "$fresh" "$state/fresh-files"
 kept=()
 for project in "$fresh"/*/*.prj; do
   folder=${project%/*}
@@ -135,16 +137,16 @@ while IFS= read -r -d '' file; do
   if [ "$file" != ./VarnixMaster.ini ] && ! is_kept "$file" && wanted "$file"; then
     put "$fresh/$file" "$program/$file"
   fi
-done < <(files_of "$fresh")
+done <"$state/fresh-files"
 # What is no longer shipped goes, unless it was changed there.
 while IFS= read -r -d '' file; do
   if [ ! -e "$fresh/$file" ] && ! is_kept "$file" && same "$old/$file" "$program/$file"; then
     rm "$program/$file"
   fi
-done < <(files_of "$old")
+done <"$state/old-files"
 
 rm -rf "$state/replaced"
 mv "$old" "$state/replaced"
 mv "$fresh" "$old"
-rm -rf "$state/replaced"
+rm -rf "$state/replaced" "$state/old-files" "$state/fresh-files"
 printf '%s\n' "$stamp" >"$state/stamp"
