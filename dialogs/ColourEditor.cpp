@@ -50,12 +50,20 @@ void NameLeftOut(GtkWidget* widget, gpointer /*data*/) {
   if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), NameLeftOut, nullptr);
 }
 
+void LabelButton(GtkWidget* dialog, gint response, const gchar* label) {
+  GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), response);
+  if (button != nullptr) gtk_button_set_label(GTK_BUTTON(button), label);
+}
+
 }  // namespace
 
 gint MakeColrData(GtkWidget* parent, gint colrno, COLRBOX* colrbox) {
   MakeColr_Result = 0;
   const COLRDATA& colour = colrbox[colrno].colr;
   GtkWidget* dialog = gtk_color_chooser_dialog_new("表示色作成", nullptr);
+  // The toolkit's labels follow the user's locale; the program speaks Japanese everywhere.
+  LabelButton(dialog, GTK_RESPONSE_OK, " 設定 ");
+  LabelButton(dialog, GTK_RESPONSE_CANCEL, " 取消 ");
   gtk_window_set_resizable(GTK_WINDOW(dialog), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog), GTK_WIN_POS_CENTER);
   gtk_color_chooser_set_use_alpha(GTK_COLOR_CHOOSER(dialog), FALSE);

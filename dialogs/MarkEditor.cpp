@@ -54,6 +54,9 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
   const gint width = edit->Size.cx;
   const gint height = edit->Size.cy;
   cairo_set_antialias(cairo, CAIRO_ANTIALIAS_NONE);
+  // A dark theme's own ground would swallow the black lines.
+  cairo_set_source_rgb(cairo, 0.9, 0.9, 0.9);
+  cairo_paint(cairo);
   cairo_set_line_width(cairo, 1);
   cairo_set_source_rgb(cairo, 0, 0, 0);
   for (gint i = 0; i <= width; ++i) PaintGridLine(cairo, i, i * Cell, 0, i * Cell, height * Cell);

@@ -28,7 +28,7 @@ TEST_F(Editors, Marks) {
   Play([] {
     ChooseMenu(MenuBar(), {"編集", "マーク設定"});
     Show("marks", "マーク設定");
-    Click(Swatch("マーク設定", 1, 1));
+    Click(Swatch("マーク設定", 1, 0));
     Show("mark-editor", "マーク作成");
     Panel("マーク作成").Press("参照");
     ShowAndLeave("mark-source", "マーク選択");

@@ -44,6 +44,7 @@ void Show(const std::string& name, GtkWidget* window) {
   Look([&] {
     SCOPED_TRACE(name);
     CheckLook(window);
+    if (!KeepsPictures()) CheckTabOrder(window);
     Keep(name, gtk_widget_get_window(window),
          {0, 0, gtk_widget_get_allocated_width(window), gtk_widget_get_allocated_height(window)});
   });
