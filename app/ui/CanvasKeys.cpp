@@ -34,11 +34,30 @@ gboolean EscapeKey() {
     return FALSE;
   return TRUE;
 }
+
+// The arrow keys, those of the number pad included, and where they move the item in hand.
+struct ArrowKey {
+  guint Key;
+  guint PadKey;
+  gint Columns;
+  gint Rows;
+};
+constexpr ArrowKey ArrowKeys[] = {{GDK_KEY_Left, GDK_KEY_KP_Left, -1, 0},
+                                  {GDK_KEY_Right, GDK_KEY_KP_Right, 1, 0},
+                                  {GDK_KEY_Up, GDK_KEY_KP_Up, 0, -1},
+                                  {GDK_KEY_Down, GDK_KEY_KP_Down, 0, 1}};
+
+gboolean MoveKey(guint key) {
+  for (const ArrowKey& arrow : ArrowKeys)
+    if (key == arrow.Key || key == arrow.PadKey)
+      return MoveItemInHand(arrow.Columns, arrow.Rows) != 0;
+  return FALSE;
+}
 }  // namespace
 
 gboolean CanvasKey(GtkWidget*, GdkEventKey* event, gpointer) {
   if (PtrnFlag == 0 || (event->state & gtk_accelerator_get_default_mod_mask()) != 0) return FALSE;
   if (event->keyval == GDK_KEY_Delete || event->keyval == GDK_KEY_KP_Delete) return DeleteKey();
   if (event->keyval == GDK_KEY_Escape) return EscapeKey();
-  return FALSE;
+  return MoveKey(event->keyval);
 }

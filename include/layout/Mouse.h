@@ -16,6 +16,9 @@ void ClearToolBox();
 void LButtonDown(GtkWidget* widget, POINT* point);
 void LButtonUp(GtkWidget* widget, POINT* point);
 void MouseMove(GtkWidget* widget, POINT* point);
+// Moves the item in hand by steps of the lines that its points snap to, never off the layout.
+// 0 = there is no item in hand.
+gint MoveItemInHand(gint columns, gint rows);
 
 // View commands (menu callbacks).
 void PtrnSelct(GtkWidget* widget, gpointer data);

@@ -88,6 +88,8 @@ INSTANTIATE_TEST_SUITE_P(
     Shapes, FaultTest,
     testing::Values(Fault{"FrameFlat", TypeFrame, Flat, BadPoints},
                     Fault{"FrameTopWidth", TypeFrame, Parm(24, -1), BadWidth0},
+                    Fault{"FrameBottomWidth", TypeFrame, Parm(25, -1), BadWidth0},
+                    Fault{"FrameLeftWidth", TypeFrame, Parm(26, -1), BadWidth0},
                     Fault{"FrameRightWidth", TypeFrame, Parm(27, -1), BadWidth0},
                     Fault{"LineDot", TypeLine, Dot, BadPoints},
                     Fault{"LineWidth", TypeLine, Parm(15, 0), BadWidth1},
@@ -121,7 +123,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Fault{"ButtonOffset", TypeButton, Parm(14, -1), BadPosition},
                     Fault{"RadioNumber", TypeRadioButton, Parm(27, -1), BadNumber},
                     Fault{"BitmapName", TypeBitmap, NoText, NoBitmap},
+                    Fault{"BitmapNarrow", TypeBitmap, Narrow, BadPoints},
                     Fault{"MarkFlat", TypeMark, Flat, BadPoints},
+                    Fault{"ScrollNarrow", TypeScrollBar, Narrow, BadPoints},
+                    Fault{"SpinDot", TypeSpinButton, Dot, BadPoints},
                     Fault{"ScrollFrame", TypeScrollBar, Parm(15, -1), BadWidth0},
                     Fault{"ScrollDisplay", TypeScrollBar, Parm(16, 0), BadDisplayAmount},
                     Fault{"ScrollData", TypeScrollBar, Parm(17, -1), BadDataAmount},
@@ -155,6 +160,89 @@ INSTANTIATE_TEST_SUITE_P(
                     Fault{"CodeStartsWithHyphen", TypeButton, Code("-a"), BadCodeStart},
                     Fault{"CodeStartsWithKanji", TypeButton, Code("\xB4\xC1"), BadCodeStart}),
     NameOf);
+
+std::function<void(PTRNDATA&)> Both(std::function<void(PTRNDATA&)> one,
+                                    std::function<void(PTRNDATA&)> other) {
+  return [=](PTRNDATA& item) {
+    one(item);
+    other(item);
+  };
+}
+void BadItemNumber(PTRNDATA& item) {
+  item.ID_No = -1;
+}
+
+// Of two faults, the one that is told.
+INSTANTIATE_TEST_SUITE_P(
+    Order, FaultTest,
+    testing::Values(
+        Fault{"LineDotFirst", TypeLine, Both(Dot, Parm(15, 0)), BadPoints},
+        Fault{"FrameFlatFirst", TypeFrame, Both(Flat, Parm(24, -1)), BadPoints},
+        Fault{"BarWidthBeforeLimits", TypeBarGraph, Both(Parm(15, -1), Parms(16, 5, 17, 5)),
+              BadWidth0},
+        Fault{"BarLimitsBeforeCode", TypeBarGraph, Both(Parms(16, 5, 17, 5), Code("")), BadLimits},
+        Fault{"VariableLengthBeforeCode", TypeVariableString, Both(Parm(16, 0), Code("")),
+              BadLength},
+        Fault{"NumericBothLengths", TypeNumeric, Parms(16, 0, 17, 5), BadLength},
+        Fault{"NumericDecimalsBeforeCode", TypeNumeric, Both(Parms(16, 3, 17, 3), Code("")),
+              BadDecimals},
+        Fault{"ButtonBorderBeforeOffset", TypeButton, Parms(16, 0, 14, -1), BadWidth0},
+        Fault{"ScrollFrameBeforeAmount", TypeScrollBar, Parms(15, -1, 16, 0), BadWidth0},
+        Fault{"ScrollDisplayBeforeData", TypeScrollBar, Parms(16, 0, 17, -1), BadDisplayAmount},
+        Fault{"ScrollDataBeforeStep", TypeScrollBar, Parms(17, -1, 18, -1), BadDataAmount},
+        Fault{"ScrollRangeBeforeMissing", TypeScrollBar, Parms(20, -1, 18, 0), BadStep},
+        Fault{"ScrollStepBeforeCode", TypeScrollBar, Both(Parm(20, 0), Code("")), NoStep},
+        Fault{"SpinLimitsBeforeCode", TypeSpinButton, Both(Parms(16, 9, 17, 1), Code("")),
+              BadLimits},
+        Fault{"TypeBeforeNumber", TypeRectangle, Both(Parm(15, 0), BadItemNumber), BadWidth0},
+        Fault{"NumberBeforeCode", TypeButton, Both(BadItemNumber, Processing(1)), BadNumber},
+        Fault{"NumberBeforeCodeStart", TypeButton, Both(BadItemNumber, Code("9")), BadNumber},
+        Fault{"NameBeforeCodeStart", TypeButton, Both(Processing(5), Code("9")), NoLayoutName}),
+    NameOf);
+
+// What the rules just let pass.
+struct Pass {
+  const char* Name;
+  gint Type;
+  std::function<void(PTRNDATA&)> Set;
+};
+
+void PrintTo(const Pass& pass, std::ostream* out) {
+  *out << pass.Name;
+}
+
+class PassTest : public EditFixture, public testing::WithParamInterface<Pass> {};
+
+std::string PassName(const testing::TestParamInfo<Pass>& info) {
+  return info.param.Name;
+}
+
+TEST_P(PassTest, ShowsNothing) {
+  PtrnData = MakeValidItem(GetParam().Type, 10, 20, 50, 60);
+  GetParam().Set(PtrnData);
+  EXPECT_EQ(TestPtrnData(), 1);
+  EXPECT_THAT(Screen.Take(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Limits, PassTest,
+    testing::Values(
+        Pass{"FrameWithoutBorders", TypeFrame, Both(Parms(24, 0, 25, 0), Parms(26, 0, 27, 0))},
+        Pass{"LineWidth1", TypeLine, Parm(15, 1)},
+        Pass{"RectangleWidth1", TypeRectangle, Parms(12, 0, 15, 1)},
+        Pass{"FilledWithNegativeWidth", TypeRectangle, Parms(12, 1, 15, -1)},
+        Pass{"BarWidths0", TypeBarGraph, Parms(14, 0, 15, 0)},
+        Pass{"BarLimitsBelow0", TypeBarGraph, Parms(16, -5, 17, 0)},
+        Pass{"VariableLength1", TypeVariableString, Parm(16, 1)},
+        Pass{"NumericLength1", TypeNumeric, Parms(16, 1, 17, 0)},
+        Pass{"ButtonLeast", TypeButton, Parms(16, 1, 14, 0)},
+        Pass{"RadioNumber0", TypeRadioButton, Parm(27, 0)},
+        Pass{"ScrollLeast", TypeScrollBar, Both(Parms(15, 0, 16, 1), Parms(17, 0, 20, 1))},
+        Pass{"ScrollWithoutArrows", TypeScrollBar, Both(Parms(8, 0, 18, 0), Parms(9, 0, 19, 0))},
+        Pass{"SpinWithoutLimits", TypeSpinButton, Parms(16, 0, 17, 0)},
+        Pass{"ProcessingWithoutNeed", TypeButton, Processing(0)},
+        Pass{"ProcessingBeyondTheList", TypeButton, Processing(9)}),
+    PassName);
 
 class ValidationTest : public EditFixture {
  protected:

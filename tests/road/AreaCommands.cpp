@@ -99,6 +99,22 @@ TEST_F(AreaCommands, CopiesWhatLiesInsideInARow) {
   });
 }
 
+TEST_F(AreaCommands, AnAreaLetGoOutsideTakesWhatLiesInside) {
+  PlayWithItems([this] {
+    // The last point inside the layout is (420, 240), half way.
+    DragOnCanvas(180, 80, 660, 400);
+    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) != FALSE; }));
+    ChooseMenu(PopupMenu[2], {" 移動 "});
+    const Panel dialog("描画情報移動");
+    dialog.Enter(Cell{"Ｘ方向ドット数"}, 8);
+    dialog.Enter(Cell{"Ｙ方向ドット数"}, 16);
+    dialog.Press(" 移動 ");
+    EXPECT_TRUE(SeeGone("描画情報移動"));
+    EXPECT_EQ(SavedCorners(),
+              json::parse("[[100,100,140,140],[208,136,268,216],[288,176,348,236]]"));
+  });
+}
+
 TEST_F(AreaCommands, KeysCancelAndDeleteWhileTheAreaStands) {
   PlayWithItems([] {
     SpanArea();

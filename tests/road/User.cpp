@@ -248,6 +248,38 @@ void PointBy(gint x, gint y) {
   Settle();
 }
 
+void DragByTitle(GtkWidget* window, gint x, gint y) {
+  constexpr gint IntoTitle = 5;
+  const auto origin = [window] {
+    POINT at{0, 0};
+    gdk_window_get_origin(gtk_widget_get_window(window), &at.x, &at.y);
+    return at;
+  };
+  GdkRectangle frame{};
+  EXPECT_TRUE(See([&] {
+    if (!gtk_widget_get_mapped(window)) return false;
+    gdk_window_get_frame_extents(gtk_widget_get_window(window), &frame);
+    return frame.y + IntoTitle < origin().y;
+  })) << "the window has no title bar";
+  const POINT from = Look(origin);
+  const POINT grip{frame.x + frame.width / 2, frame.y + IntoTitle};
+  Hands->MovePointer(grip.x, grip.y);
+  Hands->SendButton(LeftButton, true);
+  // The window manager takes some motion to see a drag in it; only what follows moves the window.
+  gint aside = 0;
+  const bool moves = See([&] {
+    aside = 1 - aside;
+    Hands->MovePointer(grip.x + x + aside, grip.y + y);
+    return origin().x != from.x;
+  });
+  Hands->MovePointer(grip.x + x, grip.y + y);
+  const bool there =
+      moves && See([&] { return origin().x == from.x + x && origin().y == from.y + y; });
+  EXPECT_TRUE(there) << "the window does not come along";
+  Hands->SendButton(LeftButton, false);
+  Settle();
+}
+
 void PressKey(guint key, std::initializer_list<guint> held) {
   EXPECT_TRUE(See(KeyboardIsHere)) << "another program has the keyboard";
   for (const guint modifier : held) Hands->SendKey(modifier, true);

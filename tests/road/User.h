@@ -53,6 +53,10 @@ void Click(GtkWidget* widget, Button button = LeftButton);
 // Moves the pointer by so many dots on the screen, whatever lies there.
 void PointBy(gint x, gint y);
 
+// Takes a window by the window manager's title bar and drags it; fails the test when it does not
+// come along.
+void DragByTitle(GtkWidget* window, gint x, gint y);
+
 // Presses and releases a key while others are held.
 void PressKey(guint key, std::initializer_list<guint> held = {});
 // Types characters that the keyboard has.

@@ -42,9 +42,13 @@ RunningProgram::RunningProgram(const ProgramFolder& folder, const std::string& d
 }
 
 RunningProgram::~RunningProgram() {
-  if (pid_ <= 0 || status_) return;
-  kill(pid_, SIGKILL);
-  waitpid(pid_, nullptr, 0);
+  if (pid_ > 0 && !status_) {
+    kill(pid_, SIGKILL);
+    waitpid(pid_, nullptr, 0);
+  }
+  if (!asked_) {
+    EXPECT_EQ(Complaints(), "");
+  }
 }
 
 std::optional<int> RunningProgram::Wait() {
@@ -57,7 +61,8 @@ std::optional<int> RunningProgram::Wait() {
   return status_;
 }
 
-std::string RunningProgram::Complaints() const {
+std::string RunningProgram::Complaints() {
+  asked_ = true;
   return output_.Exists("stderr") ? output_.Read("stderr") : "";
 }
 

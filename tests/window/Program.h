@@ -22,7 +22,8 @@ class ProgramFolder {
   TempFolder folder_;
 };
 
-// A running program; killed when still alive at the end.
+// A running program; killed when still alive at the end. What it wrote to standard error fails the
+// test unless the test has asked for it.
 class RunningProgram {
  public:
   // `display` is the display's name, "" for the test's own.
@@ -34,12 +35,13 @@ class RunningProgram {
   // Waits for the end. The exit status; nothing when it does not end by itself.
   std::optional<int> Wait();
   // What it wrote to standard error so far.
-  std::string Complaints() const;
+  std::string Complaints();
 
  private:
   TempFolder output_;
   GPid pid_ = 0;
   std::optional<int> status_;
+  bool asked_ = false;
 };
 
 // Runs xdotool; its standard output without the last line end.

@@ -1,0 +1,143 @@
+#include "PtrnData.h"
+#include "app/Menus.h"
+#include "app/Window.h"
+#include "dialogs/ToolBox.h"
+#include "road/RoadTest.h"
+
+namespace {
+// The tool box as the user meets it: a window to be pushed aside that tells of the item in hand.
+class ToolBoxPanel : public RoadTest {};
+
+void Open(const std::string& type) {
+  ChooseMenu(MenuBar(), {"編集", type});
+  EXPECT_NE(SeeWindow(type), nullptr) << type;
+}
+
+POINT Origin() {
+  POINT at{0, 0};
+  gdk_window_get_origin(gtk_widget_get_window(ToolBox), &at.x, &at.y);
+  return at;
+}
+
+bool StandsAt(const POINT& place) {
+  return See([&] { return ToolBox != nullptr && Origin().x == place.x && Origin().y == place.y; });
+}
+
+bool Shows(GtkWidget** label, const std::string& text) {
+  return See([&] { return *label != nullptr && text == gtk_label_get_text(GTK_LABEL(*label)); });
+}
+
+// Which buttons of the panel can be used, for register, delete, cancel, copy, redraw.
+std::string Usable() {
+  return Look([] {
+    std::string states;
+    for (GtkWidget* button : ToolBoxButton)
+      states += button != nullptr && gtk_widget_get_sensitive(button) ? '1' : '0';
+    return states;
+  });
+}
+
+TEST_F(ToolBoxPanel, APanelDraggedAwayOpensAgainThere) {
+  Play([this] {
+    NewLayout(640, 480);
+    Open("矩形");
+    DragByTitle(Look([] { return ToolBox; }), -140, 60);
+    const POINT rectangle = Look(Origin);
+    Open("ボタン");
+    DragByTitle(Look([] { return ToolBox; }), 90, -170);
+    const POINT button = Look(Origin);
+    for (gint round = 0; round < 3; round++) {
+      Open("矩形");
+      EXPECT_TRUE(StandsAt(rectangle)) << round;
+      Open("ボタン");
+      EXPECT_TRUE(StandsAt(button)) << round;
+    }
+    // Picking an item of the type opens the panel there, too, and so does closing it in between.
+    Open("矩形");
+    DragOnCanvas(40, 40, 120, 80);
+    Panel("矩形").Press(" 登録 ");
+    EXPECT_TRUE(See([] { return GetPtrnCount() == 1; }));
+    PressKey(GDK_KEY_F5);
+    EXPECT_TRUE(See([] { return ToolBox == nullptr; }));
+    ClickCanvas(60, 40);
+    EXPECT_TRUE(StandsAt(rectangle));
+  });
+}
+
+TEST_F(ToolBoxPanel, ReadOutsFollowThePointer) {
+  Play([this] {
+    NewLayout(640, 480);
+    Open("矩形");
+    PointAt(PtrnDraw, 123, 45);
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "  123 /    45"));
+    EXPECT_TRUE(Shows(&ToolBox_Label2, "  123 /    45"));
+    ButtonDown(LeftButton);
+    DragTo(PtrnDraw, 301, 200);
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "  123 /    45"));
+    EXPECT_TRUE(Shows(&ToolBox_Label2, "  301 /   200"));
+    ButtonUp(LeftButton);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    // A handle, then the body.
+    DragOnCanvas(301, 200, 331, 190);
+    EXPECT_TRUE(Shows(&ToolBox_Label2, "  331 /   190"));
+    DragOnCanvas(150, 45, 160, 75);
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "  133 /    75"));
+    EXPECT_TRUE(Shows(&ToolBox_Label2, "  341 /   220"));
+    PressKey(GDK_KEY_F5);
+    ChooseMenu(MenuBar(), {"表示", "ズーム", "200%"});
+    Open("固定文字列");
+    PointAt(PtrnDraw, 301, 200);
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "  150 /   100"));
+    EXPECT_EQ(Look([] { return ToolBox_Label2; }), nullptr);
+  });
+}
+
+TEST_F(ToolBoxPanel, ArrowKeysMoveTheItemInHand) {
+  Play([this] {
+    NewLayout(640, 480);
+    PressKey(GDK_KEY_Right);  // there is nothing to be moved
+    Look([] {
+      const PTRNDATA box = BoxItem(40, 40, 120, 80, 8);
+      AddPtrnData(&box);
+      DrawRequest(1);
+    });
+    ClickCanvas(60, 40);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    // Half of the grid's 8 dots at a time.
+    for (gint times = 0; times < 3; times++) PressKey(GDK_KEY_Right);
+    PressKey(GDK_KEY_Down);
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "   52 /    44"));
+    EXPECT_TRUE(Shows(&ToolBox_Label2, "  132 /    84"));
+    Panel("矩形").Press(" 登録 ");
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    PressKey(GDK_KEY_Left);
+    SaveByKey();
+    const nlohmann::json parm = Saved(LayoutName)["Items"][0]["Parm"];
+    EXPECT_EQ(nlohmann::json(std::vector<gint>(parm.begin(), parm.begin() + 4)),
+              nlohmann::json::parse("[52,44,132,84]"));
+  });
+}
+
+TEST_F(ToolBoxPanel, ButtonsFollowTheState) {
+  Play([this] {
+    NewLayout(640, 480);
+    Open("矩形");
+    EXPECT_EQ(Usable(), "00001");
+    DragOnCanvas(40, 40, 120, 80);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    EXPECT_EQ(Usable(), "10101");
+    Panel("矩形").Press(" 登録 ");
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Usable(), "00001");
+    ClickCanvas(60, 40);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    EXPECT_EQ(Usable(), "11111");
+    // Cancelling lets the item go; the panel stays.
+    Panel("矩形").Press(" 取消 ");
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Usable(), "00001");
+    Panel("矩形").Press(" 再表示 ");
+    EXPECT_TRUE(See([] { return ToolBox == nullptr && PtrnType == 0; }));
+  });
+}
+}  // namespace
