@@ -19,8 +19,13 @@ POINT Origin() {
   return at;
 }
 
-bool StandsAt(const POINT& place) {
-  return See([&] { return ToolBox != nullptr && Origin().x == place.x && Origin().y == place.y; });
+testing::AssertionResult StandsAt(const POINT& place) {
+  const bool there =
+      See([&] { return ToolBox != nullptr && Origin().x == place.x && Origin().y == place.y; });
+  if (there) return testing::AssertionSuccess();
+  const POINT at = Look([] { return ToolBox != nullptr ? Origin() : POINT{-1, -1}; });
+  return testing::AssertionFailure()
+         << "at " << at.x << ", " << at.y << ", not " << place.x << ", " << place.y;
 }
 
 bool Shows(GtkWidget** label, const std::string& text) {
@@ -44,7 +49,7 @@ TEST_F(ToolBoxPanel, APanelDraggedAwayOpensAgainThere) {
     DragByTitle(Look([] { return ToolBox; }), -140, 60);
     const POINT rectangle = Look(Origin);
     Open("ボタン");
-    DragByTitle(Look([] { return ToolBox; }), 90, -170);
+    DragByTitle(Look([] { return ToolBox; }), -230, -70);
     const POINT button = Look(Origin);
     for (gint round = 0; round < 3; round++) {
       Open("矩形");

@@ -54,7 +54,7 @@ void Click(GtkWidget* widget, Button button = LeftButton);
 void PointBy(gint x, gint y);
 
 // Takes a window by the window manager's title bar and drags it; fails the test when it does not
-// come along.
+// come along. Close to an edge of another window or of the screen the window manager holds it.
 void DragByTitle(GtkWidget* window, gint x, gint y);
 
 // Presses and releases a key while others are held.
