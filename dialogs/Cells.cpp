@@ -27,6 +27,20 @@ GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding) {
   return box;
 }
 
+void ShowRange(GtkWidget* control, const gchar* what, gint min, gint max) {
+  gchar text[100];
+  g_snprintf(text, sizeof text, "%s %d 〜 %d", what, min, max);
+  gtk_widget_set_tooltip_text(control, text);
+}
+
+GdkRGBA Ink(GtkWidget* area) {
+  GtkStyleContext* style = gtk_widget_get_style_context(area);
+  GdkRGBA colour;
+  gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+  const bool light = colour.red + colour.green + colour.blue > 1.5;
+  return light ? colour : GdkRGBA{0, 0, 0, 1};
+}
+
 void KeepWidget(GtkWidget** slot, GtkWidget* widget) {
   if (*slot != nullptr)
     g_object_remove_weak_pointer(G_OBJECT(*slot), reinterpret_cast<gpointer*>(slot));

@@ -25,6 +25,11 @@ GtkWidget* NewLabel(const gchar* text, bool right = false);
 // A shown horizontal box, begun with the caption unless that is empty; `padding` stands on both
 // sides of the caption.
 GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding);
+// Tells the range of a number in a control's tooltip.
+void ShowRange(GtkWidget* control, const gchar* what, gint min, gint max);
+// For lines and figures that a drawing area paints on the theme's background: black, unless the
+// theme writes in a light colour because that background is dark.
+GdkRGBA Ink(GtkWidget* area);
 // Keeps `*slot` pointing at the widget for as long as the widget lives, then null.
 void KeepWidget(GtkWidget** slot, GtkWidget* widget);
 // Shows record bytes in the entry of a text row without writing them back.

@@ -29,7 +29,8 @@ DialogWindow NewDialogWindow(const gchar* title) {
   gtk_window_set_title(GTK_WINDOW(dialog.Window), title);
   gtk_window_set_type_hint(GTK_WINDOW(dialog.Window), GDK_WINDOW_TYPE_HINT_DIALOG);
   gtk_window_set_destroy_with_parent(GTK_WINDOW(dialog.Window), TRUE);
-  g_signal_connect(dialog.Window, "key-press-event", G_CALLBACK(CloseOnEscape), nullptr);
+  // After the control that has the keyboard: an input method takes Escape to give its text up.
+  g_signal_connect_after(dialog.Window, "key-press-event", G_CALLBACK(CloseOnEscape), nullptr);
 
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
   dialog.Content = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);

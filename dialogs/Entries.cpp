@@ -12,8 +12,24 @@ GtkWidget* Dlg_EditBox_Parent = nullptr;
 namespace {
 
 constexpr const gchar* WarningIcon = "dialog-warning-symbolic";
+constexpr const gchar* HintKey = "varnix-hint";
 constexpr const gchar* NotEncodable = "日本語 EUC にない文字は入力できません。";
 constexpr const gchar* TooLong = "文字数の上限を超えるため入力できません。";
+
+// The tooltip of an entry that refuses nothing: how much it takes.
+void ShowHint(GtkWidget* entry) {
+  gtk_widget_set_tooltip_text(
+      entry, static_cast<const gchar*>(g_object_get_data(G_OBJECT(entry), HintKey)));
+}
+
+void SetHint(GtkWidget* entry, const DLG_EDITBOX& row) {
+  if (row.edit != 0) return;
+  const gint size = MAX(row.size, 0);
+  g_object_set_data_full(
+      G_OBJECT(entry), HintKey,
+      g_strdup_printf("半角 %d 文字、全角 %d 文字まで (%d バイト)", size, size / 2, size), g_free);
+  ShowHint(entry);
+}
 
 // Says at the entry why the text was refused; the next accepted change takes it away.
 void ShowRefusal(GtkWidget* entry, const gchar* reason) {
@@ -28,7 +44,7 @@ void ClearRefusal(GtkWidget* entry) {
   if (gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) == nullptr) return;
   gtk_style_context_remove_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
   gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, nullptr);
-  gtk_widget_set_tooltip_text(entry, nullptr);
+  ShowHint(entry);
 }
 
 // Why the entry cannot take `text`, null when it can.
@@ -98,6 +114,7 @@ void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
     gtk_editable_set_position(GTK_EDITABLE(entry), 0);
     gtk_editable_set_editable(GTK_EDITABLE(entry), row.edit == 0);
     g_object_set(entry, "truncate-multiline", TRUE, nullptr);
+    SetHint(entry, row);
     gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
     g_signal_connect(entry, "delete-text", G_CALLBACK(Dlg_EditBox_Delete), nullptr);
     g_signal_connect(entry, "insert-text", G_CALLBACK(Dlg_EditBox_Insert), &row);

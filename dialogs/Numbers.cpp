@@ -22,6 +22,7 @@ void Dlg_NumrBox(GtkWidget* parent, GtkWidget* table, DLG_NUMRBOX* rows) {
     gtk_spin_button_set_numeric(GTK_SPIN_BUTTON(spin), TRUE);
     gtk_entry_set_activates_default(GTK_ENTRY(spin), TRUE);
     g_signal_connect(adjustment, "value-changed", G_CALLBACK(Dlg_NumrBox_Change), &row);
+    ShowRange(spin, "設定範囲", row.min, row.max);
     gtk_widget_show(spin);
 
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);

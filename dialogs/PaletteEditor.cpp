@@ -5,6 +5,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
+#include "dialogs/RecentColours.h"
 #include "dialogs/SwatchArea.h"
 #include "dialogs/SwatchGrid.h"
 #include "layout/Mouse.h"
@@ -26,16 +27,35 @@ struct PaletteDialog {
 PaletteDialog EditColr;
 PaletteDialog ColrSlct;
 
-gint SwatchNumber(const Palette& boxes, GtkWidget* box) {
-  const auto found = std::find_if(boxes.begin(), boxes.end(),
-                                  [box](const COLRBOX& entry) { return entry.box == box; });
-  return found == boxes.end() ? -1 : static_cast<gint>(found - boxes.begin());
+constexpr const gchar* NumberKey = "varnix-colour";
+
+gint SwatchNumber(GtkWidget* box) {
+  return GPOINTER_TO_INT(g_object_get_data(G_OBJECT(box), NumberKey));
 }
 
 void PaintSwatch(GtkWidget* box, cairo_t* cairo, gpointer data) {
   const Palette& boxes = static_cast<const PaletteDialog*>(data)->Boxes;
-  if (const gint number = SwatchNumber(boxes, box); number >= 0)
-    DrawColrData(box, cairo, number, boxes[static_cast<gsize>(number)].colr);
+  const gint number = SwatchNumber(box);
+  DrawColrData(box, cairo, number, boxes[static_cast<gsize>(number)].colr);
+}
+
+GtkWidget* NewSwatch(PaletteDialog* dialog, gint number, SwatchPress press) {
+  GtkWidget* box = NewSwatchArea({62, 20}, PaintSwatch, press, dialog);
+  g_object_set_data(G_OBJECT(box), NumberKey, GINT_TO_POINTER(number));
+  TellColour(box, number);
+  return box;
+}
+
+// An empty grid for swatches that the keyboard moves about in.
+GtkWidget* NewSwatchGrid() {
+  GtkWidget* table = gtk_grid_new();
+  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
+  gtk_grid_set_row_homogeneous(GTK_GRID(table), TRUE);
+  gtk_grid_set_column_homogeneous(GTK_GRID(table), TRUE);
+  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
+  gtk_grid_set_column_spacing(GTK_GRID(table), 10);
+  MakeOneTabStop(table);
+  return table;
 }
 
 // A window with the 10 x 10 swatches of working copies of the palette, numbered down the columns.
@@ -44,27 +64,20 @@ DialogWindow NewPaletteWindow(PaletteDialog* dialog, const gchar* title, SwatchP
   dialog->Window = window.Window;
   gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* table = gtk_grid_new();
-  gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  gtk_grid_set_row_homogeneous(GTK_GRID(table), TRUE);
-  gtk_grid_set_column_homogeneous(GTK_GRID(table), TRUE);
-  gtk_grid_set_row_spacing(GTK_GRID(table), 5);
-  gtk_grid_set_column_spacing(GTK_GRID(table), 10);
+  GtkWidget* table = NewSwatchGrid();
   for (gint number = 0; number < ColrCount; ++number) {
     COLRBOX& entry = dialog->Boxes[static_cast<gsize>(number)];
-    entry = {NewSwatchArea({62, 20}, PaintSwatch, press, dialog), ColrData[number]};
-    TellColour(entry.box, number);
+    entry = {NewSwatch(dialog, number, press), ColrData[number]};
     gtk_grid_attach(GTK_GRID(table), entry.box, number / Side, number % Side, 1, 1);
   }
-  MakeOneTabStop(table);
   gtk_box_pack_start(GTK_BOX(window.Content), table, TRUE, TRUE, 0);
   gtk_widget_show_all(table);
   return window;
 }
 
 void EditColrData_Event(GtkWidget* box, guint button, gpointer /*data*/) {
-  const gint number = SwatchNumber(EditColr.Boxes, box);
-  if (button == GDK_BUTTON_PRIMARY && number >= 0 &&
+  const gint number = SwatchNumber(box);
+  if (button == GDK_BUTTON_PRIMARY &&
       MakeColrData(EditColr.Window, number, EditColr.Boxes.data()) == 1)
     gtk_widget_queue_draw(box);
 }
@@ -79,23 +92,39 @@ void EditColrData_CAN(GtkWidget* /*button*/, GtkWidget* window) {
 }
 
 // A right click changes the colour in the palette itself, without choosing it.
-void EditPickedColour(GtkWidget* box, gint number) {
+void EditPickedColour(gint number) {
   if (MakeColrData(ColrSlct.Window, number, ColrSlct.Boxes.data()) != 1) return;
   ColrData[number] = ColrSlct.Boxes[static_cast<gsize>(number)].colr;
   SaveColrFile();
   RedrawLayout();
-  gtk_widget_queue_draw(box);
+  gtk_widget_queue_draw(ColrSlct.Window);
 }
 
 void Dlg_ColrSelect_Event(GtkWidget* box, guint button, gpointer /*data*/) {
-  const gint number = SwatchNumber(ColrSlct.Boxes, box);
-  if (number < 0) return;
+  const gint number = SwatchNumber(box);
   if (button == GDK_BUTTON_PRIMARY) {
     ColrSlct.Result = number;
     gtk_widget_destroy(ColrSlct.Window);
   } else if (button == GDK_BUTTON_SECONDARY) {
-    EditPickedColour(box, number);
+    EditPickedColour(number);
   }
+}
+
+// The colours used lately once more below all of them.
+void AddRecentColours(const DialogWindow& window) {
+  if (RecentColours().empty()) return;
+  GtkWidget* label = NewLabel("最近使った色");
+  gtk_widget_set_margin_start(label, 10);
+  GtkWidget* row = NewSwatchGrid();
+  gint culm = 0;
+  for (const gint number : RecentColours())
+    gtk_grid_attach(GTK_GRID(row), NewSwatch(&ColrSlct, number, Dlg_ColrSelect_Event), culm++, 0, 1,
+                    1);
+  // As wide a place for each as in the palette above.
+  while (culm < Side) gtk_grid_attach(GTK_GRID(row), NewLabel(""), culm++, 0, 1, 1);
+  gtk_box_pack_start(GTK_BOX(window.Content), label, FALSE, FALSE, 0);
+  gtk_box_pack_start(GTK_BOX(window.Content), row, FALSE, FALSE, 0);
+  gtk_widget_show(row);
 }
 
 }  // namespace
@@ -114,10 +143,13 @@ void EditColrData(GtkWidget* parent, gpointer data) {
   RedrawLayout();
 }
 
-gint Dlg_ColrSelect(GtkWidget* parent) {
+gint Dlg_ColrSelect(GtkWidget* parent, gint current) {
   ColrSlct.Result = -1;
   const DialogWindow window = NewPaletteWindow(&ColrSlct, "表示色選択", Dlg_ColrSelect_Event);
   LeaveOutActions(window);
+  AddRecentColours(window);
+  if (current >= 0 && current < ColrCount)
+    gtk_widget_grab_focus(ColrSlct.Boxes[static_cast<gsize>(current)].box);
   RunModal(window.Window, parent);
   return ColrSlct.Result;
 }

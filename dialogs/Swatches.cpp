@@ -5,6 +5,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
+#include "dialogs/RecentColours.h"
 #include "dialogs/SwatchArea.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"
@@ -17,15 +18,6 @@ namespace {
 constexpr gint Baseline = 15;
 constexpr SIZE NumberArea = {24, 20};
 
-// Black, unless the theme writes in a light colour because its background is dark.
-GdkRGBA NumberColour(GtkWidget* box) {
-  GtkStyleContext* style = gtk_widget_get_style_context(box);
-  GdkRGBA colour;
-  gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
-  const bool light = colour.red + colour.green + colour.blue > 1.5;
-  return light ? colour : GdkRGBA{0, 0, 0, 1};
-}
-
 // The number at the left of a swatch, through the glyphs that the layouts show; around them the
 // background stays.
 void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
@@ -36,7 +28,7 @@ void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
   FillPixels(&picture, 0, 0, NumberArea.cx, NumberArea.cy, 0xffffff);
   DrawGc gc;
   DrawText(&picture, &gc, 0, std::max(Baseline - size.cy, 0), SmallFont, ColourBlack, -1, text);
-  const GdkRGBA colour = NumberColour(box);
+  const GdkRGBA colour = Ink(box);
   gdk_cairo_set_source_rgba(cairo, &colour);
   for (gint y = 0; y < NumberArea.cy; ++y)
     for (gint x = 0; x < NumberArea.cx; ++x)
@@ -45,8 +37,9 @@ void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
 }
 
 // Outline through the pixel centres: w + 1 x h + 1 pixels.
-void PaintOutline(cairo_t* cairo, gint x, gint y, gint width, gint height) {
-  cairo_set_source_rgb(cairo, 0, 0, 0);
+void PaintOutline(GtkWidget* box, cairo_t* cairo, gint x, gint y, gint width, gint height) {
+  const GdkRGBA colour = Ink(box);
+  gdk_cairo_set_source_rgba(cairo, &colour);
   cairo_set_line_width(cairo, 1);
   cairo_set_line_join(cairo, CAIRO_LINE_JOIN_MITER);
   cairo_rectangle(cairo, x + 0.5, y + 0.5, width, height);
@@ -75,7 +68,8 @@ void TellNumber(GtkWidget* area, const DLG_MARKDATA& row) {
   TellMark(area, LoadInt(row.mark));
 }
 gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
-  *number = Dlg_ColrSelect(Dlg_ColrData_Parent);
+  *number = Dlg_ColrSelect(Dlg_ColrData_Parent, LoadInt(row.colr));
+  if (*number != -1) NoteRecentColour(*number);
   return row.colr;
 }
 gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
@@ -130,7 +124,7 @@ void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colr
                        (colrdata.blue & 0xffff) / Full);
   cairo_rectangle(cairo, 20, 2, 40, 16);
   cairo_fill(cairo);
-  PaintOutline(cairo, 20, 2, 40, 16);
+  PaintOutline(colrbox, cairo, 20, 2, 40, 16);
 }
 
 void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDATA& markdata) {
@@ -143,9 +137,10 @@ void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDAT
     for (gint x = 0; x < size.cx; ++x)
       if (MarkDataGet(markno, &markdata, x, y) != 0) FillPixels(&picture, x, y, 1, 1, 0);
   cairo_set_source_surface(cairo, picture.Cairo(), 26, 1);
+  cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
   cairo_rectangle(cairo, 26, 1, size.cx, size.cy);
   cairo_fill(cairo);
-  PaintOutline(cairo, 25, 0, size.cx + 1, size.cy + 1);
+  PaintOutline(markbox, cairo, 25, 0, size.cx + 1, size.cy + 1);
 }
 
 void TellColour(GtkWidget* swatch, gint colrno) {
@@ -160,12 +155,18 @@ void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
   Dlg_ColrData_Parent = parent;
   ForEachRow(rows, [table](DLG_COLRDATA& row) {
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);
-    gtk_box_pack_start(GTK_BOX(box), NewSwatch(row), TRUE, TRUE, 0);
+    GtkWidget* swatch = NewSwatch(row);
+    ShowRange(swatch, "色番号", 0, ColrCount - 1);
+    gtk_box_pack_start(GTK_BOX(box), swatch, TRUE, TRUE, 0);
     PlaceControl(table, box, row);
   });
 }
 
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows) {
   Dlg_MarkData_Parent = parent;
-  ForEachRow(rows, [table](DLG_MARKDATA& row) { PlaceControl(table, NewSwatch(row), row); });
+  ForEachRow(rows, [table](DLG_MARKDATA& row) {
+    GtkWidget* swatch = NewSwatch(row);
+    ShowRange(swatch, "マーク", 0, MarkCount - 1);
+    PlaceControl(table, swatch, row);
+  });
 }

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "CanvasScroll.h"
 #include "Holders.h"
 #include "OverlayRegion.h"
 #include "PtrnData.h"
@@ -70,6 +71,8 @@ void Show(cairo_t* cairo, Drawable& surface) {
   if (!surface.Valid()) return;
   cairo_surface_mark_dirty(surface.Cairo());
   cairo_set_source_surface(cairo, surface.Cairo(), surface.X(), surface.Y());
+  // A screen of more dots shows each of ours as a block of its own.
+  cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
   cairo_paint(cairo);
 }
 
@@ -146,6 +149,7 @@ void DrawRequest(gint mode) {
 
 void SizeRequest(gint mode, gint width, gint height, gint zoom) {
   if (PtrnDraw == nullptr) return;
+  KeepScrollPlace();
   PtrnDraw_Mode = mode;
   ShownOverlay.reset();
   if (mode == 0) {
@@ -159,6 +163,7 @@ void SizeRequest(gint mode, gint width, gint height, gint zoom) {
     PtrnDraw_Size2 = {std::max(PtrnDraw_Size1.cx * percent / 100, 1),
                       std::max(PtrnDraw_Size1.cy * percent / 100, 1)};
     gtk_widget_set_size_request(PtrnDraw, PtrnDraw_Size2.cx, PtrnDraw_Size2.cy);
+    RestoreScrollPlace();
     DrawRequest(1);
   }
   SetMainMenu();

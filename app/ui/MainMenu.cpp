@@ -91,6 +91,13 @@ GtkAccelGroup* Keys;
 gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer entry) {
   return gtk_widget_mnemonic_activate(GTK_WIDGET(entry), FALSE);
 }
+// Takes the keyboard from the main window to the tool box and back.
+gboolean SwitchWindow(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer) {
+  if (ToolBox == nullptr) return FALSE;
+  auto* panel = GTK_WINDOW(ToolBox);
+  gtk_window_present(gtk_window_is_active(panel) ? GTK_WINDOW(PtrnWnd) : panel);
+  return TRUE;
+}
 }  // namespace
 
 GtkAccelGroup* MainMenuKeys() {
@@ -107,6 +114,8 @@ GtkWidget* CreateMainMenu() {
     gtk_accel_group_connect(Keys, top.AltKey, GDK_MOD1_MASK, GTK_ACCEL_LOCKED,
                             g_cclosure_new_object(G_CALLBACK(OpenTopMenu), G_OBJECT(entry)));
   }
+  gtk_accel_group_connect(Keys, GDK_KEY_F6, GdkModifierType{}, GTK_ACCEL_LOCKED,
+                          g_cclosure_new(G_CALLBACK(SwitchWindow), nullptr, nullptr));
   gtk_widget_show(bar);
   return bar;
 }

@@ -1,5 +1,6 @@
 #include "CanvasEvents.h"
 #include "CanvasKeys.h"
+#include "CanvasScroll.h"
 #include "Holders.h"
 #include "ProjData.h"
 #include "PtrnMisc.h"
@@ -61,11 +62,13 @@ void CreateMainWindow() {
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
   gtk_container_add(GTK_CONTAINER(window), box);
   gtk_box_pack_start(GTK_BOX(box), CreateMainMenu(), FALSE, FALSE, 0);
-  gtk_box_pack_start(GTK_BOX(box), CreateScrolledCanvas(), TRUE, TRUE, 0);
+  GtkWidget* scrolled = CreateScrolledCanvas();
+  gtk_box_pack_start(GTK_BOX(box), scrolled, TRUE, TRUE, 0);
   gtk_window_add_accel_group(GTK_WINDOW(window), MainMenuKeys());
 
   g_signal_connect(window, "size-allocate", G_CALLBACK(RememberWindowSize), nullptr);
   g_signal_connect(window, "key-press-event", G_CALLBACK(CanvasKey), nullptr);
+  ConnectScroll(window, scrolled);
   g_signal_connect(window, "delete-event", G_CALLBACK(Delete_Event), nullptr);
   g_signal_connect(window, "destroy", G_CALLBACK(Destroy_Event), nullptr);
   gtk_widget_show_all(box);

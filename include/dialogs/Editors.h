@@ -20,8 +20,9 @@ void EditColrData(GtkWidget* parent, gpointer data);
 void EditMarkData(GtkWidget* parent, gpointer data);
 void PtrnGridSet(GtkWidget* parent, gpointer data);
 
-// Pickers: the number chosen, -1 when closed without a choice.
-gint Dlg_ColrSelect(GtkWidget* parent);
+// Pickers: the number chosen, -1 when closed without a choice. The colour picker begins at
+// `current`.
+gint Dlg_ColrSelect(GtkWidget* parent, gint current = 0);
 gint Dlg_MarkSelect(GtkWidget* parent);
 gint Dlg_MarkSearch(GtkWidget* parent, const MARKBOX* markbox);
 // Editors of one entry of a set of working copies: 1 = the entry was changed.

@@ -122,10 +122,11 @@ void Move(GtkWidget* area, gint x, gint y, guint state) {
   gtk_main_do_event(event.get());
 }
 
-void PressKey(GtkWidget* window, guint key) {
+void PressKey(GtkWidget* window, guint key, GdkModifierType held) {
   const EventPtr event = NewEvent(GDK_KEY_PRESS, window);
   gdk_event_set_device(event.get(), gdk_seat_get_keyboard(SeatOf(window)));
   event->key.keyval = key;
+  event->key.state = held;
   GdkKeymapKey* keys = nullptr;
   gint count = 0;
   GdkKeymap* keymap = gdk_keymap_get_for_display(gtk_widget_get_display(window));

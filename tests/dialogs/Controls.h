@@ -37,8 +37,8 @@ void Type(GtkWidget* entry, const std::string& text);
 void Press(GtkWidget* area, guint button, gint x = 5, gint y = 5);
 // Moves the pointer over it with the buttons of `state` held.
 void Move(GtkWidget* area, gint x, gint y, guint state);
-// Presses a key in a window.
-void PressKey(GtkWidget* window, guint key);
+// Presses a key in a window while modifiers are held.
+void PressKey(GtkWidget* window, guint key, GdkModifierType held = {});
 // Asks a window to close as the window manager does.
 void CloseByManager(GtkWidget* window);
 // Selects a row of the first list or tree below `root`; "0" = first, "0:2" = third below the first.

@@ -12,16 +12,24 @@
 namespace {
 
 constexpr gint Limit = 10;  // bytes
+constexpr const gchar* Hint = "半角 10 文字、全角 5 文字まで (10 バイト)";
 
 // "日本" in EUC-JP.
 constexpr gchar Nihon[] = "\xC6\xFC\xCB\xDC";
+
+std::string TooltipOf(GtkWidget* entry) {
+  gchar* text = gtk_widget_get_tooltip_text(entry);
+  std::string tooltip = text != nullptr ? text : "";
+  g_free(text);
+  return tooltip;
+}
 
 bool IsRefused(GtkWidget* entry) {
   const bool marked = gtk_style_context_has_class(gtk_widget_get_style_context(entry),
                                                   GTK_STYLE_CLASS_ERROR) != FALSE;
   const bool icon = gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) != nullptr;
   EXPECT_EQ(marked, icon);
-  EXPECT_EQ(icon, gtk_widget_get_tooltip_text(entry) != nullptr);
+  EXPECT_EQ(icon, TooltipOf(entry) != Hint);
   return marked;
 }
 
@@ -48,6 +56,11 @@ class Entries : public testing::Test {
 TEST_F(Entries, ShowWhatIsStored) {
   GtkWidget* entry = NewEntry(Nihon);
   EXPECT_EQ(EntryText(entry), "日本");
+}
+
+TEST_F(Entries, TellHowMuchTheyTake) {
+  EXPECT_EQ(TooltipOf(NewEntry("")), Hint);
+  EXPECT_EQ(TooltipOf(NewEntry("", 1)), "");
 }
 
 TEST_F(Entries, WriteEucJpAtOnce) {

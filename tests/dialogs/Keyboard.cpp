@@ -1,6 +1,7 @@
 // Swatches, pickers and the mark editor without a mouse.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "common/TempFolder.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
+#include "dialogs/RecentColours.h"
 #include "dialogs/ToolBox.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
@@ -90,6 +92,45 @@ TEST_F(Keyboard, SpaceAndReturnChooseAColour) {
     PressKey(ToolBox, key);
     EXPECT_EQ(+PtrnData.Parm[29], 11);
   }
+}
+
+TEST_F(Keyboard, TheLatestColoursStandBelowThePaletteOneTabAway) {
+  for (const gint number : {10, 11, 10}) {
+    FocusEraseColour();
+    PtrnData.Parm[29] = 0;
+    const DialogAnswer answer(ColourPicker,
+                              number == 10 ? Keys({GDK_KEY_Right, GDK_KEY_Return})
+                                           : Keys({GDK_KEY_Right, GDK_KEY_Down, GDK_KEY_Return}));
+    PressKey(ToolBox, GDK_KEY_space);
+    EXPECT_EQ(+PtrnData.Parm[29], number);
+  }
+  // The latest first, the one used twice once.
+  const auto recent = RecentColours();
+  ASSERT_GE(recent.size(), 2U);
+  EXPECT_EQ(recent[0], 10);
+  EXPECT_EQ(recent[1], 11);
+  EXPECT_EQ(std::count(recent.begin(), recent.end(), 10), 1);
+  const DialogAnswer answer(ColourPicker, [](GtkWidget* picker) {
+    EXPECT_NE(FindLabel(picker, "最近使った色"), nullptr);
+    PressKeys(picker, {GDK_KEY_Tab, GDK_KEY_Right, GDK_KEY_Return});
+  });
+  PressKey(ToolBox, GDK_KEY_space);
+  EXPECT_EQ(+PtrnData.Parm[29], 11);
+}
+
+TEST_F(Keyboard, ThePickerBeginsAtTheColourThatIsThere) {
+  const DialogAnswer answer(ColourPicker, Keys({GDK_KEY_Return}));
+  EXPECT_EQ(Dlg_ColrSelect(PtrnWnd, 37), 37);
+}
+
+TEST_F(Keyboard, F6GoesToTheToolBoxAndBack) {
+  Dlg_ToolBox(PtrnWnd, 15);
+  ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
+  WaitForKeyboard(PtrnWnd);
+  PressKey(PtrnWnd, GDK_KEY_F6);
+  ASSERT_TRUE(WaitFor([] { return gtk_window_is_active(GTK_WINDOW(ToolBox)) != FALSE; }));
+  PressKey(ToolBox, GDK_KEY_F6);
+  EXPECT_TRUE(WaitFor([] { return gtk_window_is_active(GTK_WINDOW(PtrnWnd)) != FALSE; }));
 }
 
 TEST_F(Keyboard, TheMenuKeyEditsThePickersColour) {

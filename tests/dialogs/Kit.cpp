@@ -126,6 +126,16 @@ TEST(Kit, SpinsWriteEachChange) {
   EXPECT_EQ(value, 55);
 }
 
+TEST(Kit, SpinsTellTheirRange) {
+  gint value = 10;
+  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};
+  GridWindow form;
+  Dlg_NumrBox(form.Window, form.Grid, rows);
+  gchar* tooltip = gtk_widget_get_tooltip_text(rows[0].spin);
+  EXPECT_STREQ(tooltip, "設定範囲 10 〜 9999");
+  g_free(tooltip);
+}
+
 TEST(Kit, SpinsKeepToTheirRange) {
   gint value = 10;
   DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};

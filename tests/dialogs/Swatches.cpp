@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 #include "dialogs/Controls.h"
 #include "dialogs/GridWindow.h"
@@ -54,11 +55,11 @@ class Swatches : public testing::Test {
     return ControlAt(Form.Grid, 0, 0, GTK_TYPE_DRAWING_AREA);
   }
   GtkWidget* NewMark() {
-    Marks[0] = {0, 0, 0, &Number};
+    Marks[0] = {1, 0, 0, &Number};
     Marks[1] = {-1, 0, 0, nullptr};
     Dlg_MarkData(Form.Window, Form.Grid, Marks);
     Form.Show();
-    return ControlAt(Form.Grid, 0, 0, GTK_TYPE_DRAWING_AREA);
+    return ControlAt(Form.Grid, 1, 0, GTK_TYPE_DRAWING_AREA);
   }
 
   gint Number = 5;
@@ -98,6 +99,28 @@ TEST_F(Swatches, ShowTheirMarkInABlackFrame) {
   EXPECT_EQ(PixelOf(swatch, 26 + 2, 1 + 3), 0U);
   EXPECT_EQ(PixelOf(swatch, 26 + 3, 1 + 3), 0xFFFFFFU);
   EXPECT_EQ(PixelOf(swatch, 25, 0), 0U);
+}
+
+TEST_F(Swatches, AreDrawnInTheThemesInkWhereThatIsLight) {
+  GtkCssProvider* dark = gtk_css_provider_new();
+  gtk_css_provider_load_from_data(dark, "* { color: #eeeeee; background: #303030; }", -1, nullptr);
+  gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(dark),
+                                            GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  Number = 7;
+  EXPECT_EQ(PixelOf(NewMark(), 25, 0), 0xEEEEEEU);
+  Number = 5;
+  EXPECT_EQ(PixelOf(NewColour(), 20, 2), 0xEEEEEEU);
+  gtk_style_context_remove_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(dark));
+  g_object_unref(dark);
+}
+
+TEST_F(Swatches, TellTheirRange) {
+  for (const auto& [swatch, range] :
+       {std::pair(NewColour(), "色番号 0 〜 99"), std::pair(NewMark(), "マーク 0 〜 349")}) {
+    gchar* tooltip = gtk_widget_get_tooltip_text(swatch);
+    EXPECT_STREQ(tooltip, range);
+    g_free(tooltip);
+  }
 }
 
 TEST_F(Swatches, TakeTheChosenColour) {

@@ -60,6 +60,25 @@ TEST_F(Canvas, ShowsTheStartPictureInEverySize) {
   }
 }
 
+TEST_F(Canvas, OnAScreenOfMoreDotsEachIsABlock) {
+  OpenWindow();
+  const PTRNDATA box = BoxItem(10, 10, 60, 40, 1);
+  AddPtrnData(&box);
+  ShowLayout(80, 50, Zoom100);
+  const std::unique_ptr<Drawable> whole = WholePicture(80, 50, 100);
+  constexpr gint Scale = 2;
+  Drawable screen(80 * Scale, 50 * Scale);
+  cairo_surface_set_device_scale(screen.Cairo(), Scale, Scale);
+  cairo_t* cairo = cairo_create(screen.Cairo());
+  PtrnDraw_Expose(PtrnDraw, cairo, nullptr);
+  cairo_destroy(cairo);
+  cairo_surface_flush(screen.Cairo());
+  for (gint y = 0; y < 50 * Scale; y++)
+    for (gint x = 0; x < 80 * Scale; x++)
+      ASSERT_EQ(screen.Row(y)[x] & 0xffffff, whole->Row(y / Scale)[x / Scale] & 0xffffff)
+          << x << ", " << y;
+}
+
 TEST_F(Canvas, SizesTruncate) {
   OpenWindow();
   ShowLayout(641, 481, Zoom50);

@@ -1,6 +1,7 @@
 #include <unistd.h>
 
 #include <climits>
+#include <filesystem>
 
 #include "PtrnMisc.h"
 #include "app/Menus.h"
@@ -36,6 +37,20 @@ TEST_F(MainWindow, OpensAt800By600WithoutASavedSize) {
   OpenWindow();
   EXPECT_EQ(gint{Allocated(PtrnWnd).cx}, 800);
   EXPECT_EQ(gint{Allocated(PtrnWnd).cy}, 600);
+}
+
+TEST_F(MainWindow, GivesEveryWindowTheProgramsIcon) {
+  std::filesystem::copy(TEST_SOURCE_DIR "/data/artwork/icon/VarnixMaster.png", Program.Path());
+  OpenWindow();
+  GList* icons = gtk_window_get_default_icon_list();
+  ASSERT_EQ(g_list_length(icons), 1U);
+  EXPECT_EQ(gdk_pixbuf_get_width(GDK_PIXBUF(icons->data)), 128);
+  g_list_free(icons);
+  // A window without an icon of its own takes that one.
+  Dlg_ToolBox(PtrnWnd, 2);
+  for (GtkWidget* window : {PtrnWnd, ToolBox})
+    EXPECT_EQ(gtk_window_get_icon(GTK_WINDOW(window)), nullptr);
+  gtk_window_set_default_icon_list(nullptr);
 }
 
 TEST_F(MainWindow, OpensInItsSavedSize) {

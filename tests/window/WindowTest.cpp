@@ -131,6 +131,15 @@ void SendMotion(gint x, gint y) {
   gtk_main_do_event(event.get());
 }
 
+void SendWheel(GdkScrollDirection direction, gint x, gint y, GdkModifierType held) {
+  const EventPtr event = NewCanvasEvent(GDK_SCROLL);
+  event->scroll.direction = direction;
+  event->scroll.state = held;
+  event->scroll.x = x;
+  event->scroll.y = y;
+  gtk_main_do_event(event.get());
+}
+
 void Drag(gint x1, gint y1, gint x2, gint y2) {
   SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, x1, y1);
   SendMotion(x2, y2);

@@ -37,6 +37,8 @@ guint32 PixelAt(GdkPixbuf* shot, gint x, gint y);
 // A mouse event of the canvas, as the display would send it.
 void SendButton(GdkEventType type, guint button, gint x, gint y);
 void SendMotion(gint x, gint y);
+// One step of the wheel.
+void SendWheel(GdkScrollDirection direction, gint x, gint y, GdkModifierType held = {});
 // Presses button 1 at one point, moves, and lets go at another.
 void Drag(gint x1, gint y1, gint x2, gint y2);
 // A key of the main window.
