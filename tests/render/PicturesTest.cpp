@@ -154,6 +154,24 @@ TEST_F(Pictures, EveryCursorHasInkAndAHotSpotOnItsMask) {
   }
 }
 
+// A light edge keeps the dark shape visible on a dark palette, as its own colour does on a light
+// one.
+TEST(Pictures, EveryPointersDarkShapeLiesWithinALightEdge) {
+  XPM_DataInit();
+  const auto bit = [](const guint8* bits, gint x, gint y) {
+    return (bits[4 * y + x / 8] & 1 << x % 8) != 0;
+  };
+  for (gint no = 0; no < 8; no++)
+    for (gint y = 1; y < 31; y++)
+      for (gint x = 1; x < 31; x++)
+        if (bit(CursorData[no], x, y)) {
+          EXPECT_TRUE(bit(CursorMask[no], x - 1, y)) << no << ": " << x << ", " << y;
+          EXPECT_TRUE(bit(CursorMask[no], x + 1, y)) << no << ": " << x << ", " << y;
+          EXPECT_TRUE(bit(CursorMask[no], x, y - 1)) << no << ": " << x << ", " << y;
+          EXPECT_TRUE(bit(CursorMask[no], x, y + 1)) << no << ": " << x << ", " << y;
+        }
+}
+
 TEST_F(Pictures, StartReadsCursorColoursAndFixedColours) {
   Profile("[COLOR]\nCURSOR_FG=65535,4096,0\nCURSOR_BG=0,1,65280\n");
   InitDrawData();
