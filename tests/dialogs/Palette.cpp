@@ -70,7 +70,7 @@ class Palette : public WindowTest {
 
 TEST_F(Palette, NumbersRunDownTheColumns) {
   const DialogAnswer answer(PickerTitle, [](GtkWidget* picker) {
-    EXPECT_EQ(CountOf(picker, GTK_TYPE_DRAWING_AREA), 100);
+    EXPECT_EQ(CountOf(FindGrid(picker), GTK_TYPE_DRAWING_AREA), 100);
     EXPECT_EQ(CountOf(picker, GTK_TYPE_BUTTON), 0);
     Press(SwatchAt(picker, 7, 3), 1);
   });

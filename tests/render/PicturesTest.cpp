@@ -156,7 +156,7 @@ TEST_F(Pictures, EveryCursorHasInkAndAHotSpotOnItsMask) {
 
 // A light edge keeps the dark shape visible on a dark palette, as its own colour does on a light
 // one.
-TEST(Pictures, EveryPointersDarkShapeLiesWithinALightEdge) {
+TEST_F(Pictures, EveryPointersDarkShapeLiesWithinALightEdge) {
   XPM_DataInit();
   const auto bit = [](const guint8* bits, gint x, gint y) {
     return (bits[4 * y + x / 8] & 1 << x % 8) != 0;
