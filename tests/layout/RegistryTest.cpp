@@ -1,11 +1,13 @@
 #include "layout/Registry.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstring>
 
 #include "ProjData.h"
 #include "tests/common/Bytes.h"
+#include "tests/common/Child.h"
 #include "tests/common/TempFolder.h"
 
 namespace {
@@ -156,6 +158,26 @@ TEST_F(TextListTest, AnUnterminatedEntryIsReadWithinItsRecord) {
   RegstPtrnText("y", 2);
   RegstPtrnText("z", 2);
   EXPECT_EQ(folder_.Read("PtrnText1"), std::string(102, 'x') + Text("y") + Text("z"));
+}
+
+// Whether a file that may be replaced but not read keeps its content when `enter` adds to it.
+bool StaysUnread(const TempFolder& folder, const char* name, void (*enter)()) {
+  folder.Write(name, std::string(1000, 'x'));
+  chmod(folder.Path().c_str(), 0777);
+  chmod(folder.Path(name).c_str(), 0222);
+  return HoldsForPlainUser([&] {
+           enter();
+           return true;
+         }) &&
+         folder.Read(name) == std::string(1000, 'x');
+}
+
+TEST_F(RegistryTest, OneThatCannotBeReadIsLeftAlone) {
+  EXPECT_TRUE(StaysUnread(folder_, "PtrnCode", [] { RegstPtrnCode("ABC", 1); }));
+}
+
+TEST_F(TextListTest, OneThatCannotBeReadIsLeftAlone) {
+  EXPECT_TRUE(StaysUnread(folder_, "PtrnText1", [] { RegstPtrnText("abc", 2); }));
 }
 
 }  // namespace

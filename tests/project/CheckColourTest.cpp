@@ -66,4 +66,21 @@ TEST(CheckColourTest, ButtonTitleMarkAndBar) {
   EXPECT_THAT(Found(project), ElementsAre("colour-vanishes Main 0 BarColour"));
 }
 
+TEST(CheckColourTest, TextOnAButtonAndOnTheButtonArea) {
+  PTRNDATA button = Button("");
+  CheckedProject project = ProjectWith({button, FixedString(20, 20, "Ready")});
+  PTRNDATA& text = project.Layouts[0].Items[1];
+  text.Parm[TextSlot::TextColour] = Grey;
+  EXPECT_THAT(Found(project), ElementsAre("colour-vanishes Main 1 TextColour"));
+  text.Parm[TextSlot::TextColour] = White;
+  EXPECT_THAT(Found(project), IsEmpty());
+
+  project = ProjectWith({FixedString(20, 84, "Ready")});
+  project.Layouts[0].Header.Parm1[HedrSlot::ButtonAreaHeight] = 20;
+  project.Layouts[0].Header.Parm1[HedrSlot::ButtonAreaColour] = White;
+  EXPECT_THAT(Found(project), IsEmpty());
+  project.Layouts[0].Header.Parm1[HedrSlot::ButtonAreaColour] = Black;
+  EXPECT_THAT(Found(project), ElementsAre("colour-vanishes Main 0 TextColour"));
+}
+
 }  // namespace

@@ -138,4 +138,11 @@ TEST_F(LogicProfileTest, WithoutProgramFolderNothingIsWritten) {
   EXPECT_FALSE(folder_.Exists("none"));
 }
 
+TEST_F(LogicProfileTest, AFileTooLargeForAProfileIsLeftAlone) {
+  const std::string path = folder_.Write("source/Plant.ini", "[PTRN]\n");
+  std::filesystem::resize_file(path, 17 << 20);
+  LogicDataEdit4();
+  EXPECT_EQ(std::filesystem::file_size(path), 17u << 20);
+}
+
 }  // namespace

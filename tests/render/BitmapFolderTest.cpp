@@ -74,4 +74,8 @@ TEST_F(BitmapFolder, LinksWithinItAndToItAreFollowed) {
   EXPECT_TRUE(DrawsFrom(root_.Path("Other"), "inside.bmp"));
 }
 
+TEST_F(BitmapFolder, AFolderThatIsNotThereHasNoPictures) {
+  EXPECT_FALSE(DrawsFrom(root_.Path("None"), "inside.bmp"));
+}
+
 }  // namespace

@@ -120,4 +120,19 @@ rr
 )");
 }
 
+TEST(Ellipse, OneOfOneDotIsOutlinedOrFilled) {
+  Paper outline(5, 5), filled(5, 5);
+  outline.gc.Foreground = filled.gc.Foreground = 0;
+  DrawCrcl1(&outline.surface, &outline.gc, 0, 0, 0, 4, 4);
+  DrawCrcl1(&filled.surface, &filled.gc, 1, 0, 0, 4, 4);
+  EXPECT_EQ(outline.Text(), R"(
+.###.
+#...#
+#...#
+#...#
+.###.
+)");
+  EXPECT_EQ(filled.surface.At(2, 2), 0u);
+}
+
 }  // namespace

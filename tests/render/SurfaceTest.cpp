@@ -1,6 +1,7 @@
 #include <cairo.h>
 
 #include "AsciiPicture.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 
@@ -59,6 +60,22 @@ TEST(Surface, FillsAreClippedWithoutOverflow) {
 TEST(Surface, PixelsAreTheHighBytesOfTheChannels) {
   EXPECT_EQ(PixelOf(0x12ff, 0x3400, 0x56aa), 0x123456u);
   EXPECT_EQ(PixelOf(-1, 65536, 0), 0xff0000u);
+}
+
+TEST(Surface, APartBesideItHasNoPixels) {
+  Paper paper(2, 2);
+  const Drawable part(paper.surface, {5, 5, 9, 9});
+  EXPECT_FALSE(part.Valid());
+  EXPECT_EQ(part.Width(), 0);
+  EXPECT_EQ(part.At(5, 5), 0u);
+}
+
+TEST(Surface, OneWithoutMemoryIsNotWritten) {
+  const TempFolder folder;
+  const Drawable huge(60000, 60000);
+  EXPECT_FALSE(huge.Valid());
+  EXPECT_FALSE(WritePng(huge, folder.Path("huge.png").c_str()));
+  EXPECT_FALSE(folder.Exists("huge.png"));
 }
 
 }  // namespace

@@ -238,4 +238,14 @@ TEST(FontNames, RelatedFontsKeepSizeWeightAndSlant) {
   EXPECT_EQ(RelatedNames("-*-fixed-medium-r-*-*-*-*-*-*-*-*-*-*", "iso8859-1"), Names{});
 }
 
+TEST(FontSet, EveryCharsetIsDrawnWhereNoBitmapFontHasTheSize) {
+  FontSet font("-nowhere-none-medium-r-normal--61-*-*-*-c-*-*-*");
+  const gint latin = font.Measure("A").width;
+  EXPECT_GT(latin, 0);
+  for (const char* text : {"\x8e\xb1", "\xb1\xb2", "\x8f\xb0\xa1"}) {
+    EXPECT_GT(font.Measure(text).width, 0) << text;
+    EXPECT_EQ(font.Measure(std::string("A") + text).width, latin + font.Measure(text).width);
+  }
+}
+
 }  // namespace
