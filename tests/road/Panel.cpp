@@ -45,10 +45,17 @@ gint RowOf(GtkWidget* grid, const Cell& cell) {
   return -1;
 }
 
+GtkWidget* FindCaptioned(GtkWidget* grid, const std::string& caption, GType kind) {
+  for (GtkWidget* child : Children(grid))
+    if (GTK_IS_BOX(child) && FindLabel(child, caption) != nullptr) return FindKind(child, kind);
+  return nullptr;
+}
+
 GtkWidget* FindControl(GtkWidget* window, const Cell& cell, GType kind) {
   GtkWidget* grid = FindKind(window, GTK_TYPE_GRID);
   if (grid == nullptr) return nullptr;
   const gint row = RowOf(grid, cell);
+  if (row < 0) return FindCaptioned(grid, cell.Label, kind);
   for (GtkWidget* child : Children(grid))
     if (Place(grid, child, "top-attach") == row && Place(grid, child, "left-attach") == cell.Column)
       if (GtkWidget* found = FindKind(child, kind)) return found;
@@ -113,6 +120,34 @@ Panel::Panel(const std::string& title) : window_(SeeWindow(title)) {
   EXPECT_NE(window_, nullptr) << "no window \"" << title << "\"";
 }
 
+Panel Panel::Page(const std::string& tab) const {
+  GtkWidget* notebook = Look([&] { return FindKind(window_, GTK_TYPE_NOTEBOOK); });
+  GtkWidget* label = Look([&] { return FindLabel(notebook, tab); });
+  Click(label);
+  const auto page = [&] {
+    const gint number = gtk_notebook_get_current_page(GTK_NOTEBOOK(notebook));
+    return gtk_notebook_get_nth_page(GTK_NOTEBOOK(notebook), number);
+  };
+  EXPECT_TRUE(See([&] {
+    return gtk_notebook_get_tab_label(GTK_NOTEBOOK(notebook), page()) == label;
+  })) << tab;
+  Settle();
+  return Panel(Look(page));
+}
+
+Panel Panel::Frame(const std::string& title) const {
+  GtkWidget* frame = Look([&] {
+    return FindWidget(window_, [&](GtkWidget* widget) {
+      return GTK_IS_FRAME(widget) &&
+             title == (std::string(gtk_frame_get_label(GTK_FRAME(widget)) != nullptr
+                                       ? gtk_frame_get_label(GTK_FRAME(widget))
+                                       : ""));
+    });
+  });
+  EXPECT_NE(frame, nullptr) << title;
+  return Panel(frame);
+}
+
 GtkWidget* Panel::Control(const Cell& cell, GType kind) const {
   GtkWidget* control = Look([&] { return FindControl(window_, cell, kind); });
   EXPECT_NE(control, nullptr) << "no " << g_type_name(kind) << " at " << cell.Label;
@@ -168,6 +203,10 @@ void Panel::Press(const std::string& label) const {
              g_strcmp0(gtk_button_get_label(GTK_BUTTON(widget)), label.c_str()) == 0;
     });
   }));
+}
+
+void Panel::Press(const Cell& cell) const {
+  Click(Control(cell, GTK_TYPE_BUTTON));
 }
 
 void EnterText(GtkWidget* entry, const std::string& text) {
