@@ -377,11 +377,17 @@ void ProjectWalk::Generate() const {
   ChooseMenu(MenuBar(), {"ファイル", "ロジック作成"});
   EXPECT_TRUE(See([this] { return Exists("sources", "移転計画.ini"); }));
   Settle();
-  EXPECT_EQ(Home.Read("sources/VarnixCode.h"), "#define     SYSTEM                  0\n");
+  EXPECT_EQ(Home.Read("sources/VarnixCode.h"),
+            "#define     SYSTEM                  0\n"
+            "#define     VERSION_START           100\n"
+            "#define     VERSION_STATION         101\n");
   const std::string source = Home.Read("sources/" + EucFromUtf8("移転計画").value() + ".cpp");
   for (const gchar* name : {"親画面", "固定画面", "子画面", "取寄画面"})
     EXPECT_THAT(source, HasSubstr(EucFromUtf8(name).value()));
-  EXPECT_THAT(Home.Read("sources/" + EucFromUtf8("移転計画").value() + ".ini"), HasSubstr("800"));
+  const std::string runtime = Home.Read("sources/" + EucFromUtf8("移転計画").value() + ".ini");
+  EXPECT_THAT(runtime, HasSubstr("DISPSIZE=800,600 "));
+  EXPECT_THAT(runtime, HasSubstr("PTRNSTART=" + EucFromUtf8("親画面").value() + " "));
+  EXPECT_THAT(runtime, HasSubstr("PTRNSTOP=" + EucFromUtf8("子画面").value() + " "));
 }
 
 // Each step stands on the one before.
@@ -406,6 +412,10 @@ TEST_F(ProjectWalk, FromNothingToSources) {
   });
   // The program finds the project again when it is started anew.
   gtk_widget_destroy(PtrnWnd);
+  gdk_display_sync(gdk_display_get_default());
+  ASSERT_TRUE(WaitFor([] {
+    return XDoTool({"search", "--onlyvisible", "--name", "移転計画"}).empty();
+  }));
   RunningProgram program(Folder);
   EXPECT_TRUE(WaitForTitle("レイアウト作成  [移転計画]"));
   PressKeys({"ctrl+q"});
