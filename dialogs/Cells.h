@@ -4,8 +4,10 @@
 #include <gtk/gtk.h>
 
 #include <cstring>
+#include <string>
 
 #include "Types.h"
+#include "dialogs/Kit.h"
 
 // Calls `build` for each row that shows a control.
 template <class Row, class Build>
@@ -34,6 +36,8 @@ GdkRGBA Ink(GtkWidget* area);
 void KeepWidget(GtkWidget** slot, GtkWidget* widget);
 // Shows record bytes in the entry of a text row without writing them back.
 void ShowRecordText(GtkWidget* entry, const gchar* text);
+// Stores a text that was chosen, not typed, in the row's field as it is and shows it.
+void ShowChoice(DLG_EDITBOX* row, const std::string& text);
 // Renders an open layout anew after its colours or marks have changed.
 void RedrawLayout();
 

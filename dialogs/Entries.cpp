@@ -105,6 +105,11 @@ void ShowRecordText(GtkWidget* entry, const gchar* text) {
   ClearRefusal(entry);
 }
 
+void ShowChoice(DLG_EDITBOX* row, const std::string& text) {
+  CopyText(row->text, static_cast<gsize>(row->size) + 1, text);
+  if (row->entry != nullptr) ShowRecordText(row->entry, row->text);
+}
+
 void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
   Dlg_EditBox_Parent = parent;
   ForEachRow(rows, [table](DLG_EDITBOX& row) {

@@ -3,7 +3,6 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
-#include <deque>
 #include <memory>
 #include <set>
 #include <utility>
@@ -15,7 +14,7 @@
 
 namespace {
 
-enum Column { LabelColumn, PathColumn, FilledColumn, ColumnCount };
+enum Column { LabelColumn, PathColumn, FilledColumn, LookedIntoColumn, ColumnCount };
 
 using FolderId = std::pair<dev_t, ino_t>;
 
@@ -31,8 +30,8 @@ struct TreeState {
   FolderSelected Selected;
   std::set<FolderId> Unfolded;
   GtkTreeStore* Store = nullptr;
-  std::deque<GtkTreeIter> Unseen;  // rows not yet looked into for folders
-  guint Source = 0;                // that looks into them
+  GtkTreeView* View = nullptr;
+  guint Source = 0;  // that looks into the rows in view
 };
 
 bool IsFolder(const dirent& entry, const std::string& path) {
@@ -83,44 +82,76 @@ std::string RowPath(GtkTreeModel* model, GtkTreeIter* row) {
 
 // An empty row below makes a folder unfoldable; unfolding it brings the folders themselves.
 void LookInto(GtkTreeStore* store, GtkTreeIter* row) {
+  gboolean done = FALSE;
+  gtk_tree_model_get(GTK_TREE_MODEL(store), row, LookedIntoColumn, &done, -1);
+  if (done) return;
+  gtk_tree_store_set(store, row, LookedIntoColumn, TRUE, -1);
   if (!HasFolders(RowPath(GTK_TREE_MODEL(store), row))) return;
   GtkTreeIter placeholder;
   gtk_tree_store_append(store, &placeholder, row);
 }
 
-// Looks into as many rows as fit into a moment, into one on any machine: the root is unfolded right
-// after it. False when none is left.
-bool LookForAMoment(TreeState* state) {
-  constexpr gint64 Moment = 10000;  // microseconds
-  const gint64 end = g_get_monotonic_time() + Moment;
-  while (!state->Unseen.empty()) {
-    LookInto(state->Store, &state->Unseen.front());
-    state->Unseen.pop_front();
-    if (g_get_monotonic_time() >= end) break;
-  }
-  return !state->Unseen.empty();
-}
-
-gboolean LookWhenIdle(gpointer data) {
-  auto* state = static_cast<TreeState*>(data);
-  if (LookForAMoment(state)) return G_SOURCE_CONTINUE;
-  state->Source = 0;
-  return G_SOURCE_REMOVE;
-}
-
-void AddFolder(TreeState* state, GtkTreeIter* parent, const std::string& label,
+void AddFolder(const TreeState* state, GtkTreeIter* parent, const std::string& label,
                const std::string& path) {
   GtkTreeIter row;
   // First, not last: the store counts its way to a last row.
-  gtk_tree_store_prepend(state->Store, &row, parent);
-  gtk_tree_store_set(state->Store, &row, LabelColumn, DisplayText(label).c_str(), PathColumn,
-                     path.c_str(), FilledColumn, FALSE, -1);
-  state->Unseen.push_front(row);
+  gtk_tree_store_insert_with_values(state->Store, &row, parent, 0, LabelColumn,
+                                    DisplayText(label).c_str(), PathColumn, path.c_str(), -1);
 }
 
-// What does not fit into a moment is looked into while the user already sees the folders.
-void LookIntoNewFolders(TreeState* state) {
-  if (LookForAMoment(state) && state->Source == 0) state->Source = g_idle_add(LookWhenIdle, state);
+// Looks into the first rows below one. The others wait until they come into view: there may be very
+// many, and each is a folder to open.
+void LookIntoFirstRows(const TreeState* state, GtkTreeIter* parent) {
+  constexpr gint FirstRows = 100;
+  GtkTreeModel* model = GTK_TREE_MODEL(state->Store);
+  GtkTreeIter row;
+  gboolean more = gtk_tree_model_iter_children(model, &row, parent);
+  for (gint count = 0; more && count < FirstRows; ++count) {
+    LookInto(state->Store, &row);
+    more = gtk_tree_model_iter_next(model, &row);
+  }
+}
+
+// Goes on to the row shown below; false after the last one.
+bool NextShownRow(GtkTreeView* view, GtkTreeIter* row) {
+  GtkTreeModel* model = gtk_tree_view_get_model(view);
+  GtkTreePath* path = gtk_tree_model_get_path(model, row);
+  const bool unfolded = gtk_tree_view_row_expanded(view, path) != FALSE;
+  gtk_tree_path_free(path);
+  GtkTreeIter from = *row;
+  if (unfolded && gtk_tree_model_iter_children(model, row, &from)) return true;
+  for (;;) {
+    *row = from;
+    if (gtk_tree_model_iter_next(model, row)) return true;
+    GtkTreeIter parent;
+    if (!gtk_tree_model_iter_parent(model, &parent, &from)) return false;
+    from = parent;
+  }
+}
+
+gboolean LookIntoRowsInView(gpointer data) {
+  auto* state = static_cast<TreeState*>(data);
+  state->Source = 0;
+  GtkTreePath* first = nullptr;
+  GtkTreePath* last = nullptr;
+  if (!gtk_tree_view_get_visible_range(state->View, &first, &last)) return G_SOURCE_REMOVE;
+  GtkTreeModel* model = GTK_TREE_MODEL(state->Store);
+  GtkTreeIter row;
+  GtkTreeIter end;
+  if (gtk_tree_model_get_iter(model, &row, first) && gtk_tree_model_get_iter(model, &end, last)) {
+    LookInto(state->Store, &row);
+    while (row.user_data != end.user_data && NextShownRow(state->View, &row))
+      LookInto(state->Store, &row);
+  }
+  gtk_tree_path_free(first);
+  gtk_tree_path_free(last);
+  return G_SOURCE_REMOVE;
+}
+
+// The rows must not change while they are painted.
+gboolean LookAfterPainting(GtkWidget* /*view*/, cairo_t* /*cairo*/, TreeState* state) {
+  if (state->Source == 0) state->Source = g_idle_add(LookIntoRowsInView, state);
+  return FALSE;
 }
 
 bool FirstVisit(TreeState* state, const std::string& path) {
@@ -146,7 +177,7 @@ gboolean FillBeforeUnfolding(GtkTreeView* view, GtkTreeIter* row, GtkTreePath* /
       AddFolder(state, row, folder->second, folder->first);
   }
   if (unfoldable) gtk_tree_store_remove(store, &placeholder);
-  LookIntoNewFolders(state);
+  LookIntoFirstRows(state, row);
   return FALSE;
 }
 
@@ -160,7 +191,8 @@ void ReportSelection(GtkTreeSelection* selection, TreeState* state) {
 // A tree that goes away unselects its row; nobody is to hear of that.
 void StopReporting(GtkWidget* view, TreeState* state) {
   g_signal_handlers_disconnect_by_data(gtk_tree_view_get_selection(GTK_TREE_VIEW(view)), state);
-  state->Unseen.clear();
+  if (state->Source != 0) g_source_remove(state->Source);
+  state->Source = 0;
 }
 
 gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, GtkTreePath* path,
@@ -173,11 +205,11 @@ gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, Gtk
 GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
   auto owner = std::make_unique<TreeState>(std::move(selected));
   GtkTreeStore* store =
-      gtk_tree_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING, G_TYPE_BOOLEAN);
+      gtk_tree_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING, G_TYPE_BOOLEAN, G_TYPE_BOOLEAN);
   TreeState* state = owner.release();
   state->Store = store;
   AddFolder(state, nullptr, root, root);
-  LookIntoNewFolders(state);
+  LookIntoFirstRows(state, nullptr);
   GtkWidget* view = gtk_tree_view_new_with_model(GTK_TREE_MODEL(store));
   g_object_unref(store);
   g_object_set_data_full(G_OBJECT(view), "varnix-folder-tree", state,
@@ -189,6 +221,8 @@ GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
       GTK_TREE_VIEW(view), -1, Name, gtk_cell_renderer_text_new(), "text", LabelColumn, nullptr);
   GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(view));
   gtk_tree_selection_set_select_function(selection, BelowRoot, nullptr, nullptr);
+  state->View = GTK_TREE_VIEW(view);
+  g_signal_connect(view, "draw", G_CALLBACK(LookAfterPainting), state);
   g_signal_connect(view, "test-expand-row", G_CALLBACK(FillBeforeUnfolding), state);
   g_signal_connect(selection, "changed", G_CALLBACK(ReportSelection), state);
   g_signal_connect(view, "destroy", G_CALLBACK(StopReporting), state);

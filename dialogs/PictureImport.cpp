@@ -1,16 +1,25 @@
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
+#include "layout/Screen.h"
 
-std::string CopyToBitmapFolder(const gchar* chosen, std::string* folder) {
+bool TakePicture(const gchar* chosen, DLG_EDITBOX* row, std::string* folder) {
   gchar path[PathSize];
   gchar name[PathSize];
   gchar ext[PathSize];
   SplitPath(chosen, path, name, ext);
-  if (folder != nullptr) *folder = path;
   const std::string stored = EucFromUtf8(name).value_or(name);
-  if (BmapPath[0] != '\0') FileCopy(path, name, ext, BmapPath, stored.c_str(), ext);
   gchar bare[PathSize];
   MakePath(bare, "", stored.c_str(), ext);
-  return bare;
+  if (std::string(bare).size() > static_cast<gsize>(row->size)) {
+    const std::string limit =
+        "拡張子を含めて " + std::to_string(row->size) + " バイト以内の名称にしてください。";
+    Dlg_MessageBox(row->entry, "入力エラー", "画像ファイルの名称が長すぎます。", limit.c_str(), 1);
+    return false;
+  }
+  if (folder != nullptr) *folder = path;
+  if (BmapPath[0] != '\0') FileCopy(path, name, ext, BmapPath, stored.c_str(), ext);
+  ShowChoice(row, bare);
+  return true;
 }

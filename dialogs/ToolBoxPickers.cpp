@@ -101,14 +101,8 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
   return SelectList;
 }
 
-// The text reaches the record as it is, even where it is none; the entry shows it.
-void TakeChoice(DLG_EDITBOX* edit, const std::string& text) {
-  CopyText(edit->text, static_cast<gsize>(edit->size) + 1, text);
-  if (edit->entry != nullptr) ShowRecordText(edit->entry, edit->text);
-}
-
 void PickFromList(DLG_EDITBOX* edit, const gchar* title, gint kind) {
-  TakeChoice(edit, ToolBox_List(ToolBox, title, kind));
+  ShowChoice(edit, ToolBox_List(ToolBox, title, kind));
 }
 
 }  // namespace
@@ -135,5 +129,5 @@ void ToolBox_Text3(GtkWidget* /*widget*/, DLG_EDITBOX* edit) {
 
 void ToolBox_Name(GtkWidget* /*widget*/, DLG_EDITBOX* edit) {
   const gchar* chosen = Dlg_FileSelect(ToolBox, "画像ファイル選択", 2);
-  if (*chosen != '\0') TakeChoice(edit, CopyToBitmapFolder(chosen));
+  if (*chosen != '\0') TakePicture(chosen, edit);
 }

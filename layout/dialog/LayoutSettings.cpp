@@ -28,10 +28,7 @@ void EditPtrnData_CAN(GtkWidget* /*button*/, GtkWidget* window) {
 
 void EditPtrnData_Bmap(GtkWidget* button, DLG_EDITBOX* edit) {
   const gchar* chosen = Dlg_FileSelect(gtk_widget_get_toplevel(button), "画像ファイル選択", 2);
-  if (*chosen == '\0') return;
-  const std::string name = CopyToBitmapFolder(chosen);
-  CopyText(edit->text, static_cast<gsize>(edit->size) + 1, name);
-  if (edit->entry != nullptr) ShowRecordText(edit->entry, edit->text);
+  if (*chosen != '\0') TakePicture(chosen, edit);
 }
 
 void AddBrowseButton(GtkWidget* table, DLG_EDITBOX* edit) {

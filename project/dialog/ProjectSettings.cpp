@@ -75,8 +75,7 @@ void EditProjData_CAN(GtkWidget* /*button*/, gpointer /*data*/) {
 void PickFolder(DLG_EDITBOX* row, const gchar* title) {
   const gchar* folder = Dlg_FolderSelect(EditProj, title);
   if (*folder == '\0') return;
-  CopyText(row->text, static_cast<gsize>(row->size) + 1, folder);
-  if (row->entry != nullptr) ShowRecordText(row->entry, row->text);
+  ShowChoice(row, folder);
 }
 
 void ProjPage1_Button1(GtkWidget* /*button*/, gpointer /*data*/) {
@@ -101,10 +100,7 @@ void ProjPage1_Button4(GtkWidget* /*button*/, gpointer /*data*/) {
 void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
   const gchar* chosen = Dlg_FileSelect(EditProj, "ロゴマーク選択", 2);
   if (*chosen == '\0') return;
-  DLG_EDITBOX& row = ProjPage21_Edit[0];
-  EditLogoFile = chosen;
-  CopyText(EditData.LogoName, CopyToBitmapFolder(chosen, &EditLogoPath));
-  if (row.entry != nullptr) ShowRecordText(row.entry, row.text);
+  if (TakePicture(chosen, &ProjPage21_Edit[0], &EditLogoPath)) EditLogoFile = chosen;
 }
 
 void AddButton(GtkWidget* table, const gchar* label, gint line, gint culm, GCallback clicked) {

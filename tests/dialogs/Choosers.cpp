@@ -300,6 +300,27 @@ TEST_F(Choosers, ManyFoldersOpenAtOnce) {
   });
 }
 
+TEST_F(Choosers, RowsAreLookedIntoWhenTheyComeIntoView) {
+  for (gint no = 0; no < 400; no++) MakeFolder("f" + std::to_string(no) + "/below");
+  Folder([](GtkWidget* dialog) {
+    GtkWidget* tree = TreeOf(dialog);
+    GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(tree));
+    const auto unfoldable = [model](const gchar* place) {
+      GtkTreeIter row;
+      return gtk_tree_model_get_iter_from_string(model, &row, place) &&
+             gtk_tree_model_iter_has_child(model, &row);
+    };
+    EXPECT_TRUE(unfoldable("0:0"));
+    EXPECT_FALSE(unfoldable("0:399"));
+    GtkTreePath* last = gtk_tree_path_new_from_string("0:399");
+    gtk_tree_view_scroll_to_cell(GTK_TREE_VIEW(tree), last, nullptr, FALSE, 0, 0);
+    gtk_tree_path_free(last);
+    EXPECT_TRUE(WaitFor([&] { return unfoldable("0:399"); }));
+    EXPECT_FALSE(unfoldable("0:200"));
+    CloseByManager(dialog);
+  });
+}
+
 // Files.
 
 TEST_F(Choosers, PicturesAreListedWhole) {

@@ -7,6 +7,7 @@
 #include "PtrnMisc.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
+#include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -67,6 +68,37 @@ TEST_F(GridSettings, SetKeepsExactlyTheThreeFields) {
   PtrnGridSet(nullptr, nullptr);
   EXPECT_EQ(std::memcmp(&PtrnHedr, &expected, sizeof expected), 0);
   EXPECT_EQ(PtrnFlag, flag);
+}
+
+// Saved and unsaved alike.
+TEST_F(GridSettings, AChangeIsNoChangeOfTheLayout) {
+  ShowLayout(320, 240, 2);
+  for (const gint flag : {1, 2}) {
+    PtrnFlag = flag;
+    const DialogAnswer answer(Title, [](GtkWidget* dialog) {
+      ChangeAll(dialog);
+      PressButton(" 設定 ")(dialog);
+    });
+    PtrnGridSet(nullptr, nullptr);
+    EXPECT_EQ(PtrnFlag, flag);
+  }
+}
+
+// At 100 %, with an interval of 40 dots and then of 12.
+TEST_F(GridSettings, TheNewGridShowsAtOnce) {
+  ShowLayout(320, 240, 2);
+  PtrnHedr.Parm2[1] = 1;
+  PtrnHedr.Parm2[2] = PtrnHedr.Parm2[3] = 11;
+  DrawRequest(1);
+  const guint32 before = PixelAt(CanvasShot().get(), 12, 12);
+  const DialogAnswer answer(Title, [](GtkWidget* dialog) {
+    gtk_combo_box_set_active(GTK_COMBO_BOX(ComboAt(dialog, 0)), 6);
+    gtk_combo_box_set_active(GTK_COMBO_BOX(ComboAt(dialog, 1)), 6);
+    PressButton(" 設定 ")(dialog);
+  });
+  PtrnGridSet(nullptr, nullptr);
+  EXPECT_EQ(before, 0xF0F0E0U);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 12, 12), 0xC01030U);
 }
 
 TEST_F(GridSettings, CancelAndCloseChangeNothing) {

@@ -224,6 +224,55 @@ TEST_F(LayoutDialogs, CloseNeverRenamesTheLayout) {
   EXPECT_STREQ(PtrnName, "fresh");
 }
 
+TEST_F(LayoutDialogs, ANamelessLayoutIsNamedBeforeItIsSaved) {
+  CopyText(PtrnName, "");
+  EXPECT_EQ(Close([](GtkWidget* dialog) {
+              EXPECT_FALSE(IsSensitive(dialog, " 保存 "));
+              EXPECT_FALSE(IsSensitive(dialog, " 破棄 "));
+              EXPECT_TRUE(IsSensitive(dialog, " 取消 "));
+              Type(EntryOf(dialog), "named");
+              EXPECT_TRUE(IsSensitive(dialog, " 保存 "));
+              PressButton(" 破棄 ")(dialog);
+            }),
+            2);
+}
+
+TEST_F(LayoutDialogs, CloseListsTheProjectsLayouts) {
+  Project.Write("first.ptn", "x");
+  Project.Write("a.b.ptn", "x");
+  Close([](GtkWidget* dialog) {
+    EXPECT_NE(FindLabel(dialog, "画面/帳票名"), nullptr);
+    EXPECT_NE(FindLabel(dialog, "フォルダー"), nullptr);
+    EXPECT_THAT(RowTexts(ListOf(dialog)), UnorderedElementsAre("first", "a"));
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(LayoutDialogs, TheNameToCloseUnderHoldsEightyBytes) {
+  CopyText(PtrnName, "");
+  Close([](GtkWidget* dialog) {
+    GtkWidget* entry = EntryOf(dialog);
+    Type(entry, std::string(80, 'x'));
+    Type(entry, "x");
+    EXPECT_EQ(EntryText(entry), std::string(80, 'x'));
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(LayoutDialogs, AnUnselectedLayoutIsNeitherOpenedNorDeleted) {
+  Project.Write("first.ptn", "x");
+  EXPECT_EQ(
+      Open([](GtkWidget* dialog) {
+        SelectText(dialog, "first");
+        gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(GTK_TREE_VIEW(ListOf(dialog))));
+        EXPECT_FALSE(IsSensitive(dialog, " 開く "));
+        EXPECT_FALSE(IsSensitive(dialog, " 削除 "));
+        PressButton(" 取消 ")(dialog);
+      }),
+      0);
+  EXPECT_TRUE(Project.Exists("first.ptn"));
+}
+
 // Settings.
 
 TEST_F(LayoutDialogs, SettingsShowATitleForEachLanguage) {

@@ -316,3 +316,69 @@ TEST_F(Marks, TheEnlargedViewShowsEachPixelAsASquare) {
     for (gint x = 0; x <= 16 * 8; x++) EXPECT_EQ(PixelAt(shot.get(), x, 32 * 8), 0U);
   });
 }
+
+// Its picture begins at (26, 1).
+TEST_F(Marks, TheActualSizeKeepsInStep) {
+  const DialogAnswer answer(EditTitle, [](GtkWidget* editor) {
+    GtkWidget* view = EnlargedOf(editor, 16, 32);
+    GtkWidget* actual = FindWidget(editor, [](GtkWidget* widget) {
+      SIZE size{0, 0};
+      gtk_widget_get_size_request(widget, &size.cx, &size.cy);
+      return GTK_IS_DRAWING_AREA(widget) && size.cx == 16 + 32 && size.cy == 32 + 8;
+    });
+    ASSERT_NE(actual, nullptr);
+    const auto shown = [actual](gint x, gint y) {
+      FinishFrame(actual);
+      GdkRectangle place;
+      gtk_widget_get_allocation(actual, &place);
+      GdkWindow* window = gtk_widget_get_window(actual);
+      const PixbufPtr shot(gdk_pixbuf_get_from_window(window, 0, 0, place.width, place.height));
+      return PixelAt(shot.get(), 26 + x, 1 + y);
+    };
+    EXPECT_EQ(shown(3, 2), 0xFFFFFFU);
+    Press(view, 1, 8 * 3 + 4, 8 * 2 + 4);
+    EXPECT_EQ(shown(3, 2), 0U);
+    Move(view, 8 * 9 + 4, 8 * 2 + 4, Left);
+    EXPECT_EQ(shown(6, 2), 0U);
+    EXPECT_EQ(shown(9, 2), 0U);
+    Press(view, 3, 8 * 3 + 4, 8 * 2 + 4);
+    EXPECT_EQ(shown(3, 2), 0xFFFFFFU);
+    CloseByManager(editor);
+  });
+  MakeMarkData(PtrnWnd, 7, Boxes.data());
+}
+
+// An item of mark 7, all of it set and then all but nothing.
+TEST_F(Marks, TheOpenLayoutShowsNewMarksAtOnce) {
+  for (gint y = 0; y < 32; y++)
+    for (gint x = 0; x < 16; x++) MarkDataSet(7, &MarkData[7], x, y, 1);
+  SaveMarkFile();
+  ShowLayout(320, 240, 2);
+  PTRNDATA item{};
+  item.Type = TypeMark;
+  item.Parm[ItemSlot::X1] = 40;
+  item.Parm[ItemSlot::Y1] = 40;
+  item.Parm[ItemSlot::X2] = 40 + 16;
+  item.Parm[ItemSlot::Y2] = 40 + 32;
+  for (gint system = 0; system < 4; system++) {
+    item.Parm[MarkSlot::Mark + system] = 7;
+    item.Parm[MarkSlot::MarkColour + system] = 3;
+  }
+  AddPtrnData(&item);
+  DrawRequest(1);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 40 + 4, 40 + 5), 0xC01030U);
+  const DialogAnswer answer(SetTitle, [](GtkWidget* settings) {
+    {
+      const DialogAnswer editor(EditTitle, [](GtkWidget* window) {
+        Press(EnlargedOf(window, 16, 32), 3, 8 * 4 + 4, 8 * 5 + 4);
+        PressButton("設定")(window);
+      });
+      Press(SwatchOf(settings, 7), 1);
+    }
+    PressButton(" 設定 ")(settings);
+  });
+  EditMarkData(nullptr, nullptr);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 40 + 4, 40 + 5), 0xF0F0E0U);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 40 + 5, 40 + 5), 0xC01030U);
+  EXPECT_EQ(PtrnFlag, 1);
+}

@@ -214,3 +214,35 @@ TEST_F(Palette, AChosenColourIsCutNotRounded) {
   EXPECT_EQ(box.colr.green, 65535);
   EXPECT_EQ(box.colr.blue, 65534);
 }
+
+// Colour 2 is that of the work area.
+
+TEST_F(Palette, TheOpenLayoutShowsANewPaletteAtOnce) {
+  ShowLayout(320, 240, 2);
+  DrawRequest(1);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 100, 100), 0xF0F0E0U);
+  const DialogAnswer answer(EditorTitle, [](GtkWidget* editor) {
+    {
+      const DialogAnswer colour(ColourTitle, Choose({0x1200, 0x3400, 0x5600}));
+      Press(SwatchAt(editor, 2, 0), 1);
+    }
+    PressButton(" 設定 ")(editor);
+  });
+  EditColrData(nullptr, nullptr);
+  EXPECT_EQ(PixelAt(CanvasShot().get(), 100, 100), 0x123456U);
+  EXPECT_EQ(PtrnFlag, 1);
+}
+
+TEST_F(Palette, TheOpenLayoutShowsARightClicksColourAtOnce) {
+  ShowLayout(320, 240, 2);
+  DrawRequest(1);
+  const DialogAnswer answer(PickerTitle, [](GtkWidget* picker) {
+    {
+      const DialogAnswer colour(ColourTitle, Choose({0x1200, 0x3400, 0x5600}));
+      Press(SwatchAt(picker, 2, 0), 3);
+    }
+    EXPECT_EQ(PixelAt(CanvasShot().get(), 10, 10), 0x123456U);
+    CloseByManager(picker);
+  });
+  Dlg_ColrSelect(PtrnWnd);
+}

@@ -33,7 +33,9 @@ RunningProgram::RunningProgram(const ProgramFolder& folder, const std::string& d
   const std::string errors = output_.Path("stderr");
   const std::string program = folder.Executable();
   pid_ = fork();
+  if (pid_ > 0) setpgid(pid_, pid_);
   if (pid_ != 0) return;
+  setpgid(0, 0);
   const int file = open(errors.c_str(), O_CREAT | O_WRONLY | O_TRUNC, 0600);
   dup2(file, STDERR_FILENO);
   if (!display.empty()) setenv("DISPLAY", display.c_str(), 1);
@@ -49,6 +51,18 @@ RunningProgram::~RunningProgram() {
   if (!asked_) {
     EXPECT_EQ(Complaints(), "");
   }
+}
+
+bool RunningProgram::Activate(const std::string& title) const {
+  // Asked for again: the manager gives the keyboard to a dialog above it as long as there is one.
+  return WaitFor([&] {
+    const std::string window = XDoTool({"search", "--all", "--onlyvisible", "--pid",
+                                        std::to_string(pid_), "--name", "^" + title + "$"});
+    if (window.empty()) return false;
+    if (XDoTool({"getactivewindow"}) == window) return true;
+    XDoTool({"windowactivate", window});
+    return false;
+  });
 }
 
 std::optional<int> RunningProgram::Wait() {

@@ -22,8 +22,9 @@ class ProgramFolder {
   TempFolder folder_;
 };
 
-// A running program; killed when still alive at the end. What it wrote to standard error fails the
-// test unless the test has asked for it.
+// A running program, in a process group of its own as a desktop or shell starts it; killed when
+// still alive at the end. What it wrote to standard error fails the test unless the test has asked
+// for it.
 class RunningProgram {
  public:
   // `display` is the display's name, "" for the test's own.
@@ -32,6 +33,10 @@ class RunningProgram {
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;
 
+  // Its process, and the group of it.
+  GPid Process() const { return pid_; }
+  // Waits for its window with this title and gives it the keyboard. False = none came.
+  bool Activate(const std::string& title) const;
   // Waits for the end. The exit status; nothing when it does not end by itself.
   std::optional<int> Wait();
   // What it wrote to standard error so far.
