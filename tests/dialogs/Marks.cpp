@@ -360,6 +360,8 @@ TEST_F(Marks, TheOpenLayoutShowsNewMarksAtOnce) {
   item.Parm[ItemSlot::Y1] = 40;
   item.Parm[ItemSlot::X2] = 40 + 16;
   item.Parm[ItemSlot::Y2] = 40 + 32;
+  item.Point1 = {40, 40};
+  item.Point2 = {40 + 16, 40 + 32};
   for (gint system = 0; system < 4; system++) {
     item.Parm[MarkSlot::Mark + system] = 7;
     item.Parm[MarkSlot::MarkColour + system] = 3;
