@@ -1,4 +1,5 @@
 // Choosing a folder; one that does not exist is made on request.
+#include <cstring>
 #include <string>
 
 #include "dialogs/Accessible.h"
@@ -42,7 +43,13 @@ void FolderSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
   // A folder from the tree may have a name that is not text; then its bytes stand, not what the
   // entry shows for them.
   const gchar* text = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
-  if (DisplayText(FolderName) != text) CopyText(FolderName, text);
+  if (DisplayText(FolderName) != text) {
+    if (std::strlen(text) >= sizeof FolderName) {
+      Tell(window, "フォルダーへのパスが長すぎます。");
+      return;
+    }
+    CopyText(FolderName, text);
+  }
   if (FolderName[0] == '\0') {
     Tell(window, "フォルダーが設定されていません。");
     return;

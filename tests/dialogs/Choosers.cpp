@@ -227,6 +227,25 @@ TEST_F(Choosers, AMissingFolderThatIsNotWantedKeepsTheChooser) {
   EXPECT_FALSE(Home.Exists("new"));
 }
 
+// 90 characters of three bytes each.
+TEST_F(Choosers, APathThatNoRecordHoldsIsRefusedNotCut) {
+  std::string path = "/";
+  for (gint count = 0; count < 90; count++) path += "あ";
+  EXPECT_EQ(Folder([&path](GtkWidget* dialog) {
+              SetPath(dialog, path);
+              {
+                const DialogAnswer answer(MessageTitle, [](GtkWidget* message) {
+                  EXPECT_NE(FindLabel(message, "フォルダーへのパスが長すぎます。"), nullptr);
+                  PressButton(" 確認 ")(message);
+                });
+                PressButton(" 選択 ")(dialog);
+              }
+              EXPECT_EQ(FindWindow(Title), dialog);
+              CloseByManager(dialog);
+            }),
+            "");
+}
+
 TEST_F(Choosers, AFileIsNoFolder) {
   Home.Write("plain", "x");
   EXPECT_EQ(Folder([this](GtkWidget* dialog) {

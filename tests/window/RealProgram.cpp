@@ -111,6 +111,19 @@ TEST_F(RealProgram, ReopensTheLastProjectAndEndsByItsMenuKey) {
   EXPECT_NE(Folder.Profile().find("WINDOW=1120,900"), std::string::npos);
 }
 
+// The settings of a project leave the main window usable.
+TEST_F(RealProgram, EndsByItsMenuKeyBesideTheProjectSettings) {
+  RunningProgram program(Folder);
+  const std::string main = "レイアウト作成  \\[WaterWorks\\]";
+  ASSERT_TRUE(program.Activate(main));
+  PressKeys({"ctrl+shift+e"});
+  ASSERT_TRUE(program.Activate("プロジェクトの新規作成"));
+  ASSERT_TRUE(program.Activate(main));
+  PressKeys({"ctrl+q"});
+  EXPECT_EQ(program.Wait(), 0);
+  EXPECT_EQ(program.Complaints(), "");
+}
+
 TEST_F(RealProgram, EndsWhenTheWindowManagerClosesIt) {
   RunningProgram program(Folder);
   ASSERT_TRUE(WaitForTitle(ProjectTitle));
