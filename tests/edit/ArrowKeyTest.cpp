@@ -48,8 +48,8 @@ TEST_F(ArrowKeyTest, SomeOfTheItemStaysOnTheLayout) {
   EXPECT_EQ(PointsOf(PtrnData), "(199,99)-(202,139)");
   TakeInHand(MakeItem(TypeCheckBox, 2, 2, 0, 0));
   for (gint step = 0; step < 5; step++) MoveItemInHand(-1, -1);
-  EXPECT_EQ(PtrnData.Point1.x, 0);
-  EXPECT_EQ(PtrnData.Point1.y, 0);
+  EXPECT_EQ(+PtrnData.Point1.x, 0);
+  EXPECT_EQ(+PtrnData.Point1.y, 0);
 }
 
 TEST_F(ArrowKeyTest, NothingMovesWithoutAnItemInHand) {

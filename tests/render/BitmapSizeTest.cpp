@@ -119,7 +119,11 @@ TEST_F(BitmapSize, HeadersThatClaimAbsurdSizes) {
   EXPECT_TRUE(IsRefused("b.bmp", Bmp(60000, -60000)));
   EXPECT_TRUE(IsRefused("c.bmp", Bmp(0x7fffffff, 1)));
   EXPECT_TRUE(IsRefused("a.gif", Gif(60000, 60000)));
+#ifndef __SANITIZE_ADDRESS__
+  // Its loader takes address space for all pixels and touches none; the sanitizer's notes on that
+  // space would be touched.
   EXPECT_TRUE(IsRefused("a.xpm", Xpm("60000")));
+#endif
 }
 
 TEST_F(BitmapSize, AFrameLargerThanItsScreen) {
