@@ -164,3 +164,13 @@ std::vector<std::string> RowTexts(GtkWidget* list) {
   }
   return texts;
 }
+
+void ChooseFirstFile(GtkWidget* chooser) {
+  SelectRow(chooser, "0:0");
+  SelectRow(FindWidget(chooser,
+                       [skip = 1](GtkWidget* widget) mutable {
+                         return GTK_IS_TREE_VIEW(widget) && skip-- == 0;
+                       }),
+            "0");
+  PressButton(" 選択 ")(chooser);
+}

@@ -45,3 +45,5 @@ void CloseByManager(GtkWidget* window);
 void SelectRow(GtkWidget* root, const std::string& path);
 // What the rows of a list show.
 std::vector<std::string> RowTexts(GtkWidget* list);
+// Takes the first file of the first folder in a file chooser.
+void ChooseFirstFile(GtkWidget* chooser);

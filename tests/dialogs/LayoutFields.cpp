@@ -234,15 +234,7 @@ TEST_F(LayoutFields, BrowsingCopiesThePictureAndNamesIt) {
   for (const gint kind : {0, 1})
     Edit(Pages[kind], [kind](GtkWidget* dialog) {
       {
-        const DialogAnswer answer("画像ファイル選択", [](GtkWidget* chooser) {
-          SelectRow(chooser, "0:0");
-          SelectRow(FindWidget(chooser,
-                               [skip = 1](GtkWidget* widget) mutable {
-                                 return GTK_IS_TREE_VIEW(widget) && skip-- == 0;
-                               }),
-                    "0");
-          PressButton(" 選択 ")(chooser);
-        });
+        const DialogAnswer answer("画像ファイル選択", ChooseFirstFile);
         PressButton("参照")(dialog);
       }
       EXPECT_STREQ(EditHedr.BmapName, "sea.png");

@@ -100,17 +100,6 @@ void ChooseFirstFolder(GtkWidget* chooser) {
   PressButton(" 選択 ")(chooser);
 }
 
-// Takes the first file of the first folder.
-void ChooseFirstFile(GtkWidget* chooser) {
-  SelectRow(chooser, "0:0");
-  SelectRow(FindWidget(chooser,
-                       [skip = 1](GtkWidget* widget) mutable {
-                         return GTK_IS_TREE_VIEW(widget) && skip-- == 0;
-                       }),
-            "0");
-  PressButton(" 選択 ")(chooser);
-}
-
 const std::function<void(GtkWidget*)> Leavings[] = {PressButton(" 取消 "), CloseByManager};
 }  // namespace
 

@@ -1,30 +1,8 @@
-#include <unistd.h>
-
-#include <fstream>
-
 #include "PtrnData.h"
 #include "road/RoadTest.h"
 
 namespace {
 class ManyPicks : public RoadTest {};
-
-// Memory of the process that is in use and in RAM, in bytes.
-gint64 ResidentBytes() {
-  std::ifstream file("/proc/self/statm");
-  gint64 all = 0;
-  gint64 resident = 0;
-  file >> all >> resident;
-  return resident * sysconf(_SC_PAGESIZE);
-}
-
-guint WindowCount() {
-  return Look([] {
-    GList* windows = gtk_window_list_toplevels();
-    const guint count = g_list_length(windows);
-    g_list_free(windows);
-    return count;
-  });
-}
 
 // Picks two items in turn with real clicks; each pick opens the tool box anew.
 void PickInTurn(gint times) {

@@ -1,5 +1,9 @@
 #include "road/RoadTest.h"
 
+#include <unistd.h>
+
+#include <fstream>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"
@@ -53,4 +57,21 @@ void ClickCanvas(gint x, gint y, Button button) {
 void SaveByKey() {
   PressKey(GDK_KEY_s, {GDK_KEY_Control_L});
   EXPECT_TRUE(See([] { return PtrnFlag == 1; })) << "not saved";
+}
+
+guint WindowCount() {
+  return Look([] {
+    GList* windows = gtk_window_list_toplevels();
+    const guint count = g_list_length(windows);
+    g_list_free(windows);
+    return count;
+  });
+}
+
+gint64 ResidentBytes() {
+  std::ifstream file("/proc/self/statm");
+  gint64 all = 0;
+  gint64 resident = 0;
+  file >> all >> resident;
+  return resident * sysconf(_SC_PAGESIZE);
 }

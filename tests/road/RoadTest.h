@@ -30,3 +30,7 @@ void DragOnCanvas(gint x1, gint y1, gint x2, gint y2);
 void ClickCanvas(gint x, gint y, Button button = LeftButton);
 // Saves by key and waits until it is done.
 void SaveByKey();
+// The program's windows of every kind, hidden ones included.
+guint WindowCount();
+// The process's memory that is in RAM, in bytes.
+gint64 ResidentBytes();

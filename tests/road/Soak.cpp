@@ -1,8 +1,6 @@
 #include <malloc.h>
-#include <unistd.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
 
 #include "PtrnData.h"
@@ -30,21 +28,7 @@ struct Memory {
 Memory MemoryNow() {
   return Look([] {
     const struct mallinfo2 info = mallinfo2();
-    std::ifstream file("/proc/self/statm");
-    gint64 all = 0;
-    gint64 resident = 0;
-    file >> all >> resident;
-    return Memory{static_cast<gint64>(info.uordblks + info.hblkhd),
-                  resident * sysconf(_SC_PAGESIZE)};
-  });
-}
-
-guint WindowCount() {
-  return Look([] {
-    GList* windows = gtk_window_list_toplevels();
-    const guint count = g_list_length(windows);
-    g_list_free(windows);
-    return count;
+    return Memory{static_cast<gint64>(info.uordblks + info.hblkhd), ResidentBytes()};
   });
 }
 
