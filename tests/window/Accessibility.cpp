@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "Constant.h"
 #include "window/Program.h"
 #include "window/Reader.h"
 #include "window/Widgets.h"
@@ -63,6 +64,13 @@ class Accessibility : public testing::Test {
     EXPECT_TRUE(WaitForTitle(below));
     return controls;
   }
+  // Opens the panel of a type by the menu's keys; the first three entries are not types.
+  static void OpenPanel(gint type) {
+    std::vector<std::string> keys = {"alt+e", "Down", "Down", "Down"};
+    keys.insert(keys.end(), static_cast<std::size_t>(type), "Down");
+    keys.emplace_back("Return");
+    PressKeys(keys);
+  }
   // Opens the first layout of the list by keyboard; the main window's title then.
   static std::string OpenFirstLayout() {
     PressKeys({"ctrl+o"});
@@ -102,7 +110,7 @@ TEST_F(Accessibility, OfALayoutsWindows) {
   const std::string title = OpenFirstLayout();
   EXPECT_THAT(NamesIn(ReadDialog("ctrl+shift+g", "方眼設定", title)),
               AllOf(Contains("横"), Contains("縱")));
-  PressKeys({"alt+e", "Down", "Down", "Down", "Return"});
+  OpenPanel(0);
   EXPECT_THAT(NamesIn(Read("矩形枠")),
               AllOf(Contains("始点"), Contains("終点"), Contains("画面名称 参照"),
                     Contains("識別番号"), Contains(" 再表示 ")));
@@ -114,4 +122,12 @@ TEST_F(Accessibility, OfALayoutsWindows) {
   EXPECT_TRUE(WaitFor([] {
     return testing::Value(NamesIn(ReadWindow(ProgramName, "矩形枠")), Contains("消去色 色番号 99"));
   }));
+}
+
+TEST_F(Accessibility, OfEachPanel) {
+  OpenFirstLayout();
+  for (gint type = 0; type < 15; type++) {
+    OpenPanel(type);
+    EXPECT_THAT(NamesIn(Read(PtrnTypeList[type])), Contains("消去色 色番号 10")) << type;
+  }
 }
