@@ -32,6 +32,14 @@ void Seat::SendKey(guint key, bool press) {
   XSync(display_, False);
 }
 
+bool Seat::PointerIsFree() {
+  const bool free = XGrabPointer(display_, DefaultRootWindow(display_), False, 0, GrabModeAsync,
+                                 GrabModeAsync, None, None, CurrentTime) == GrabSuccess;
+  if (free) XUngrabPointer(display_, CurrentTime);
+  XSync(display_, False);
+  return free;
+}
+
 bool Seat::NeedsShift(guint key) {
   int count = 0;
   KeySym* symbols = XGetKeyboardMapping(display_, XKeysymToKeycode(display_, key), 1, &count);

@@ -19,6 +19,8 @@ class Seat {
   void MovePointerBy(gint x, gint y);
   void SendButton(guint button, bool press);
   void SendKey(guint key, bool press);
+  // Whether no program holds the pointer for itself, as a window manager does during a drag.
+  bool PointerIsFree();
   // Whether the key's symbol stands on its second level.
   bool NeedsShift(guint key);
 
