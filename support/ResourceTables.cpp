@@ -57,5 +57,5 @@ void MarkDataSet(gint markno, MARKDATA* markdata, gint xno, gint yno, gint data)
   if (pixel < 0) return;
   guint8& byte = markdata->mark[pixel / 8];
   const guint8 mask = ByteMask[pixel % 8];
-  byte = static_cast<guint8>(data != 0 ? byte | mask : byte & ~mask);
+  byte = static_cast<guint8>(data == 1 ? byte | mask : byte & ~mask);
 }

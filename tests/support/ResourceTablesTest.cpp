@@ -60,6 +60,15 @@ TEST(MarkData, RowsFollowEachOtherLowestBitFirst) {
   EXPECT_EQ(0x80, mark.mark[63]);
 }
 
+TEST(MarkData, OnlyAOneSetsAPixel) {
+  for (const gint other : {0, 2, -1}) {
+    MARKDATA mark = {};
+    mark.mark[0] = 0xff;
+    MarkDataSet(0, &mark, 3, 0, other);
+    EXPECT_EQ(0xf7, mark.mark[0]) << other;
+  }
+}
+
 TEST(MarkData, RowLengthIsThatOfTheGroup) {
   const struct {
     gint markno;
