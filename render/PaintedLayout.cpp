@@ -33,12 +33,22 @@ bool Same(const PTRNDATA& a, const PTRNDATA& b) {
   return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-// What an item takes of a picture.
-DrawnBox BoxOfItem(PTRNDATA item, const Drawable& picture) {
+// What an item takes of a picture. Sets its extent, as painting does.
+DrawnBox BoxOfItem(PTRNDATA* item, const Drawable& picture) {
   DrawnBox box;
   Drawable probe(picture.Width(), picture.Height(), &box);
   DrawGc gc;
-  DrawPtrnItem(&probe, &gc, &item);
+  DrawPtrnItem(&probe, &gc, item);
+  return box;
+}
+
+// The same of a stored item. Its extent is needed to pick it, even where nothing of it shows and
+// nothing is painted.
+DrawnBox BoxOfStored(gint no, const Drawable& picture) {
+  PTRNDATA item;
+  GetPtrnData(no, &item);
+  const DrawnBox box = BoxOfItem(&item, picture);
+  SetPtrnData(no, &item);
   return box;
 }
 
@@ -77,10 +87,11 @@ std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
   }
   DrawnBox oldBox, newBox;
   for (std::size_t no = before; no < oldCount - behind; ++no) {
-    oldBox.Add(BoxOfItem(items_[no], picture));
+    PTRNDATA item = items_[no];
+    oldBox.Add(BoxOfItem(&item, picture));
   }
   for (std::size_t no = before; no < newCount - behind; ++no) {
-    newBox.Add(BoxOfItem(stored(no), picture));
+    newBox.Add(BoxOfStored(static_cast<gint>(no), picture));
   }
   if (oldBox.Meets(newBox)) {
     oldBox.Add(newBox);

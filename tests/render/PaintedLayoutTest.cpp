@@ -136,6 +136,20 @@ TEST_F(PaintedLayouts, PaintTheOldAndTheNewBoxAlone) {
             (std::vector{200, 100, 231, 151}));
 }
 
+// A text of blanks shows nothing, yet it has an extent by which it is picked.
+TEST_F(PaintedLayouts, MeasureAnItemThatShowsNothing) {
+  IntPtrnData();
+  PTRNDATA item = FrameItem(10, 20, 50, 40, 2);
+  AddPtrnData(&item);
+  painted_.Paint(picture_);
+  item = TextItem(TypeFixedString, 100, 100, Font16, {}, "    ");
+  AddPtrnData(&item);
+  painted_.Paint(picture_);
+  GetPtrnData(1, &item);
+  EXPECT_EQ(+item.Size.cx, 32);
+  EXPECT_GT(+item.Size.cy, 0);
+}
+
 TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
   EXPECT_TRUE(PaintsTheWhole());
 }
