@@ -1,5 +1,4 @@
 // Colour and mark swatches: their pictures, and the choice of another number with a click.
-#include <algorithm>
 #include <string>
 
 #include "dialogs/Cells.h"
@@ -23,11 +22,10 @@ constexpr SIZE NumberArea = {24, 20};
 void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
   gchar text[16];
   g_snprintf(text, sizeof text, "%2d", number);
-  const SIZE size = GetTextSize(SmallFont, text);
   Drawable picture(NumberArea.cx, NumberArea.cy);
   FillPixels(&picture, 0, 0, NumberArea.cx, NumberArea.cy, 0xffffff);
   DrawGc gc;
-  DrawText(&picture, &gc, 0, std::max(Baseline - size.cy, 0), SmallFont, ColourBlack, -1, text);
+  DrawTextOnBaseline(&picture, &gc, 0, Baseline, SmallFont, ColourBlack, text);
   const GdkRGBA colour = Ink(box);
   gdk_cairo_set_source_rgba(cairo, &colour);
   for (gint y = 0; y < NumberArea.cy; ++y)

@@ -24,6 +24,16 @@ void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg
   }
 }
 
+void DrawTextOnBaseline(Drawable* drawable, DrawGc* gc, gint x, gint baseline, gint font, gint fg,
+                        const gchar* text) {
+  FontSet* fonts = DrawFontOf(font);
+  if (fonts == nullptr || text == nullptr || !ColourExists(fg)) {
+    return;
+  }
+  gc->Foreground = DrawColr[fg].pixel;
+  fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
+}
+
 SIZE GetTextSize(gint font, const gchar* text) {
   FontSet* fonts = DrawFontOf(font);
   if (fonts == nullptr || text == nullptr || text[0] == '\0') {

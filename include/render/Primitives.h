@@ -36,6 +36,9 @@ void MarkDataInit();
 // One line of text with its top-left corner at (x, y); background -1 = none.
 void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg, gint bg,
               const gchar* text);
+// The same without a background, standing on the row above `baseline`.
+void DrawTextOnBaseline(Drawable* drawable, DrawGc* gc, gint x, gint baseline, gint font, gint fg,
+                        const gchar* text);
 // Ink extent: left + right bearing, ascent + descent. (0, 0) for an empty text or no font.
 SIZE GetTextSize(gint font, const gchar* text);
 // Style 0 solid, 1 dashed, else dotted; position of the width: 0 centred, 1 top/left, else the

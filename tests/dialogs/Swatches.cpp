@@ -7,6 +7,7 @@
 #include "dialogs/Controls.h"
 #include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
+#include "render/Primitives.h"
 #include "render/Surface.h"
 #include "support/Resource.h"
 
@@ -28,6 +29,20 @@ guint32 PixelOf(GtkWidget* area, gint x, gint y) {
   const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(area), x, y, 1, 1));
   const guint8* pixel = gdk_pixbuf_read_pixels(shot.get());
   return static_cast<guint32>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
+}
+
+// The last row of black in the columns left of `width`, -1 for none.
+gint LowestInk(GtkWidget* area, gint width) {
+  FinishFrame(area);
+  const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(area), 0, 0, width, 20));
+  const guint8* pixels = gdk_pixbuf_read_pixels(shot.get());
+  for (gint y = 19; y >= 0; y--)
+    for (gint x = 0; x < width; x++) {
+      const guint8* pixel = pixels + y * gdk_pixbuf_get_rowstride(shot.get()) +
+                            x * gdk_pixbuf_get_n_channels(shot.get());
+      if (pixel[0] == 0 && pixel[1] == 0 && pixel[2] == 0) return y;
+    }
+  return -1;
 }
 
 }  // namespace
@@ -91,6 +106,13 @@ TEST_F(Swatches, ShowTheirColourInABlackFrame) {
   EXPECT_EQ(PixelOf(swatch, 21, 3), 0x2060A0U);
   EXPECT_EQ(PixelOf(swatch, 20, 2), 0U);
   EXPECT_EQ(PixelOf(swatch, 60, 18), 0U);
+}
+
+// Digits have no descenders, so they end on row 14, the one above their baseline.
+TEST_F(Swatches, ShowTheirNumberOnItsBaseline) {
+  InitDrawData();
+  EXPECT_EQ(LowestInk(NewColour(), 18), 14);
+  EXPECT_EQ(LowestInk(NewMark(), 18), 14);
 }
 
 TEST_F(Swatches, ShowTheirMarkInABlackFrame) {
