@@ -6,7 +6,6 @@
 #include <string>
 
 #include "dialogs/Accessible.h"
-#include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
 
@@ -51,7 +50,7 @@ void PaintCursor(cairo_t* cairo, const MarkEdit* edit) {
   cairo_stroke(cairo);
 }
 
-gboolean MakeMarkData_Expose2(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
+gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdit* edit) {
   const gint width = edit->Size.cx;
   const gint height = edit->Size.cy;
   cairo_set_antialias(cairo, CAIRO_ANTIALIAS_NONE);
@@ -59,8 +58,7 @@ gboolean MakeMarkData_Expose2(GtkWidget* view, cairo_t* cairo, const MarkEdit* e
   cairo_set_source_rgb(cairo, 0.9, 0.9, 0.9);
   cairo_paint(cairo);
   cairo_set_line_width(cairo, 1);
-  const GdkRGBA ink = Ink(view);
-  gdk_cairo_set_source_rgba(cairo, &ink);
+  cairo_set_source_rgb(cairo, 0, 0, 0);
   for (gint i = 0; i <= width; ++i) PaintGridLine(cairo, i, i * Cell, 0, i * Cell, height * Cell);
   for (gint j = 0; j <= height; ++j) PaintGridLine(cairo, j, 0, j * Cell, width * Cell, j * Cell);
   for (gint y = 0; y < height; ++y)

@@ -13,6 +13,7 @@
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "layout/Screen.h"
+#include "render/Surface.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -169,6 +170,22 @@ TEST_F(Marks, TheLeftButtonSetsAndTheRightClears) {
                    Press(view, 2, 40, 40);
                  }),
             "0,0 15,31");
+}
+
+// Its ground is light in every theme.
+TEST_F(Marks, TheEnlargedViewHasBlackLinesInADarkTheme) {
+  GtkCssProvider* dark = gtk_css_provider_new();
+  gtk_css_provider_load_from_data(dark, "* { color: #eeeeee; background: #303030; }", -1, nullptr);
+  gtk_style_context_add_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(dark),
+                                            GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  Edit(7, [](GtkWidget* view) {
+    FinishFrame(view);
+    const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(view), 64, 3, 1, 1));
+    const guint8* pixel = gdk_pixbuf_read_pixels(shot.get());
+    EXPECT_EQ(pixel[0] << 16 | pixel[1] << 8 | pixel[2], 0);
+  });
+  gtk_style_context_remove_provider_for_screen(gdk_screen_get_default(), GTK_STYLE_PROVIDER(dark));
+  g_object_unref(dark);
 }
 
 TEST_F(Marks, APressOnTheBorderAddressesNoPixel) {
