@@ -80,3 +80,5 @@ void InitProjIni(const gchar* path, const gchar* name);
 // Dialogs over the working copies (see PtrnDialog.h for the kit).
 gint EditProjData(GtkWidget* parent, const gchar* title);
 gint ProjFileOpen(GtkWidget* parent);
+// Checks the working copies and tells the first thing that is wrong; 1 when all is well.
+gint CheckProjData();

@@ -34,11 +34,10 @@ void LoadSmallFont() {
   DrawFont[SmallFont] = std::move(font);
 }
 
-void SetDrawFont() {
-  for (std::size_t i = 0; i < FontCount; ++i) {
-    DrawFont[i].reset();
-    if (FontName[i][0] != '\0') {
-      DrawFont[i] = std::make_unique<FontSet>(FontName[i]);
-    }
+void LoadDrawFont(gint font, const gchar* descriptor) {
+  auto& loaded = DrawFont[static_cast<std::size_t>(font)];
+  loaded.reset();
+  if (*descriptor != '\0') {
+    loaded = std::make_unique<FontSet>(descriptor);
   }
 }

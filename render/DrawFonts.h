@@ -7,5 +7,7 @@
 FontSet* DrawFontOf(gint font);
 // Line height used with it.
 gint LineHeightOf(gint font);
+// Loads font 0..19; an empty descriptor leaves the number without one.
+void LoadDrawFont(gint font, const gchar* descriptor);
 // Loads the font of small labels.
 void LoadSmallFont();

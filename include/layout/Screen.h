@@ -5,6 +5,10 @@
 
 extern GtkWidget* PtrnWnd;
 extern GtkWidget* ToolBox;
+// The settings dialogs of a layout and of the project while they are open, null else: parents of
+// the messages about what was entered. Written by the dialogs.
+extern GtkWidget* EditLayoutWindow;
+extern GtkWidget* EditProj;
 // The program's main loop while it runs, else null. Written by main.
 extern GMainLoop* MainLoop;
 

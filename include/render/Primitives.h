@@ -23,6 +23,7 @@ enum { SmallFont = 20 };
 enum { MarkRadioOff = 350, MarkRadioOn = 351, MarkCheckOff = 352, MarkCheckOn = 353 };
 
 // One mark as picture text: a header, two colour lines, the pixel rows.
+constexpr gint MarkHeaderLines = 3;
 struct MARK_XPM {
   const gchar* mark[67];
   gchar data[67][66];

@@ -11,6 +11,3 @@ struct LayoutPage {
 
 // Page of a layout kind (0 parent, 1 child, else other) with as many titles as languages are shown.
 LayoutPage PageOfKind(gint kind);
-
-// The dialog that is open, null else: parent of its messages.
-extern GtkWidget* EditLayoutWindow;

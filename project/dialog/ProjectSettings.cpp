@@ -16,7 +16,6 @@ namespace {
 
 enum Result { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
 
-GtkWidget* EditProj = nullptr;
 gint EditResult = Cancelled;
 // Folder that a logo was chosen from, "" while none was.
 std::string EditLogoPath;
@@ -28,29 +27,6 @@ enum EditRow { NameRow, FolderRow, ProgramRow };
 void Finish(gint result) {
   EditResult = result;
   gtk_widget_destroy(EditProj);
-}
-
-gint CheckProjData() {
-  const struct {
-    bool Broken;
-    const gchar* Message;
-  } rules[] = {
-      {EditName[0] == '\0', "プロジェクト名が設定されていません。"},
-      {EditPath[0] == '\0', "プロジェクトデータを格納するフォルダーが設定されていません。"},
-      {EditData.ProgPath[0] == '\0', "ロジックデータを格納するフォルダーが設定されていません。"},
-      {EditData.Parm2[5] != 0 && EditData.LogoName[0] == '\0',
-       "ロゴマーク名称が設定されていません。"},
-      {EditData.Parm2[0] < 0 || EditData.Parm2[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm2[12] < 0 || EditData.Parm2[12] > 99, "ボタン領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[0] < 0 || EditData.Parm3[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[6] < 0 || EditData.Parm3[6] > 99, "外形枠幅 (設定範囲 0 〜 99)"},
-  };
-  for (const auto& rule : rules)
-    if (rule.Broken) {
-      Dlg_MessageBox(EditProj, "入力エラー", rule.Message, "", 1);
-      return 0;
-    }
-  return 1;
 }
 
 // A logo goes into the bitmap folder of the folder that the project will have.

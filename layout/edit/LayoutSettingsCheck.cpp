@@ -3,7 +3,6 @@
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
-#include "layout/dialog/LayoutSettingsPages.h"
 
 GtkWidget* EditLayoutWindow = nullptr;
 

@@ -1,0 +1,8 @@
+#include "DrawFonts.h"
+#include "support/Resource.h"
+
+void SetDrawFont() {
+  for (gint font = 0; font < FontCount; ++font) {
+    LoadDrawFont(font, FontName[font]);
+  }
+}
