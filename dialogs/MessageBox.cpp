@@ -32,6 +32,7 @@ void AddButtons(GtkWidget* box, gint set) {
     gtk_box_pack_start(GTK_BOX(buttons), button, FALSE, FALSE, 0);
     if (no == 1) gtk_widget_grab_focus(button);
   }
+  gtk_widget_show_all(buttons);
 }
 
 }  // namespace
@@ -42,12 +43,12 @@ gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, c
   const DialogWindow dialog = NewDialogWindow(title);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER_ON_PARENT);
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
   gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
-  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 20);
+  LeaveOutActions(dialog);
   AddMessage(dialog.Content, mesg1);
   AddMessage(dialog.Content, mesg2);
-  AddButtons(dialog.Actions, butn >= 1 && butn <= 3 ? butn : 0);
-  gtk_widget_show_all(dialog.Actions);
+  AddButtons(dialog.Content, butn >= 1 && butn <= 3 ? butn : 0);
   RunModal(dialog.Window, parent);
   return MessageButnNo;
 }

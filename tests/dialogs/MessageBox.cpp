@@ -52,6 +52,21 @@ TEST(MessageBox, HasNoButtonsForAnUnknownSet) {
   EXPECT_THAT(ButtonsOf(-1), IsEmpty());
 }
 
+// Ten dots around the window, between its lines and between its buttons.
+TEST(MessageBox, HasEvenGaps) {
+  Ask(2, [](GtkWidget* box) {
+    EXPECT_EQ(gtk_container_get_border_width(GTK_CONTAINER(box)), 10u);
+    const auto gaps = [](GtkWidget* inside) {
+      return gtk_box_get_spacing(GTK_BOX(gtk_widget_get_parent(inside)));
+    };
+    EXPECT_EQ(gaps(FindLabel(box, "一行目")), 10);
+    EXPECT_EQ(gtk_widget_get_parent(FindLabel(box, "一行目")),
+              gtk_widget_get_parent(gtk_widget_get_parent(FindLabel(box, " はい "))));
+    EXPECT_EQ(gaps(FindLabel(box, " はい ")), 10);
+    CloseByManager(box);
+  });
+}
+
 TEST(MessageBox, AnswersWithTheNumberOfTheButton) {
   EXPECT_EQ(Ask(1, PressButton(" 確認 ")), 1);
   EXPECT_EQ(Ask(2, PressButton(" はい ")), 1);
