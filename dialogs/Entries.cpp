@@ -31,17 +31,25 @@ void SetHint(GtkWidget* entry, const DLG_EDITBOX& row) {
   ShowHint(entry);
 }
 
-// Says at the entry why the text was refused; the next accepted change takes it away.
-void ShowRefusal(GtkWidget* entry, const gchar* reason) {
+void MarkRefused(GtkWidget* entry, const gchar* reason) {
   gtk_style_context_add_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
   gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, WarningIcon);
   gtk_entry_set_icon_tooltip_text(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, reason);
   gtk_widget_set_tooltip_text(entry, reason);
+}
+
+// Says at the entry why the text was refused; the next accepted change takes it away.
+void ShowRefusal(GtkWidget* entry, const gchar* reason) {
+  MarkRefused(entry, reason);
   gtk_widget_error_bell(entry);
 }
 
+bool IsRefused(GtkWidget* entry) {
+  return gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) != nullptr;
+}
+
 void ClearRefusal(GtkWidget* entry) {
-  if (gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) == nullptr) return;
+  if (!IsRefused(entry)) return;
   gtk_style_context_remove_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
   gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, nullptr);
   ShowHint(entry);
@@ -74,9 +82,24 @@ void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, cons
   }
 }
 
+// Shows again what the record holds, under the mark of the refusal.
+void PutBack(GtkWidget* entry, const DLG_EDITBOX* row) {
+  gchar* reason = gtk_entry_get_icon_tooltip_text(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY);
+  const std::string text(FieldText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1));
+  ShowRecordText(entry, text.c_str());
+  gtk_editable_set_position(GTK_EDITABLE(entry), -1);
+  MarkRefused(entry, reason);
+  g_free(reason);
+}
+
 // Stored bytes that are no text show escaped and may then be longer than the field; until they are
 // shortened to what fits, the record keeps what it holds.
 void Dlg_EditBox_Entry(GtkEditable* entry, const DLG_EDITBOX* row) {
+  // A refused text changes nothing by itself: it was to replace another one, which is gone already.
+  if (IsRefused(GTK_WIDGET(entry))) {
+    PutBack(GTK_WIDGET(entry), row);
+    return;
+  }
   const gchar* text = gtk_entry_get_text(GTK_ENTRY(entry));
   if (const gchar* reason = ReasonToRefuse(text, row->size)) {
     ShowRefusal(GTK_WIDGET(entry), reason);

@@ -146,7 +146,21 @@ TEST_F(Entries, ARefusedPasteOverASelectionSaysSo) {
   gtk_editable_select_region(GTK_EDITABLE(entry), 0, 1);
   gtk_editable_paste_clipboard(GTK_EDITABLE(entry));
   EXPECT_TRUE(WaitFor([entry] { return IsRefused(entry); }));
-  EXPECT_EQ(EntryText(entry), Field);
+  EXPECT_EQ(EntryText(entry), "abc");
+  EXPECT_STREQ(Field, "abc");
+}
+
+TEST_F(Entries, ARefusedTextLeavesTheOneItWasToReplace) {
+  GtkWidget* entry = NewEntry(Nihon);
+  gtk_entry_set_text(GTK_ENTRY(entry), "\U0001F600");
+  EXPECT_EQ(EntryText(entry), "日本");
+  EXPECT_STREQ(Field, Nihon);
+  EXPECT_TRUE(IsRefused(entry));
+  gtk_entry_set_text(GTK_ENTRY(entry), "今日");
+  EXPECT_STREQ(Field, "\xBA\xA3\xC6\xFC");
+  EXPECT_FALSE(IsRefused(entry));
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 0, -1);
+  EXPECT_STREQ(Field, "");
 }
 
 TEST_F(Entries, APasteEndsAtTheLine) {
