@@ -1,5 +1,6 @@
 #include "dialogs/DialogWindow.h"
 
+#include "dialogs/LatePress.h"
 #include "dialogs/ScreenRoom.h"
 
 #include "layout/Screen.h"
@@ -50,7 +51,7 @@ DialogWindow NewDialogWindow(const gchar* title) {
 
 GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCallback clicked,
                            gpointer data) {
-  GtkWidget* button = gtk_button_new_with_label(label);
+  GtkWidget* button = NewButton(label);
   g_signal_connect(button, "clicked", clicked, data);
   gtk_box_pack_start(GTK_BOX(dialog.Actions), button, FALSE, FALSE, 0);
   gtk_widget_show(button);

@@ -1,5 +1,6 @@
 #include "dialogs/Cells.h"
 #include "dialogs/DialogWindow.h"
+#include "dialogs/LatePress.h"
 #include "layout/Screen.h"
 
 // The answer of the message box; 0 until a button is pressed.
@@ -27,7 +28,7 @@ void AddButtons(GtkWidget* box, gint set) {
   for (gint no = 1; no <= 3; ++no) {
     const gchar* label = ButtonLabels[set][no - 1];
     if (label == nullptr) break;
-    GtkWidget* button = gtk_button_new_with_label(label);
+    GtkWidget* button = NewButton(label);
     g_signal_connect(button, "clicked", G_CALLBACK(Message_Button), GINT_TO_POINTER(no));
     gtk_box_pack_start(GTK_BOX(buttons), button, FALSE, FALSE, 0);
     if (no == 1) gtk_widget_grab_focus(button);

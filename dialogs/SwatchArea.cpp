@@ -3,6 +3,8 @@
 #include <gdk/gdkkeysyms.h>
 #include <gtk/gtk-a11y.h>
 
+#include "dialogs/LatePress.h"
+
 namespace {
 
 // The toolkit makes and clears instances itself, so they hold what needs no construction.
@@ -152,23 +154,10 @@ const gchar* ActionName(AtkAction* /*accessible*/, gint action) {
   return action == 0 ? "press" : nullptr;
 }
 
-gboolean ActivateWhenIdle(gpointer area) {
-  if (gtk_widget_is_sensitive(GTK_WIDGET(area))) gtk_widget_activate(GTK_WIDGET(area));
-  return G_SOURCE_REMOVE;
-}
-
-// Later, as the press may open a dialog and would keep the asker waiting for its end.
-gboolean DoAction(AtkAction* accessible, gint action) {
-  GtkWidget* area = gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible));
-  if (action != 0 || area == nullptr) return FALSE;
-  g_idle_add_full(G_PRIORITY_DEFAULT, ActivateWhenIdle, g_object_ref(area), g_object_unref);
-  return TRUE;
-}
-
 void BeginActions(AtkActionIface* actions) {
   actions->get_n_actions = CountActions;
   actions->get_name = ActionName;
-  actions->do_action = DoAction;
+  PressLater(actions);
 }
 
 }  // namespace

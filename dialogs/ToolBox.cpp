@@ -1,5 +1,6 @@
 // The tool box window: opening, closing, its buttons and the place it remembers.
 #include "dialogs/ToolBox.h"
+#include "dialogs/LatePress.h"
 
 #include <optional>
 
@@ -84,7 +85,7 @@ void ShareKeyboard(GtkWindow* panel, GtkWidget* parent) {
 }  // namespace
 
 GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint start) {
-  GtkWidget* button = gtk_button_new_with_label(label);
+  GtkWidget* button = NewButton(label);
   g_signal_connect(button, "clicked", G_CALLBACK(ToolBoxButn), GINT_TO_POINTER(no));
   if (start != 0)
     gtk_box_pack_start(GTK_BOX(box), button, FALSE, FALSE, 0);

@@ -1,5 +1,6 @@
 // Building a page of the tool box from its tables.
 #include "dialogs/ToolBoxPage.h"
+#include "dialogs/LatePress.h"
 
 #include "ProjData.h"
 #include "dialogs/Accessible.h"
@@ -56,7 +57,7 @@ GtkWidget* ToolBox_Title(GtkWidget* window, const gchar* title, gint /*line*/, g
 }
 
 void AddBrowseButton(GtkWidget* table, const BrowseButton& browse) {
-  GtkWidget* button = gtk_button_new_with_label("参照");
+  GtkWidget* button = NewButton("参照");
   gtk_widget_set_halign(button, GTK_ALIGN_FILL);
   gtk_widget_set_valign(button, GTK_ALIGN_FILL);
   g_signal_connect(button, "clicked", G_CALLBACK(browse.Open), browse.Edit);

@@ -1,4 +1,5 @@
 #include "app/Menus.h"
+#include "dialogs/LatePress.h"
 
 namespace {
 GtkWidget* Append(GtkWidget* shell, GtkWidget* entry) {
@@ -24,7 +25,7 @@ GtkWidget* CreateSubMenu(GtkWidget* menu, const gchar* label) {
 }
 
 GtkWidget* CreateMenuItem(GtkWidget* menu, const gchar* label, MenuCallback callback, gint data) {
-  GtkWidget* entry = Append(menu, gtk_menu_item_new_with_label(label));
+  GtkWidget* entry = Append(menu, NewMenuEntry(label));
   g_signal_connect(entry, "activate", G_CALLBACK(callback), GINT_TO_POINTER(data));
   return entry;
 }

@@ -5,6 +5,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/DialogWindow.h"
+#include "dialogs/LatePress.h"
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
@@ -32,7 +33,7 @@ void EditPtrnData_Bmap(GtkWidget* button, DLG_EDITBOX* edit) {
 }
 
 void AddBrowseButton(GtkWidget* table, DLG_EDITBOX* edit) {
-  GtkWidget* button = gtk_button_new_with_label("参照");
+  GtkWidget* button = NewButton("参照");
   g_signal_connect(button, "clicked", G_CALLBACK(EditPtrnData_Bmap), edit);
   gtk_grid_attach(GTK_GRID(table), button, 4, edit->line, 1, 1);
   gtk_widget_show(button);

@@ -8,6 +8,7 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
+#include "dialogs/LatePress.h"
 #include "layout/Screen.h"
 #include "project/dialog/ProjectSettingsPages.h"
 #include "support/FileTools.h"
@@ -80,7 +81,7 @@ void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
 }
 
 void AddButton(GtkWidget* table, const gchar* label, gint line, gint culm, GCallback clicked) {
-  GtkWidget* button = gtk_button_new_with_label(label);
+  GtkWidget* button = NewButton(label);
   gtk_widget_set_halign(button, GTK_ALIGN_START);
   g_signal_connect(button, "clicked", clicked, nullptr);
   gtk_grid_attach(GTK_GRID(table), button, culm, line, 1, 1);
