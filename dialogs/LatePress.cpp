@@ -57,22 +57,25 @@ bool CanBePressed(GtkWidget* widget) {
          (!GTK_IS_WINDOW(modal) || gtk_widget_get_toplevel(widget) == modal);
 }
 
-gboolean Press(gpointer accessible) {
-  GtkWidget* widget = gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible));
-  if (!CanBePressed(widget)) return G_SOURCE_REMOVE;
-  const auto* inherited = static_cast<const AtkActionIface*>(
-      g_type_interface_peek_parent(ATK_ACTION_GET_IFACE(accessible)));
-  if (inherited != nullptr)
-    inherited->do_action(ATK_ACTION(accessible), 0);
+void Press(GtkWidget* widget) {
+  if (GTK_IS_BUTTON(widget))
+    gtk_button_clicked(GTK_BUTTON(widget));
+  else if (GTK_IS_MENU_ITEM(widget) && gtk_widget_get_mapped(widget))
+    gtk_menu_shell_activate_item(GTK_MENU_SHELL(gtk_widget_get_parent(widget)), widget, TRUE);
   else
     gtk_widget_activate(widget);
+}
+
+gboolean PressWhenIdle(gpointer accessible) {
+  GtkWidget* widget = gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible));
+  if (CanBePressed(widget)) Press(widget);
   return G_SOURCE_REMOVE;
 }
 
 gboolean DoAction(AtkAction* accessible, gint action) {
   if (action != 0 || !CanBePressed(gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible))))
     return FALSE;
-  g_idle_add_full(G_PRIORITY_DEFAULT, Press, g_object_ref(accessible), g_object_unref);
+  g_idle_add_full(G_PRIORITY_DEFAULT, PressWhenIdle, g_object_ref(accessible), g_object_unref);
   return TRUE;
 }
 

@@ -10,6 +10,5 @@
 GtkWidget* NewButton(const gchar* label);
 GtkWidget* NewMenuEntry(const gchar* label);
 
-// Begins the actions of an accessible's type whose first action is the press: as the type that it
-// is derived from does it, else by activating the widget.
+// Begins the actions of an accessible's type whose first action is to press the widget.
 void PressLater(AtkActionIface* actions);

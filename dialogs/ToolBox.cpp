@@ -72,10 +72,27 @@ void PlaceToolBox(GtkWidget* window, const POINT& remembered) {
   gtk_window_move(GTK_WINDOW(window), place.x, place.y);
 }
 
+bool IsUndo(const GdkEventKey* event) {
+  return gdk_keyval_to_lower(event->keyval) == GDK_KEY_z &&
+         (event->state & gtk_accelerator_get_default_mod_mask()) == GDK_CONTROL_MASK;
+}
+
+// What is typed into an entry is for its text and its input method, and only what they leave is for
+// the menu. Undo they leave, too, but whoever types it there does not mean the layout.
+gboolean ToolBox_Key(GtkWidget* panel, GdkEventKey* event, gpointer /*data*/) {
+  GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(panel));
+  if (!GTK_IS_EDITABLE(focus)) return FALSE;
+  if (gtk_window_propagate_key_event(GTK_WINDOW(panel), event)) return TRUE;
+  if (!IsUndo(event)) return FALSE;
+  gtk_widget_error_bell(focus);
+  return TRUE;
+}
+
 // The menu's keys work in the panel as in the window that it belongs to. Opening leaves the
 // keyboard with the canvas, where Delete and Escape act on the item just picked.
 void ShareKeyboard(GtkWindow* panel, GtkWidget* parent) {
   gtk_window_set_focus_on_map(panel, FALSE);
+  g_signal_connect(panel, "key-press-event", G_CALLBACK(ToolBox_Key), nullptr);
   if (parent == nullptr) return;
   for (GSList* keys = gtk_accel_groups_from_object(G_OBJECT(parent)); keys != nullptr;
        keys = keys->next)

@@ -123,6 +123,53 @@ TEST_F(ToolBoxPanel, ArrowKeysMoveTheItemInHand) {
   });
 }
 
+TEST_F(ToolBoxPanel, KeysTypedIntoAnEntryLeaveTheLayoutAlone) {
+  Play([this] {
+    NewLayout(640, 480);
+    Open("矩形");
+    DragOnCanvas(40, 40, 120, 80);
+    Panel("矩形").Press(" 登録 ");
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    ClickCanvas(60, 40);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    const Panel panel("矩形");
+    const auto holds = [](GtkWidget* entry, const std::string& text) {
+      return See([&] { return text == gtk_entry_get_text(GTK_ENTRY(entry)); });
+    };
+    GtkWidget* code = panel.Control({"識別コード"}, GTK_TYPE_ENTRY);
+    Click(code);
+    TypeText("abc");
+    EXPECT_TRUE(holds(code, "abc"));
+    PressKey(GDK_KEY_Left);
+    PressKey(GDK_KEY_Delete);
+    EXPECT_TRUE(holds(code, "ab"));
+    PressKey(GDK_KEY_a, {GDK_KEY_Control_L});
+    PressKey(GDK_KEY_x, {GDK_KEY_Control_L});
+    EXPECT_TRUE(holds(code, ""));
+    PressKey(GDK_KEY_v, {GDK_KEY_Control_L});
+    PressKey(GDK_KEY_v, {GDK_KEY_Control_L});
+    EXPECT_TRUE(holds(code, "abab"));
+    PressKey(GDK_KEY_z, {GDK_KEY_Control_L});
+    GtkWidget* width = panel.Control({"線幅"}, GTK_TYPE_ENTRY);
+    Click(width);
+    PressKey(GDK_KEY_a, {GDK_KEY_Control_L});
+    TypeText("3");
+    PressKey(GDK_KEY_Up);
+    EXPECT_TRUE(holds(width, "4"));
+    PressKey(GDK_KEY_z, {GDK_KEY_Control_L});
+    Settle();
+    EXPECT_EQ(Look(GetPtrnCount), 1);
+    EXPECT_EQ(Look([] { return PtrnMode; }), ModeSelected);
+    EXPECT_TRUE(holds(code, "abab"));
+    EXPECT_TRUE(Shows(&ToolBox_Label1, "   40 /    40"));
+    // Elsewhere in the panel the menu's keys are the menu's.
+    panel.Press(" 取消 ");
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    PressKey(GDK_KEY_z, {GDK_KEY_Control_L});
+    EXPECT_TRUE(See([] { return GetPtrnCount() == 0; }));
+  });
+}
+
 TEST_F(ToolBoxPanel, ButtonsFollowTheState) {
   Play([this] {
     NewLayout(640, 480);

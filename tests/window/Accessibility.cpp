@@ -2,16 +2,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "Constant.h"
+#include "PtrnData.h"
+#include "window/PopUps.h"
 #include "window/Program.h"
 #include "window/Reader.h"
 #include "window/Widgets.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using testing::AllOf;
 using testing::Contains;
 using testing::IsEmpty;
@@ -84,6 +88,41 @@ class Accessibility : public testing::Test {
     }));
     return title;
   }
+  // Presses a control over the bus and reads the dialog that it opens.
+  static void Open(const std::string& title, const std::string& control,
+                   const std::string& opened) {
+    ASSERT_TRUE(WaitFor([&] { return ActOn(ProgramName, title, control); })) << control;
+    ASSERT_TRUE(WaitForTitle(opened)) << control;
+    Read(opened);
+  }
+  static void Leave(const std::string& title, const std::string& below) {
+    PressKeys({"Escape"});
+    ASSERT_TRUE(WaitForTitle(below)) << title;
+  }
+  static void OpenAndLeave(const std::string& title, const std::string& control,
+                           const std::string& opened) {
+    Open(title, control, opened);
+    Leave(opened, title);
+  }
+  // Leaves one layout in the project, an empty parent window.
+  void KeepEmptyLayout() const {
+    const std::string project = Folder.Path() + "/Sample";
+    for (const fs::directory_entry& entry : fs::directory_iterator(project))
+      if (entry.path().extension() == ".ptn") fs::remove(entry.path());
+    IntPtrnData();
+    PtrnHedr = {};
+    PtrnHedr.Parm1[HedrSlot::Width] = 640;
+    PtrnHedr.Parm1[HedrSlot::Height] = 480;
+    PtrnHedr.Parm2[ViewSlot::Zoom] = 2;
+    PtrnFileWrite(project.c_str(), "empty");
+  }
+  // Drags on the canvas of the window that has the keyboard, near the layout's corner and beside
+  // all panels.
+  static void DragAt(const std::string& x, const std::string& y) {
+    XDoTool({"mousemove", "--window", XDoTool({"getactivewindow"}), x, y});
+    XDoTool({"mousedown", "1", "mousemove_relative", "--sync", "40", "30", "mousemove_relative",
+             "--sync", "40", "30", "mouseup", "1"});
+  }
   void EndsWell() {
     PressKeys({"ctrl+q"});
     EXPECT_EQ(Program->Wait(), 0);
@@ -130,4 +169,95 @@ TEST_F(Accessibility, OfEachPanel) {
     OpenPanel(type);
     EXPECT_THAT(NamesIn(Read(PtrnTypeList[type])), Contains("消去色 色番号 10")) << type;
   }
+}
+
+// Presses that open a dialog do not keep the reader waiting for the dialog's end: menu entries,
+// buttons and swatches.
+TEST_F(Accessibility, OfTheProjectsSettings) {
+  const std::string settings = "プロジェクトの新規作成";
+  Open(ProjectTitle, "プロジェクトの修正", settings);
+  const std::string folder = "プロジェクト領域へのパス";
+  Open(settings, "プロジェクト情報格納先フォルダー 参照", folder);
+  PressKeys({"ctrl+a", "x"});
+  OpenAndLeave(folder, " 選択 ", "フォルダー選択");
+  Leave(folder, settings);
+  OpenAndLeave(settings, "ロジック情報格納先フォルダー 参照", "プログラム領域へのパス");
+  OpenAndLeave(settings, "タイトル領域 ロゴマーク 参照", "ロゴマーク選択");
+  OpenAndLeave(settings, " 表示色設定 ", "表示色設定");
+  Leave(settings, ProjectTitle);
+  EndsWell();
+}
+
+TEST_F(Accessibility, OfTheFileChooser) {
+  const std::string opening = "プロジェクトを開く";
+  Open(ProjectTitle, opening, opening);
+  // The chooser bears the title of the dialog below it.
+  ASSERT_TRUE(ActOn(ProgramName, opening, " フォルダーより探す "));
+  ASSERT_TRUE(WaitFor([&] {
+    return testing::Value(NamesIn(ReadWindow(ProgramName, opening)), Contains("ファイル"));
+  }));
+  Read(opening);
+  PressKeys({"Escape", "Escape"});
+  ASSERT_TRUE(WaitForTitle(ProjectTitle));
+  EndsWell();
+}
+
+TEST_F(Accessibility, OfPaletteAndMarks) {
+  Open(ProjectTitle, "表示色設定", "表示色設定");
+  OpenAndLeave("表示色設定", "色番号 12", "表示色作成");
+  Leave("表示色設定", ProjectTitle);
+  // Out of a menu that is open, too.
+  const int before = ShownPopUps();
+  PressKeys({"alt+e"});
+  ASSERT_TRUE(WaitFor([&] { return ShownPopUps() > before; }));
+  Open(ProjectTitle, "マーク設定", "マーク設定");
+  EXPECT_EQ(ShownPopUps(), before);
+  Open("マーク設定", "マーク 100", "マーク作成");
+  OpenAndLeave("マーク作成", "参照", "マーク選択");
+  Leave("マーク作成", "マーク設定");
+  Leave("マーク設定", ProjectTitle);
+  EndsWell();
+}
+
+TEST_F(Accessibility, OfThePickers) {
+  OpenFirstLayout();
+  OpenPanel(5);
+  const std::string texts = "固定文字列";
+  OpenAndLeave(texts, "文字列 参照", "固定文字列 (言語１) 選択");
+  OpenAndLeave(texts, "画面名称 参照", "画面名称選択");
+  OpenAndLeave(texts, "識別コード 参照", "識別コード選択");
+  OpenAndLeave(texts, "前景色 1", "表示色選択");
+  OpenPanel(11);
+  OpenAndLeave("ビットマップ", "ビットマップ名 参照", "画像ファイル選択");
+  OpenPanel(12);
+  OpenAndLeave("マーク", "マーク", "マーク選択");
+}
+
+TEST_F(Accessibility, OfTheLayoutsDialogs) {
+  KeepEmptyLayout();
+  const std::string title = OpenFirstLayout();
+  OpenAndLeave(title, "レイアウト情報設定", "レイアウト情報の設定［親ウィンドウ］");
+  OpenPanel(2);
+  Read("矩形");
+  DragAt("60", "100");
+  ASSERT_TRUE(WaitFor([] { return ActOn(ProgramName, "矩形", " 登録 "); }));
+  // The panel lets the new item go before a click can pick it.
+  ASSERT_TRUE(WaitFor([] {
+    XDoTool({"click", "1"});
+    return ActOn(ProgramName, "矩形", " 複写 ");
+  }));
+  ASSERT_TRUE(WaitForTitle("描画情報複写"));
+  Read("描画情報複写");
+  Leave("描画情報複写", title);
+  ASSERT_TRUE(ActOn(ProgramName, "矩形", " 再表示 "));
+  const int before = ShownPopUps();
+  DragAt("60", "250");
+  ASSERT_TRUE(WaitFor([&] { return ShownPopUps() > before; }));
+  PressKeys({"Down", "Down", "Down", "Return"});
+  ASSERT_TRUE(WaitForTitle("描画情報移動"));
+  Read("描画情報移動");
+  Leave("描画情報移動", title);
+  Open(title, "レイアウトを閉じる", "レイアウトを閉じる");
+  OpenAndLeave("レイアウトを閉じる", " 保存 ", "レイアウト保存");
+  Leave("レイアウトを閉じる", title);
 }

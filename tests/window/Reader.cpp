@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <memory>
+#include <set>
 
 namespace {
 
@@ -94,35 +95,46 @@ bool TakesTheKeyboard(const Node& node) {
   return (first >> Focusable & 1) != 0;
 }
 
-bool Has(const Node& node, const std::string& kind) {
+std::set<std::string> KindsOf(const Node& node) {
   const ValuePtr answer = Call(Bus(), node, Accessible, "GetInterfaces");
-  if (!answer) return false;
+  if (!answer) return {};
   const gchar** kinds = nullptr;
   g_variant_get(answer.get(), "(^a&s)", &kinds);
-  bool found = false;
-  for (const gchar** one = kinds; *one != nullptr; one++) found = found || kind == *one;
+  std::set<std::string> found;
+  for (const gchar** one = kinds; *one != nullptr; one++) found.insert(*one);
   g_free(kinds);
   return found;
 }
 
-bool HasActions(const Node& node) {
-  if (!Has(node, Action)) return false;
+bool HasActions(const Node& node, const std::set<std::string>& kinds) {
+  if (kinds.count(Action) == 0) return false;
   const ValuePtr answer = Call(Bus(), node, Action, "GetActions");
   if (!answer) return false;
   const ValuePtr actions(g_variant_get_child_value(answer.get(), 0));
   return g_variant_n_children(actions.get()) > 0;
 }
 
-bool IsUsable(const Node& node) {
-  return TakesTheKeyboard(node) || Has(node, "org.a11y.atspi.Value") || HasActions(node);
+// Does the first action. False when the control refuses.
+bool Act(const Node& node) {
+  const ValuePtr answer = Call(Bus(), node, Action, "DoAction", g_variant_new("(i)", 0));
+  gboolean done = FALSE;
+  if (answer) g_variant_get(answer.get(), "(b)", &done);
+  return done != FALSE;
 }
 
-// The child with this name; an empty path = none.
+bool IsUsable(const Node& node) {
+  if (TakesTheKeyboard(node)) return true;
+  const std::set<std::string> kinds = KindsOf(node);
+  return kinds.count("org.a11y.atspi.Value") != 0 || HasActions(node, kinds);
+}
+
+// The latest child with this name, which lies above the others; an empty path = none.
 Node ChildNamed(const Node& parent, const std::string& name) {
   if (parent.Path.empty()) return {};
-  for (const Node& child : ChildrenOf(parent))
-    if (NameOf(child) == name) return child;
-  return {};
+  const std::vector<Node> children = ChildrenOf(parent);
+  const auto found = std::find_if(children.rbegin(), children.rend(),
+                                  [&name](const Node& child) { return NameOf(child) == name; });
+  return found != children.rend() ? *found : Node{};
 }
 
 Node Window(const std::string& program, const std::string& title) {
@@ -153,8 +165,12 @@ std::vector<ReadControl> ReadWindow(const std::string& program, const std::strin
 
 bool ActOn(const std::string& program, const std::string& title, const std::string& name) {
   const Node window = Window(program, title);
-  return !window.Path.empty() && VisitTree(window, [&name](const Node& node) {
-    return NameOf(node).rfind(name, 0) == 0 && HasActions(node) &&
-           Call(Bus(), node, Action, "DoAction", g_variant_new("(i)", 0)) != nullptr;
-  });
+  bool done = false;
+  if (!window.Path.empty())
+    VisitTree(window, [&](const Node& node) {
+      if (NameOf(node).rfind(name, 0) != 0 || !HasActions(node, KindsOf(node))) return false;
+      done = Act(node);
+      return true;
+    });
+  return done;
 }
