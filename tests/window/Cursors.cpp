@@ -23,13 +23,18 @@ void PointAtWindow() {
   gdk_display_sync(display);
 }
 
+// Screen dots per dot of a picture on a fine screen.
+gint Scale() {
+  return gtk_widget_get_scale_factor(PtrnWnd);
+}
+
 // The pointer over the window; the display's own is smaller.
 PointerImage PointerOverWindow() {
   PointerImage pointer;
   EXPECT_TRUE(WaitFor([&] {
     PointAtWindow();
     pointer = ShownPointer();
-    return pointer.Width == 32;
+    return pointer.Width == 32 * Scale();
   })) << "the pointer does not reach the window";
   return pointer;
 }
@@ -46,14 +51,17 @@ TEST_F(Cursors, AreShownWithTheirHotSpotsAndColours) {
   for (gint no = 0; no < 8; no++) {
     SetCursor(no);
     const PointerImage pointer = PointerOverWindow();
-    ASSERT_EQ(pointer.Width, 32) << no;
-    ASSERT_EQ(pointer.Height, 32) << no;
-    EXPECT_EQ(pointer.HotX, gint{HotSpots[no].x}) << no;
-    EXPECT_EQ(pointer.HotY, gint{HotSpots[no].y}) << no;
-    for (gint y = 0; y < 32; y++)
-      for (gint x = 0; x < 32; x++) {
-        const guint32 colour = Bit(CursorData[no], x, y) ? Foreground : Background;
-        ASSERT_EQ(pointer.Pixels[y * 32 + x], Bit(CursorMask[no], x, y) ? colour : 0)
+    const gint scale = Scale();
+    ASSERT_EQ(pointer.Width, 32 * scale) << no;
+    ASSERT_EQ(pointer.Height, 32 * scale) << no;
+    EXPECT_EQ(pointer.HotX, HotSpots[no].x * scale) << no;
+    EXPECT_EQ(pointer.HotY, HotSpots[no].y * scale) << no;
+    for (gint y = 0; y < 32 * scale; y++)
+      for (gint x = 0; x < 32 * scale; x++) {
+        const POINT dot = {x / scale, y / scale};
+        const guint32 colour = Bit(CursorData[no], dot.x, dot.y) ? Foreground : Background;
+        ASSERT_EQ(pointer.Pixels[y * pointer.Width + x],
+                  Bit(CursorMask[no], dot.x, dot.y) ? colour : 0)
             << "cursor " << no << " at " << x << ", " << y;
       }
   }
