@@ -157,9 +157,36 @@ TEST(Kit, ASpinLeavesAValueOutOfItsRangeUntilItIsChanged) {
   Dlg_NumrBox(form.Window, form.Grid, rows);
   form.Show();
   EXPECT_EQ(value, 123456);
-  EXPECT_EQ(EntryText(rows[0].spin), "99");
+  EXPECT_EQ(EntryText(rows[0].spin), "123456");
+  gtk_widget_activate(rows[0].spin);
+  EXPECT_EQ(value, 123456);
+  EXPECT_EQ(EntryText(rows[0].spin), "123456");
   gtk_spin_button_spin(GTK_SPIN_BUTTON(rows[0].spin), GTK_SPIN_STEP_BACKWARD, 1);
-  EXPECT_EQ(value, 98);
+  EXPECT_EQ(value, 99);
+  EXPECT_EQ(EntryText(rows[0].spin), "99");
+}
+
+TEST(Kit, ASpinTakesATypedNumberThatItsRangeEndsWith) {
+  gint value = 0;
+  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};
+  GridWindow form;
+  Dlg_NumrBox(form.Window, form.Grid, rows);
+  EXPECT_EQ(EntryText(rows[0].spin), "0");
+  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), "10");
+  gtk_widget_activate(rows[0].spin);
+  EXPECT_EQ(value, 10);
+  EXPECT_EQ(EntryText(rows[0].spin), "10");
+}
+
+TEST(Kit, ASpinBringsATypedNumberIntoItsRange) {
+  gint value = 0;
+  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};
+  GridWindow form;
+  Dlg_NumrBox(form.Window, form.Grid, rows);
+  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), "3");
+  gtk_widget_activate(rows[0].spin);
+  EXPECT_EQ(value, 10);
+  EXPECT_EQ(EntryText(rows[0].spin), "10");
 }
 
 TEST(Kit, ASpinTakesATypedNumberWhenItIsLeft) {
