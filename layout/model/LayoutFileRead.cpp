@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 #include <new>
 
 #include "layout/Guards.h"
@@ -34,33 +33,19 @@ bool ReadHeader(LayoutInput& input, PTRNHEDR& header) {
   return true;
 }
 
-void FillFromRecord(PTRNDATA& item, const PTRNFILE& record) {
-  item.Type = record.Type;
-  std::memcpy(item.Parm, record.Parm, sizeof item.Parm);
-  item.ID_Type = record.ID_Type;
-  item.ID_No = record.ID_No;
-  item.UndfFlag = record.UndfFlag;
-  item.Point1 = {record.Parm[ItemSlot::X1], record.Parm[ItemSlot::Y1]};
-  item.Point2 = {record.Parm[ItemSlot::X2], record.Parm[ItemSlot::Y2]};
-}
-
-// Appends the items of the next `count` records whose type the store may hold. The texts of the
-// others are passed over.
+// Appends those of the next `count` items whose type the store may hold.
 bool ReadBatch(LayoutInput& input, gint count) {
-  PTRNDATA dropped;
-  PTRNFILE record;
-  PTRNDATA* next = AddEmptyPtrnData(count);
-  gint unused = count;
+  PTRNDATA* const first = AddEmptyPtrnData(count);
+  PTRNDATA* next = first;
   bool whole = true;
-  for (gint i = 0; i < count && (whole = input.NextRecord(record)); ++i) {
-    const bool kept = IsItemType(record.Type);
-    PTRNDATA& item = kept ? *next : dropped;
-    FillFromRecord(item, record);
-    input.NextTexts(item);
-    next += kept;
-    unused -= kept;
+  for (gint i = 0; i < count && (whole = input.NextItem(*next)); ++i) {
+    if (IsItemType(next->Type)) {
+      ++next;
+    } else {
+      *next = PTRNDATA{};
+    }
   }
-  DropLastPtrnData(unused);
+  DropLastPtrnData(count - static_cast<gint>(next - first));
   return whole;
 }
 

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <new>
@@ -7,6 +8,8 @@
 #include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/Store.h"
+#include "layout/model/StoredItem.h"
+#include "layout/model/TextWords.h"
 #include "support/BareMemory.h"
 #include "support/FileTools.h"
 
@@ -72,26 +75,35 @@ std::size_t PlaceGroups(TypeGroups& groups) {
   return next;
 }
 
-PTRNFILE RecordFromItem(const PTRNDATA& item) {
-  PTRNFILE record;
-  record.Type = item.Type;
-  // Stored items are packed, so their numbers need not be aligned.
-  std::memcpy(record.Parm, item.Parm, sizeof record.Parm);
-  record.ID_Type = item.ID_Type;
-  record.ID_No = item.ID_No;
-  record.UndfFlag = item.UndfFlag;
-  return record;
+// Puts a field's text with its terminator and not a byte more; where the next one goes.
+template <std::size_t Size>
+char* PutText(char* to, const gchar (&field)[Size]) {
+  std::size_t at = CopyFullWords(to, field, Size);
+  if (at + sizeof(TextWord) > Size) {
+    for (; at < Size && field[at] != '\0'; ++at) to[at] = field[at];
+    to[at] = '\0';
+    return to + at + 1;
+  }
+  const std::size_t size = at + BytesBeforeZero(WordAt(field + at)) + 1;
+  if (size >= sizeof(TextWord)) {
+    // The last word once more overlaps what has been copied.
+    PutWord(to + size - sizeof(TextWord), WordAt(field + size - sizeof(TextWord)));
+  } else {
+    std::copy_n(field, size, to);
+  }
+  return to + size;
 }
 
-void PutItem(FileBytes& bytes, TypeGroup& group, const PTRNDATA& item) {
-  const PTRNFILE record = RecordFromItem(item);
-  std::memcpy(bytes.data() + group.nextRecord, &record, sizeof record);
-  group.nextRecord += sizeof record;
-  for (const std::string_view text : TextsOf(item)) {
-    std::memcpy(bytes.data() + group.nextText, text.data(), text.size());
-    group.nextText += text.size();
-    bytes[group.nextText++] = '\0';
-  }
+void PutItem(char* bytes, TypeGroup& group, const PTRNDATA& item) {
+  PutRecord(bytes + group.nextRecord, item);
+  group.nextRecord += sizeof(PTRNFILE);
+  char* to = bytes + group.nextText;
+  to = PutText(to, item.Text1);
+  to = PutText(to, item.Text2);
+  to = PutText(to, item.Text3);
+  to = PutText(to, item.ID_Name);
+  to = PutText(to, item.ID_Code);
+  group.nextText = static_cast<std::size_t>(to - bytes);
 }
 
 FileBytes LayoutBytes() {
@@ -103,7 +115,7 @@ FileBytes LayoutBytes() {
   for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
     const PTRNDATA& item = *ViewPtrnData(no);
     if (IsItemType(item.Type)) {
-      PutItem(bytes, groups[static_cast<std::size_t>(item.Type)], item);
+      PutItem(bytes.data(), groups[static_cast<std::size_t>(item.Type)], item);
     }
   }
   std::memset(bytes.data() + end, 0, bytes.size() - end);

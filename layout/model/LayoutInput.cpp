@@ -2,11 +2,11 @@
 
 #include <sys/stat.h>
 
-#include <bit>
 #include <cerrno>
-#include <cstdint>
 #include <cstring>
 
+#include "layout/model/StoredItem.h"
+#include "layout/model/TextWords.h"
 #include "support/Text.h"
 
 namespace {
@@ -17,33 +17,18 @@ constexpr std::size_t CodeLimit = 20;
 // The most bytes that the texts of one item take, terminators included.
 constexpr std::size_t TextsLimit = 3 * (TextLimit + 1) + (NameLimit + 1) + (CodeLimit + 1);
 
-// Texts are short: looked through and copied a word at a time they take half the time that a search
-// and a copy take.
-using Word = std::uint64_t;
-static_assert(std::endian::native == std::endian::little);
-static_assert(TextsLimit + sizeof(Word) <= FilePieces::MostAhead);
-
-// Not 0 when the word has a zero byte; the lowest bit set is then the high bit of the first.
-constexpr Word ZeroByteBits(Word word) {
-  constexpr Word Ones = 0x0101010101010101;
-  return (word - Ones) & ~word & (Ones << 7);
-}
+static_assert(TextsLimit + sizeof(TextWord) <= FilePieces::MostAhead);
 
 // Copies the text at `from` into an empty field, its terminator not; the length of the text, more
 // than `limit` where no terminator stands up to there. Whole words are read.
 template <std::size_t Size>
-std::size_t CopyWords(gchar (&field)[Size], const char* from, std::size_t limit) {
-  std::size_t at = 0;
-  for (; at + sizeof(Word) <= Size; at += sizeof(Word)) {
-    Word word;
-    std::memcpy(&word, from + at, sizeof word);
-    const Word zeros = ZeroByteBits(word);
-    if (zeros != 0) {
-      word &= (zeros ^ (zeros - 1)) >> 8;  // the bytes before the terminator
-      std::memcpy(field + at, &word, sizeof word);
-      return at + static_cast<std::size_t>(std::countr_zero(zeros)) / 8;
-    }
-    std::memcpy(field + at, &word, sizeof word);
+std::size_t FillField(gchar (&field)[Size], const char* from, std::size_t limit) {
+  std::size_t at = CopyFullWords(field, from, Size);
+  if (at + sizeof(TextWord) <= Size) {
+    const TextWord word = WordAt(from + at);
+    const TextWord zeros = ZeroByteBits(word);
+    PutWord(field + at, word & (zeros ^ (zeros - 1)) >> 8);  // the bytes before the terminator
+    return at + BytesBeforeZero(word);
   }
   for (; at <= limit && from[at] != '\0'; ++at) {
     field[at] = from[at];
@@ -54,7 +39,7 @@ std::size_t CopyWords(gchar (&field)[Size], const char* from, std::size_t limit)
 // Copies the text at `from` into an empty field; where the next one begins.
 template <std::size_t Size>
 const char* TakeText(gchar (&field)[Size], const char* from, std::size_t limit) {
-  const std::size_t length = CopyWords(field, from, limit);
+  const std::size_t length = FillField(field, from, limit);
   if (length <= limit) {
     return from + length + 1;
   }
@@ -102,13 +87,14 @@ bool LayoutInput::ReadHeader(PTRNHEDR& header) {
   return true;
 }
 
-bool LayoutInput::NextRecord(PTRNFILE& record) {
-  std::memcpy(&record, records_.Ahead(sizeof record), sizeof record);
-  return records_.Skip(sizeof record);
+bool LayoutInput::NextItem(PTRNDATA& item) {
+  TakeRecord(item, records_.Ahead(sizeof(PTRNFILE)));
+  TakeTexts(item);
+  return records_.Skip(sizeof(PTRNFILE));
 }
 
-void LayoutInput::NextTexts(PTRNDATA& item) {
-  const char* const begin = texts_.Ahead(TextsLimit + sizeof(Word));
+void LayoutInput::TakeTexts(PTRNDATA& item) {
+  const char* const begin = texts_.Ahead(TextsLimit + sizeof(TextWord));
   const char* from = begin;
   from = TakeText(item.Text1, from, TextLimit);
   from = TakeText(item.Text2, from, TextLimit);

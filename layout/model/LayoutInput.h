@@ -25,14 +25,15 @@ class LayoutInput {
   gint RecordsHeld() const { return recordsHeld_; }
   // Whether the file holds all that the header counts. Without, all texts are empty.
   bool HoldsTexts() const { return holdsTexts_; }
-  // The next record; false past the last one, and where the file has become shorter meanwhile.
-  bool NextRecord(PTRNFILE& record);
-  // Fills an item's empty text fields with the next five texts. A text too long for its field is
-  // cut, and what is left of it past one more byte is taken for the next text. Past the end of the
-  // block texts are empty.
-  void NextTexts(PTRNDATA& item);
+  // Fills an empty item with the next record and its five texts; false past the last record, and
+  // where the file has become shorter meanwhile. A text too long for its field is cut, and what is
+  // left of it past one more byte is taken for the next text. Past the end of the block texts are
+  // empty.
+  bool NextItem(PTRNDATA& item);
 
  private:
+  void TakeTexts(PTRNDATA& item);
+
   FileHandle file_;
   bool failed_ = false;
   gint64 size_ = 0;

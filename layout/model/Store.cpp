@@ -21,7 +21,7 @@ bool IsStored(gint no) {
 }  // namespace
 
 void IntPtrnData() {
-  ExtPtrnData();
+  PtrnArray.clear();
   PtrnArray.reserve(FirstCapacity);
 }
 

@@ -1,4 +1,5 @@
 // The texts of a layout file, wherever they end, against a reading byte by byte.
+#include <algorithm>
 #include <random>
 
 #include "support/Text.h"
@@ -105,6 +106,38 @@ TEST_F(LayoutFileTextsTest, OfEveryLengthAtEveryPlace) {
       block += std::string(length, 'c') + '\0' + std::string(length, 'd') + '\0';
     }
     ExpectAsPlain(std::vector<gint>(100, 1), block);
+  }
+}
+
+// Fills a field's first `length` bytes, all without a terminator if that is more; the bytes that
+// the file is to hold for it.
+template <std::size_t Size>
+std::string Fill(gchar (&field)[Size], std::size_t length, char byte) {
+  const std::string text(std::min(length, Size), byte);
+  std::memcpy(field, text.data(), text.size());
+  return text + '\0';
+}
+
+std::string FillAll(PTRNDATA& item, std::size_t length) {
+  return Fill(item.Text1, length, 'a') + Fill(item.Text2, length, 'b') +
+         Fill(item.Text3, length, 'c') + Fill(item.ID_Name, length, 'd') +
+         Fill(item.ID_Code, length, 'e');
+}
+
+TEST_F(LayoutFileTextsTest, AreWrittenWithNotAByteMore) {
+  constexpr std::size_t lengths = 103;
+  // The last frame's code ends where the texts of the first string begin, which are put before it.
+  for (const std::size_t last : {0, 3, 7, 8, 10, 15, 21, 22}) {
+    Clear();
+    std::string frames, strings;
+    for (std::size_t i = 1; i <= lengths; ++i) {
+      PTRNDATA string = ItemOfType(6), frame = ItemOfType(1);
+      strings += FillAll(string, i % lengths);
+      frames += FillAll(frame, (last + i) % lengths);
+      AddPtrnData(&string);
+      AddPtrnData(&frame);
+    }
+    EXPECT_EQ(Written().substr(466 + 2 * lengths * 136), frames + strings) << last;
   }
 }
 
