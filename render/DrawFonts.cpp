@@ -13,10 +13,22 @@ constexpr const char* SmallFontSubstitute = "-*-fixed-medium-r-*-*-14-*-*-*-*-*-
 std::array<std::unique_ptr<FontSet>, FontCount + 1> DrawFont;
 static_assert(SmallFont == FontCount);
 
+std::unique_ptr<FontSet> SmallFontSet() {
+  auto font = std::make_unique<FontSet>(SmallFontName);
+  return font->NamesBitmapFont() ? std::move(font) : std::make_unique<FontSet>(SmallFontSubstitute);
+}
+
 }  // namespace
 
 FontSet* DrawFontOf(gint font) {
-  return font >= 0 && font <= SmallFont ? DrawFont[static_cast<std::size_t>(font)].get() : nullptr;
+  if (font < 0 || font > SmallFont) {
+    return nullptr;
+  }
+  std::unique_ptr<FontSet>& set = DrawFont[static_cast<std::size_t>(font)];
+  if (font == SmallFont && !set) {
+    set = SmallFontSet();
+  }
+  return set.get();
 }
 
 gint LineHeightOf(gint font) {
@@ -26,12 +38,8 @@ gint LineHeightOf(gint font) {
   return font >= 0 && font < FontCount ? FontHeight[font] : 0;
 }
 
-void LoadSmallFont() {
-  auto font = std::make_unique<FontSet>(SmallFontName);
-  if (!font->NamesBitmapFont()) {
-    font = std::make_unique<FontSet>(SmallFontSubstitute);
-  }
-  DrawFont[SmallFont] = std::move(font);
+void ForgetSmallFont() {
+  DrawFont[SmallFont].reset();
 }
 
 void LoadDrawFont(gint font, const gchar* descriptor) {

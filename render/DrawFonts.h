@@ -9,5 +9,5 @@ FontSet* DrawFontOf(gint font);
 gint LineHeightOf(gint font);
 // Loads font 0..19; an empty descriptor leaves the number without one.
 void LoadDrawFont(gint font, const gchar* descriptor);
-// Loads the font of small labels.
-void LoadSmallFont();
+// The font of small labels is looked up anew when a text first needs it.
+void ForgetSmallFont();

@@ -126,23 +126,30 @@ std::vector<std::string> RelatedNames(const std::string& descriptor, const std::
   return {sameFoundry, Join(free, Registry) + "-" + charset};
 }
 
-FontSet::FontSet(const std::string& descriptor)
-    : descriptor_(FontCatalogue::Get().ResolveAlias(descriptor)) {}
+FontSet::FontSet(const std::string& descriptor) : descriptor_(descriptor) {}
 
-bool FontSet::NamesBitmapFont() const {
-  return OpenBitmap(descriptor_, Charset::Ascii, ExactNames) != nullptr;
+const std::string& FontSet::Resolved() {
+  if (!resolved_) {
+    descriptor_ = FontCatalogue::Get().ResolveAlias(descriptor_);
+    resolved_ = true;
+  }
+  return descriptor_;
+}
+
+bool FontSet::NamesBitmapFont() {
+  return OpenBitmap(Resolved(), Charset::Ascii, ExactNames) != nullptr;
 }
 
 GlyphSource& FontSet::Source(Charset charset) {
   std::shared_ptr<GlyphSource>& source = sources_[static_cast<std::size_t>(charset)];
   if (!source) {
-    source = OpenBitmap(descriptor_, charset, ExactNames);
+    source = OpenBitmap(Resolved(), charset, ExactNames);
   }
   if (!source) {
-    source = OpenBitmap(descriptor_, charset, RelatedNames);
+    source = OpenBitmap(Resolved(), charset, RelatedNames);
   }
   if (!source) {
-    source = OpenOutlineFont(StyleOf(descriptor_), charset);
+    source = OpenOutlineFont(StyleOf(Resolved()), charset);
   }
   return *source;
 }

@@ -29,14 +29,17 @@ class FontSet {
   // Draws with the origin at (x, baseline).
   void Draw(Drawable& drawable, gint64 x, gint64 baseline, guint32 rgb, std::string_view euc);
   // Whether a bitmap font of the descriptor itself covers ASCII.
-  bool NamesBitmapFont() const;
+  bool NamesBitmapFont();
 
  private:
+  // The descriptor, an alias replaced by what it stands for.
+  const std::string& Resolved();
   GlyphSource& Source(Charset charset);
   template <typename Visit>
   void VisitGlyphs(std::string_view euc, Visit visit);
 
   std::string descriptor_;
+  bool resolved_ = false;
   std::array<std::shared_ptr<GlyphSource>, 4> sources_;
 };
 

@@ -27,7 +27,7 @@ void InitDrawData() {
     FontName[i][0] = FontList[i][0] = '\0';
   }
   SetDrawFont();
-  LoadSmallFont();
+  ForgetSmallFont();
   CusrColr[0] = ProfileColour("CURSOR_FG");
   CusrColr[1] = ProfileColour("CURSOR_BG");
   XPM_DataInit();

@@ -4,6 +4,8 @@
 
 #include <new>
 
+#include "RgbRow.h"
+
 namespace {
 
 PixbufPtr Scaled(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part) {
@@ -19,6 +21,13 @@ PixbufPtr Scaled(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& 
                      GDK_INTERP_BILINEAR);
   }
   return scaled;
+}
+
+void TakeRgbaRow(const guchar* in, gint64 count, bool hasAlpha, guint32* out) {
+  for (gint64 x = 0; x < count; ++x, in += 4) {
+    const guint32 alpha = hasAlpha ? in[3] : 255;
+    *out++ = alpha << 24 | guint32{in[0]} << 16 | guint32{in[1]} << 8 | in[2];
+  }
 }
 
 guint32 Mixed(guint32 below, guint32 above, guint32 alpha) {
@@ -42,27 +51,36 @@ ScaledPicture::ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, cons
   try {
     if (box.x2 - box.x1 == gdk_pixbuf_get_width(picture) &&
         box.y2 - box.y1 == gdk_pixbuf_get_height(picture)) {
-      TakeRows(picture, part.x1 - box.x1, part.y1 - box.y1, blend);
+      Take(picture, part.x1 - box.x1, part.y1 - box.y1, blend);
     } else if (const PixbufPtr scaled = Scaled(picture, box, part)) {
-      TakeRows(scaled.get(), 0, 0, blend);
+      Take(scaled.get(), 0, 0, blend);
     }
-    FindRuns();
   } catch (const std::bad_alloc&) {
     runs_.clear();
   }
 }
 
-void ScaledPicture::TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend) {
+void ScaledPicture::Take(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend) {
   const guchar* rows = gdk_pixbuf_read_pixels(picture);
+  const gint stride = gdk_pixbuf_get_rowstride(picture);
   const gint channels = gdk_pixbuf_get_n_channels(picture);
   const bool hasAlpha = blend && channels == 4;
-  pixels_.resize(static_cast<std::size_t>((part_.x2 - part_.x1) * (part_.y2 - part_.y1)));
+  const gint64 width = part_.x2 - part_.x1;
+  pixels_.resize(static_cast<std::size_t>(width * (part_.y2 - part_.y1)));
   guint32* out = pixels_.data();
-  for (gint64 y = top; y < top + part_.y2 - part_.y1; ++y) {
-    const guchar* in = rows + y * gdk_pixbuf_get_rowstride(picture) + left * channels;
-    for (gint64 x = part_.x1; x < part_.x2; ++x, in += channels) {
-      const guint32 alpha = hasAlpha ? in[3] : 255;
-      *out++ = alpha << 24 | guint32{in[0]} << 16 | guint32{in[1]} << 8 | in[2];
+  for (gint64 y = top; y < top + part_.y2 - part_.y1; ++y, out += width) {
+    const guchar* in = rows + y * stride + left * channels;
+    if (channels == 3) {
+      TakeRgbRow(in, width, out);
+    } else {
+      TakeRgbaRow(in, width, hasAlpha, out);
+    }
+  }
+  if (hasAlpha) {
+    FindRuns();
+  } else {
+    for (gint32 y = 0; y < part_.y2 - part_.y1; ++y) {
+      runs_.push_back({0, y, static_cast<gint32>(width), false});
     }
   }
 }

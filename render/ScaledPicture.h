@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Paint.h"
+#include "support/BareMemory.h"
 
 // A part of a scaled picture, ready to be painted.
 class ScaledPicture {
@@ -25,11 +26,12 @@ class ScaledPicture {
     gint32 length;
     bool mixed;  // with what is below
   };
-  void TakeRows(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend);
+  // Takes the part of the picture that begins at (left, top).
+  void Take(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend);
   void FindRuns();
 
   PlaneBox part_;
-  std::vector<guint32> pixels_;  // 0xAARRGGBB, row by row
+  std::vector<guint32, BareMemory<guint32>> pixels_;  // 0xAARRGGBB, row by row
   std::vector<Run> runs_;
 };
 

@@ -3,12 +3,22 @@
 #include <cairo.h>
 
 #include <algorithm>
-#include <cstdlib>
+#include <new>
+
+#include "support/BareMemory.h"
 
 namespace {
 
 constexpr guint64 MaxPixels = guint64{1} << 29;
 constexpr guint32 Opaque = 0xff000000;
+
+guint32* TakePixels(guint64 count) {
+  try {
+    return static_cast<guint32*>(TakeBareMemory(count * sizeof(guint32)));
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
 
 }  // namespace
 
@@ -25,7 +35,7 @@ Drawable::Drawable(gint width, gint height, gint x, gint y)
     : x_(x), y_(y), width_(std::max(width, 1)), height_(std::max(height, 1)) {
   const guint64 count = static_cast<guint64>(width_) * static_cast<guint64>(height_);
   if (count <= MaxPixels) {
-    pixels_ = static_cast<guint32*>(std::malloc(count * sizeof(guint32)));
+    pixels_ = TakePixels(count);
   }
   if (pixels_ == nullptr) {
     width_ = height_ = 0;
@@ -57,7 +67,7 @@ Drawable::~Drawable() {
     cairo_surface_destroy(cairo_);
   }
   if (owner_) {
-    std::free(pixels_);
+    GiveBareMemory(pixels_);
   }
 }
 

@@ -1,8 +1,7 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
-#include <cstring>
-
 #include "Paint.h"
+#include "RgbRow.h"
 
 namespace {
 
@@ -33,15 +32,7 @@ void CopyToImage(GdkPixbuf* image, const Drawable& surface, const PlaneBox& part
 
 void CopyFromImage(Drawable& target, GdkPixbuf* image, const PlaneBox& part) {
   for (gint64 y = part.y1; y < part.y2; ++y) {
-    const guchar* in = RowOf(image, y - part.y1);
-    guint32* out = PixelAt(target, part.x1, y);
-    // Four bytes at once, the last of which is the next pixel's.
-    for (gint64 x = part.x1; x < part.x2 - 1; ++x, in += 3) {
-      guint32 bytes;
-      std::memcpy(&bytes, in, sizeof bytes);
-      *out++ = 0xff000000u | GUINT32_FROM_BE(bytes) >> 8;
-    }
-    *out = 0xff000000u | guint32{in[0]} << 16 | guint32{in[1]} << 8 | in[2];
+    TakeRgbRow(RowOf(image, y - part.y1), part.x2 - part.x1, PixelAt(target, part.x1, y));
   }
 }
 

@@ -4,6 +4,7 @@
 #include "Holders.h"
 #include "OverlayRegion.h"
 #include "PtrnData.h"
+#include "StartPicture.h"
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "render/Layout.h"
@@ -116,7 +117,7 @@ gboolean PtrnDraw_Configure(GtkWidget*, GdkEventConfigure* event, gpointer) {
 
 gboolean PtrnDraw_Expose(GtkWidget*, cairo_t* cairo, gpointer) {
   if (PtrnDraw_Mode == 0) {
-    if (PtrnPixmap) Show(cairo, *PtrnPixmap);
+    if (PtrnPixmap) ShowStartPicture(cairo, *PtrnPixmap);
     return TRUE;
   }
   ShowExposed(cairo);
