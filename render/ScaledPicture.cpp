@@ -4,24 +4,9 @@
 
 #include <new>
 
-#include "RgbRow.h"
+#include "Scaler.h"
 
 namespace {
-
-PixbufPtr Scaled(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part) {
-  PixbufPtr scaled(gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(picture), 8,
-                                  static_cast<int>(part.x2 - part.x1),
-                                  static_cast<int>(part.y2 - part.y1)));
-  if (scaled) {
-    gdk_pixbuf_scale(picture, scaled.get(), 0, 0, gdk_pixbuf_get_width(scaled.get()),
-                     gdk_pixbuf_get_height(scaled.get()), static_cast<double>(box.x1 - part.x1),
-                     static_cast<double>(box.y1 - part.y1),
-                     static_cast<double>(box.x2 - box.x1) / gdk_pixbuf_get_width(picture),
-                     static_cast<double>(box.y2 - box.y1) / gdk_pixbuf_get_height(picture),
-                     GDK_INTERP_BILINEAR);
-  }
-  return scaled;
-}
 
 void TakeRgbaRow(const guchar* in, gint64 count, bool hasAlpha, guint32* out) {
   for (gint64 x = 0; x < count; ++x, in += 4) {
@@ -52,7 +37,7 @@ ScaledPicture::ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, cons
     if (box.x2 - box.x1 == gdk_pixbuf_get_width(picture) &&
         box.y2 - box.y1 == gdk_pixbuf_get_height(picture)) {
       Take(picture, part.x1 - box.x1, part.y1 - box.y1, blend);
-    } else if (const PixbufPtr scaled = Scaled(picture, box, part)) {
+    } else if (const PixbufPtr scaled = ScaledPart(picture, box, part)) {
       Take(scaled.get(), 0, 0, blend);
     }
   } catch (const std::bad_alloc&) {

@@ -1,7 +1,6 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
-#include "Paint.h"
-#include "RgbRow.h"
+#include "Scaler.h"
 
 namespace {
 
@@ -41,14 +40,6 @@ void CopyPart(Drawable& target, const Drawable& picture, const PlaneBox& part) {
     std::copy_n(picture.Row(static_cast<gint>(y)) + part.x1, part.x2 - part.x1,
                 PixelAt(target, part.x1, y));
   }
-}
-
-// Pixels of the picture that the zoomed pixels begin..end-1 are made of, and some more. The scaler
-// counts in 65536ths, rounded down.
-OffsetRange SourceOf(gint64 begin, gint64 end, double scale) {
-  const double reach = 1 / scale + static_cast<double>(end) / 65536 + 3;
-  return {static_cast<gint64>(static_cast<double>(begin) / scale - reach),
-          static_cast<gint64>(static_cast<double>(end) / scale + reach)};
 }
 
 // The scaler gets an image as large as the picture, so that it counts alike for every part, but
