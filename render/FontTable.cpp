@@ -1,4 +1,6 @@
 #include "PtrnMisc.h"
+#include "support/ProfileFile.h"
+#include "support/ProfileText.h"
 #include "support/Resource.h"
 #include "support/Text.h"
 
@@ -12,15 +14,17 @@ void CopyDisplayText(gchar* field, gsize size, const std::string& utf8) {
   field[end - field] = '\0';
 }
 
-void ReadFont(gint font) {
-  gchar name[100];
-  gchar descriptor[100];
-  ProfileRead2("", "FONT", "FONTNAME", Language * FontCount + font, "ss", name, descriptor);
+void ReadFont(std::string_view profile, gint font) {
+  const std::string value =
+      ProfileValue(profile, "FONT", NumberedKey("FONTNAME", Language * FontCount + font))
+          .value_or("");
+  const std::string_view name = ProfileTextField(value, 0);
+  const std::string descriptor(ProfileTextField(value, 1));
   FontNameList[font] = FontList[font];
   CopyDisplayText(FontList[font], sizeof FontList[font], DisplayText(name));
-  g_strlcpy(FontName[font], descriptor, sizeof FontName[font]);
-  const bool named = name[0] != '\0' && descriptor[0] != '\0';
-  FontHeight[font] = named ? FontDescriptorHeight(descriptor) : 0;
+  g_strlcpy(FontName[font], descriptor.c_str(), sizeof FontName[font]);
+  const bool named = !name.empty() && !descriptor.empty();
+  FontHeight[font] = named ? FontDescriptorHeight(descriptor.c_str()) : 0;
 }
 
 }  // namespace
@@ -32,8 +36,9 @@ void FontDataInit(gint mode) {
   if (Language < 0 || Language > 2) {
     Language = 0;
   }
+  const std::string profile = LoadProfile(ProfilePath("")).value_or("");
   for (gint font = 0; font < FontCount; ++font) {
-    ReadFont(font);
+    ReadFont(profile, font);
   }
   SetDrawFont();
 }

@@ -10,7 +10,12 @@ namespace {
 
 constexpr std::size_t PieceSize = 256;
 constexpr std::size_t TextLimit = 99;
-constexpr std::string_view LineEnds("\n\0", 2);
+
+// Two searches for one byte each are far faster than one for either.
+std::size_t LineEnd(std::string_view text) {
+  const std::size_t end = text.find('\n');
+  return std::min(end, text.substr(0, end).find('\0'));
+}
 
 // Walks the lines; one of more than 256 bytes counts as several.
 class LineReader {
@@ -22,9 +27,10 @@ class LineReader {
     length_ = 0;
     if (begin_ >= profile_.size()) return false;
     const std::string_view piece = profile_.substr(begin_, PieceSize);
-    const std::size_t end = piece.find_first_of(LineEnds);
+    const std::size_t end = LineEnd(piece);
     length_ = end == std::string_view::npos ? piece.size() : end + 1;
-    text_ = piece.substr(0, std::min(end, piece.find(';')));
+    text_ = piece.substr(0, end);
+    text_ = text_.substr(0, text_.find(';'));
     while (text_.size() > 1 && (text_.back() == ' ' || text_.back() == '\t')) {
       text_.remove_suffix(1);
     }
@@ -36,8 +42,8 @@ class LineReader {
   std::size_t Begin() const { return begin_; }
   // Where the next line begins, the rest of a long one passed over.
   std::size_t End() const {
-    const std::size_t end = profile_.find_first_of(LineEnds, begin_);
-    return end == std::string_view::npos ? profile_.size() : end + 1;
+    const std::size_t end = LineEnd(profile_.substr(begin_));
+    return end == std::string_view::npos ? profile_.size() : begin_ + end + 1;
   }
 
  private:

@@ -29,6 +29,10 @@ FieldKind FieldKindOf(char letter);
 std::string_view ProfileField(std::string_view value, std::size_t number);
 // The field as far as its kind allows: a text cut at 99 bytes, a number only when it is all digits.
 std::string_view CheckedField(std::string_view field, FieldKind kind);
+// A field that is a text.
+inline std::string_view ProfileTextField(std::string_view value, std::size_t number) {
+  return CheckedField(ProfileField(value, number), FieldKind::Text);
+}
 
 // Numbers of checked fields; a decimal too large for its type is the type's largest.
 gint DecimalValue(std::string_view digits);

@@ -3,6 +3,8 @@
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "support/FileTools.h"
+#include "support/ProfileFile.h"
+#include "support/ProfileText.h"
 
 namespace {
 
@@ -30,11 +32,13 @@ void ForgetLastProject() {
 // Entries whose project file is gone go; their numbers stay free. A file that cannot be looked at
 // is not gone.
 void PruneKnownProjects() {
+  const std::string profile = LoadProfile(ProfilePath("")).value_or("");
   for (gint no = 0; no < KnownProjectCount; ++no) {
-    gchar name[FieldSize];
-    gchar path[FieldSize];
-    ProfileRead2("", "PROJNAME", "PROJNAME", no, "ss", name, path);
-    if (name[0] != '\0' && path[0] != '\0' && IsMissing(JoinPath(path, name, "prj"))) {
+    const std::string value =
+        ProfileValue(profile, "PROJNAME", NumberedKey("PROJNAME", no)).value_or("");
+    const std::string_view name = ProfileTextField(value, 0);
+    const std::string_view path = ProfileTextField(value, 1);
+    if (!name.empty() && !path.empty() && IsMissing(JoinPath(path, name, "prj"))) {
       ProfileDelete2("", "PROJNAME", "PROJNAME", no);
     }
   }
