@@ -4,18 +4,14 @@
 
 namespace {
 
-void ReadSomeKeys() {
+void ReadKey(const std::string& section, const std::string& key) {
   gchar text[100];
   gchar more[100];
   gint numbers[3];
   guint16 word = 0;
-  for (const char* section : {"PROJECT", "PROJNAME", "FONT", "COLOR", "PROJDATA"}) {
-    for (const char* key : {"PROJECT", "PROJNAME", "FONTNAME", "COLOR", "WINDOW"}) {
-      ProfileRead1("", section, key, "ssiiih", text, more, &numbers[0], &numbers[1], &numbers[2],
-                   &word);
-      ProfileRead2("", section, key, 0, "ish", &numbers[0], text, &word);
-    }
-  }
+  ProfileRead1("", section.c_str(), key.c_str(), "ssiiih", text, more, &numbers[0], &numbers[1],
+               &numbers[2], &word);
+  ProfileRead2("", section.c_str(), key.c_str(), 0, "ish", &numbers[0], text, &word);
 }
 
 // What has been set reads back as far as a line's 256 bytes go, and once removed is gone.
@@ -43,13 +39,15 @@ void SetAndDelete(std::string profile, std::string_view section, std::string_vie
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view input = InputText(data, size);
   FuzzFolder::Get().Write("VarnixMaster.ini", input);
-  ReadSomeKeys();
+  std::string_view rest = input;
+  const std::string section(TakeLine(rest));
+  const std::string key(TakeLine(rest));
+  ReadKey(section, key);
+  ReadKey("FONT", "FONTNAME");
+  ReadKey("PROJECT", "WINDOW");
   ProfileWriteAsc2("", "FONT", "FONTNAME", 3, "name");
   ProfileWrite3("", "PTRN", "PTRNSTART", "name", 60, "; comment");
   ProfileDelete1("", "PROJECT", "WINDOW");
-  std::string_view rest = input;
-  const std::string_view section = TakeLine(rest);
-  const std::string_view key = TakeLine(rest);
   SetAndDelete(std::string(input), section, key);
   const std::string value = CommentedValue(key, section, 60, "; comment");
   for (std::size_t number = 0; number < 4; ++number) {

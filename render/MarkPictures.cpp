@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "render/Primitives.h"
 #include "support/Resource.h"
@@ -33,7 +34,7 @@ void SetDrawMark() {
     for (gint y = 0; y < size.cy; ++y) {
       gchar* row = Mark_XPM[i].data[MarkHeaderLines + y];
       for (gint x = 0; x < size.cx; x += 8) {
-        std::copy_n(bytes[*byte++].data(), 8, row + x);
+        std::memcpy(row + x, bytes[*byte++].data(), 8);
       }
       row[size.cx] = '\0';
     }
