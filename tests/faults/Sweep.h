@@ -34,8 +34,8 @@ class Sweep {
   void CutEachWrite();
   // Each call fails in turn with every error that a file call may give.
   void FailWithEveryError();
-  // Each call fails in turn with the errors of a disk, each write is cut short, the disk is gone
-  // from each call on. A writer of very many calls sees only a full and a broken disk.
+  // Each call fails in turn with the errors of a disk (full, broken, read-only) and as interrupted,
+  // each write is cut short, the disk is gone from each call on.
   void GoThroughDiskErrors();
 
   int Runs() const { return runs_; }
