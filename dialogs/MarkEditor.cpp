@@ -26,6 +26,7 @@ struct MarkEdit {
   POINT Cursor;               // mark pixel that the keyboard draws
 };
 
+// As large as in a layout, whatever the size of letters.
 gboolean MakeMarkData_Expose1(GtkWidget* view, cairo_t* cairo, const MarkEdit* edit) {
   DrawMarkData(view, cairo, edit->Number, edit->Data);
   return TRUE;

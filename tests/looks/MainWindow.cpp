@@ -18,6 +18,7 @@ class MainWindow : public LooksTest {
 
 TEST_F(MainWindow, Menus) {
   Play([this] {
+    EXPECT_TRUE(See([] { return gtk_window_is_active(GTK_WINDOW(PtrnWnd)) != FALSE; }));
     ShowScreen("window-start", PtrnWnd);
     OpenLayout("全体監視");
     ShowScreen("window-layout", PtrnWnd);
@@ -29,6 +30,25 @@ TEST_F(MainWindow, Menus) {
     ShowMenu("menu-unpickable", {"表示", "非検出"});
     ShowMenu("menu-colour", {"表示", "表示色"});
     ShowMenu("menu-language", {"表示", "言語"});
+  });
+}
+
+// The README's picture: a bar graph of the sample in hand, its panel beside the window.
+TEST_F(MainWindow, AtWork) {
+  Play([this] {
+    for (POINT& place : ToolBox_PointData) place = {1060, 130};
+    OpenLayout("全体監視");
+    const SIZE layout = Look([] {
+      const SIZE size = PtrnDraw_Size2;
+      gtk_window_move(GTK_WINDOW(PtrnWnd), 16, 16);
+      gtk_window_resize(GTK_WINDOW(PtrnWnd), size.cx,
+                        size.cy + gtk_widget_get_allocated_height(MenuBar()));
+      return size;
+    });
+    EXPECT_TRUE(See([&] { return gtk_widget_get_allocated_width(PtrnWnd) == layout.cx; }));
+    Settle();
+    ClickCanvas(250, 200);
+    ShowBeside("window", {PtrnWnd, SeeWindow("棒グラフ")});
   });
 }
 

@@ -29,6 +29,15 @@ TEST_F(Panels, EachType) {
   });
 }
 
+// The samples themselves, each in its cell of the layout.
+TEST_F(Panels, Items) {
+  Play([this] {
+    OpenSamples();
+    for (gint no = 0; no < 15; ++no)
+      ShowCanvas("item-" + std::to_string(no + 1), {no % 3 * 220, no / 3 * 128, 200, 120});
+  });
+}
+
 TEST_F(Panels, InTwoColourSystems) {
   Play([this] {
     TwoColourSystems();

@@ -3,6 +3,7 @@
 
 #include <gtk/gtk.h>
 
+#include <initializer_list>
 #include <string>
 
 // Once the window has painted: checks it, and where VARNIX_PICTURES names a folder, puts its
@@ -12,5 +13,9 @@ void Show(const std::string& name, GtkWidget* window);
 void Show(const std::string& name, const std::string& title);
 // Keeps the part of the screen that the window takes, menus and windows over it included.
 void ShowScreen(const std::string& name, GtkWidget* window);
+// Keeps windows that stand beside each other, with their frames, on a plain ground.
+void ShowBeside(const std::string& name, std::initializer_list<GtkWidget*> windows);
+// Keeps a part of the canvas.
+void ShowCanvas(const std::string& name, const GdkRectangle& part);
 // Whether pictures are kept.
 bool KeepsPictures();
