@@ -33,9 +33,6 @@ DLG_NUMRBOX Dlg_Move_Numr[] = {{0, 1, 1, 4, 9999, 0, &EditParm.xdot, "", nullptr
 
 namespace {
 
-constexpr const gchar* CopyTitle = "描画情報複写";
-constexpr const gchar* MoveTitle = "描画情報移動";
-
 void Dlg_CopyMove_OK(GtkWidget* /*button*/, GtkWidget* window) {
   CopyMoveResult = 1;
   gtk_widget_destroy(window);
@@ -46,18 +43,6 @@ void Dlg_CopyMove_CAN(GtkWidget* /*button*/, GtkWidget* window) {
 }
 
 }  // namespace
-
-gint Dlg_ToolCopy(GtkWidget* parent, DLGPARM* parm) {
-  return Dlg_Copy_Move(parent, 0, CopyTitle, parm);
-}
-
-gint Dlg_AreaCopy(GtkWidget* parent, DLGPARM* parm) {
-  return Dlg_Copy_Move(parent, 0, CopyTitle, parm);
-}
-
-gint Dlg_AreaMove(GtkWidget* parent, DLGPARM* parm) {
-  return Dlg_Copy_Move(parent, 1, MoveTitle, parm);
-}
 
 gint Dlg_Copy_Move(GtkWidget* parent, gint mode, const gchar* title, DLGPARM* parm) {
   CopyMoveResult = 0;

@@ -53,14 +53,9 @@ gint Dlg_MessageBox(GtkWidget* /*parent*/, const gchar* title, const gchar* mesg
   Calls.push_back(std::string(title) + "|" + mesg1 + "|" + mesg2 + "|" + std::to_string(butn));
   return 1;
 }
-gint Dlg_ToolCopy(GtkWidget* /*parent*/, DLGPARM* /*parm*/) {
-  return Asked();
-}
-gint Dlg_AreaCopy(GtkWidget* /*parent*/, DLGPARM* /*parm*/) {
-  return Asked();
-}
-gint Dlg_AreaMove(GtkWidget* /*parent*/, DLGPARM* /*parm*/) {
-  return Asked();
+gint Dlg_Copy_Move(GtkWidget* /*parent*/, gint mode, const gchar* title, DLGPARM* parm) {
+  Calls.push_back(title + std::string(" ") + std::to_string(mode));
+  return parm->code;
 }
 gint EditPtrnData(GtkWidget* /*parent*/) {
   return Asked();
@@ -114,6 +109,15 @@ TEST_F(SeamTest, RenderingAndHitTestsStandBesideTheStandIns) {
   const POINT outside = {100, 100};
   EXPECT_EQ(SearchPtrnData(&outside, &item), 0);
   ExtPtrnData();
+}
+
+TEST_F(SeamTest, CommandsAskThroughTheOneCopyAndMoveDialog) {
+  DLGPARM parm = {1, 2, 3, 4};
+  EXPECT_EQ(Dlg_ToolCopy(nullptr, &parm), 4);
+  EXPECT_EQ(Dlg_AreaCopy(nullptr, &parm), 4);
+  EXPECT_EQ(Dlg_AreaMove(nullptr, &parm), 4);
+  EXPECT_EQ(Calls,
+            (std::vector<std::string>{"描画情報複写 0", "描画情報複写 0", "描画情報移動 1"}));
 }
 
 TEST_F(SeamTest, CommandsAndChecksRunWithoutAWindow) {
