@@ -4,11 +4,6 @@
 # program folder beside it; installed, it is /usr/bin/VarnixMaster and the folder is the user's.
 set -euo pipefail
 
-fail() {
-  printf 'VarnixMaster: %s\n' "$1" >&2
-  exit 1
-}
-
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 if [ -d "$here/lib/VarnixMaster" ]; then
   prefix=$here
@@ -23,9 +18,23 @@ else
 fi
 lib=$prefix/lib/VarnixMaster
 
-if ! "$lib/fill-program-folder.sh" "$folder" "$prefix/share/VarnixMaster" "$folder/.shipped"; then
-  [ -f "$folder/VarnixMaster.ini" ] || fail "作業フォルダーを準備できません: $folder"
-  printf 'VarnixMaster: %s\n' "作業フォルダーを更新できないまま起動します: $folder" >&2
+# In a window, too: nobody reads standard error of what a desktop's menu starts.
+tell() { # TEXT
+  printf 'VarnixMaster: %s: %s\n' "$1" "$folder" >&2
+  [ -z "$reason" ] || printf '%s\n' "$reason" >&2
+  local first=${reason#$'\n'}
+  if [ ! -t 2 ] && [ -n "${DISPLAY:-}" ]; then
+    "$lib/VarnixMaster" --tell "$1" "$folder"$'\n'"${first%%$'\n'*}" 2>/dev/null || true
+  fi
+}
+
+if ! reason=$("$lib/fill-program-folder.sh" "$folder" "$prefix/share/VarnixMaster" \
+  "$folder/.shipped" 2>&1); then
+  if [ ! -f "$folder/VarnixMaster.ini" ]; then
+    tell "作業フォルダーを準備できません"
+    exit 1
+  fi
+  tell "作業フォルダーを更新できないまま起動します"
 fi
 # The designer takes the folder that it is called from for its own.
 exec -a "$folder/VarnixMaster" "$lib/VarnixMaster" "$@"

@@ -119,19 +119,34 @@ expect "the user's layout is gone" [ "$(cat "$data/Sample/mine.ptn")" = mine ]
 expect "the user's change is gone" [ "$(cat "$data/Sample/PtrnText1")" = mine ]
 if grep -aqx next "$data/Sample/PtrnText2"; then fail "a changed sample was mixed"; fi
 
+# Waits for the launcher's message and confirms it.
+messages() { xdotool search --onlyvisible --name '^VarnixMaster$' 2>/dev/null || true; }
+confirm() {
+  until [ -n "$(messages)" ]; do sleep 0.05; done
+  xdotool windowactivate --sync "$(messages)" key Return
+  while [ -n "$(messages)" ]; do sleep 0.05; done
+}
+
 step "a damaged shipment starts what is there"
 cp "$shipped/files.tar.gz" "$work/whole.tar.gz"
 echo damaged >"$shipped/files.tar.gz"
 echo damaged >"$shipped/stamp"
 "$root/usr/bin/VarnixMaster" 2>"$work/log" &
 started+=($!)
+confirm
 close_all
 expect "no word of it" grep -q '更新できないまま' "$work/log"
 mv "$work/whole.tar.gz" "$shipped/files.tar.gz"
 
 step "a folder that cannot be made"
-if XDG_DATA_HOME=/dev/null/no "$root/usr/bin/VarnixMaster" 2>"$work/log"; then fail "it started"; fi
+without_folder() { XDG_DATA_HOME=/dev/null/no "$root/usr/bin/VarnixMaster" 2>"$work/log"; }
+if (unset DISPLAY && without_folder); then fail "it started"; fi
 expect "no word of it" grep -q '作業フォルダー' "$work/log"
+without_folder &
+launcher=$!
+confirm
+if wait "$launcher"; then fail "it started"; fi
+expect "no reason" grep -q 'mkdir' "$work/log"
 
 step "the portable archive, also moved"
 mkdir "$work/unpacked here"
