@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "support/BareMemory.h"
 
@@ -12,12 +13,31 @@ namespace {
 constexpr guint64 MaxPixels = guint64{1} << 29;
 constexpr guint32 Opaque = 0xff000000;
 
-guint32* TakePixels(guint64 count) {
-  try {
-    return static_cast<guint32*>(TakeBareMemory(count * sizeof(guint32)));
-  } catch (const std::bad_alloc&) {
-    return nullptr;
+// A view of the canvas is made anew for every expose: the memory of the last surface waits for the
+// next one, because memory that is fresh from the system costs more than painting on it.
+struct Pixels {
+  guint32* memory = nullptr;
+  guint64 count = 0;
+};
+Pixels Spare;
+constexpr guint64 MaxSpare = guint64{1} << 22;  // 16 MB
+
+Pixels TakePixels(guint64 count) {
+  if (Spare.count >= count && Spare.count / 2 <= count) {
+    return std::exchange(Spare, {});
   }
+  try {
+    return {static_cast<guint32*>(TakeBareMemory(count * sizeof(guint32))), count};
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
+}
+
+void GivePixels(Pixels pixels) {
+  if (pixels.count > Spare.count && pixels.count <= MaxSpare) {
+    std::swap(pixels, Spare);
+  }
+  GiveBareMemory(pixels.memory);
 }
 
 }  // namespace
@@ -35,7 +55,9 @@ Drawable::Drawable(gint width, gint height, gint x, gint y)
     : x_(x), y_(y), width_(std::max(width, 1)), height_(std::max(height, 1)) {
   const guint64 count = static_cast<guint64>(width_) * static_cast<guint64>(height_);
   if (count <= MaxPixels) {
-    pixels_ = TakePixels(count);
+    const Pixels pixels = TakePixels(count);
+    pixels_ = pixels.memory;
+    capacity_ = pixels.count;
   }
   if (pixels_ == nullptr) {
     width_ = height_ = 0;
@@ -50,8 +72,7 @@ Drawable::Drawable(Drawable& whole, const DrawnBox& part)
       y_(std::max(part.y1, whole.y_)),
       width_(std::min(part.x2, whole.x_ + whole.width_) - x_),
       height_(std::min(part.y2, whole.y_ + whole.height_) - y_),
-      stride_(whole.stride_),
-      owner_(false) {
+      stride_(whole.stride_) {
   if (width_ <= 0 || height_ <= 0) {
     width_ = height_ = 0;
     return;
@@ -66,8 +87,8 @@ Drawable::~Drawable() {
   if (cairo_ != nullptr) {
     cairo_surface_destroy(cairo_);
   }
-  if (owner_) {
-    GiveBareMemory(pixels_);
+  if (capacity_ != 0) {
+    GivePixels({pixels_, capacity_});
   }
 }
 

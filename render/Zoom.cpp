@@ -4,9 +4,6 @@
 
 namespace {
 
-// Rows scaled at a time: what passes from step to step stays in the processor's cache.
-constexpr gint64 BandRows = 96;
-
 guchar* RowOf(GdkPixbuf* pixbuf, gint64 row) {
   return gdk_pixbuf_get_pixels(pixbuf) + row * gdk_pixbuf_get_rowstride(pixbuf);
 }
@@ -44,31 +41,55 @@ void CopyPart(Drawable& target, const Drawable& picture, const PlaneBox& part) {
 
 // The scaler gets an image as large as the picture, so that it counts alike for every part, but
 // only the pixels that it reads are filled in: memory that is never touched is not taken.
-void ScalePart(Drawable& target, const Drawable& picture, const PlaneBox& part, gint width,
-               gint height) {
-  const PixbufPtr image = NewImage(picture.Width(), picture.Height());
-  const PixbufPtr scaled = NewImage(part.x2 - part.x1, std::min(BandRows, part.y2 - part.y1));
-  if (!image || !scaled) {
-    return;
+class ZoomScaler {
+ public:
+  ZoomScaler(Drawable& target, const Drawable& picture, const PlaneBox& part,
+             const Scaling& scaling)
+      : target_(target),
+        picture_(picture),
+        scaling_(scaling),
+        source_(SourceOf(part, scaling)),
+        image_(NewImage(picture.Width(), picture.Height())),
+        // Few rows, so that what passes from step to step stays in the processor's cache.
+        scaled_(NewImage(part.x2 - part.x1, std::min(MaxScaledRows, part.y2 - part.y1))) {}
+
+  bool Ready() const { return image_ && scaled_; }
+
+  bool FillPlain(const PlaneBox& cell, const PlaneBox& source) {
+    const guint32 colour = picture_.Row(static_cast<gint>(source.y1))[source.x1];
+    for (gint64 y = source.y1; y < source.y2; ++y) {
+      const guint32* row = picture_.Row(static_cast<gint>(y));
+      guint32 others = 0;
+      for (gint64 x = source.x1; x < source.x2; ++x) others |= row[x] ^ colour;
+      if (others != 0) {
+        return false;
+      }
+    }
+    FillBox(target_, cell, colour);
+    return true;
   }
-  const double scaleX = static_cast<double>(width) / picture.Width();
-  const double scaleY = static_cast<double>(height) / picture.Height();
-  const OffsetRange columns = SourceOf(part.x1, part.x2, scaleX);
-  gint64 filled = 0;
-  for (gint64 y = part.y1; y < part.y2; y += BandRows) {
-    const PlaneBox band{part.x1, y, part.x2, std::min(y + BandRows, part.y2)};
-    const OffsetRange rows = SourceOf(band.y1, band.y2, scaleY);
-    const PlaneBox source =
-        PlaneBox{columns.low, std::max(rows.low, filled), columns.high, rows.high}.Clip(
-            {0, 0, picture.Width(), picture.Height()});
-    CopyToImage(image.get(), picture, source);
-    filled = source.y2;
-    gdk_pixbuf_scale(image.get(), scaled.get(), 0, 0, static_cast<int>(band.x2 - band.x1),
-                     static_cast<int>(band.y2 - band.y1), -static_cast<double>(band.x1),
-                     -static_cast<double>(band.y1), scaleX, scaleY, GDK_INTERP_TILES);
-    CopyFromImage(target, scaled.get(), band);
+
+  // Called from top to bottom.
+  void Scale(const PlaneBox& box) {
+    const PlaneBox rows = SourceOf(box, scaling_);
+    const PlaneBox missing{source_.x1, std::max(rows.y1, filled_), source_.x2, rows.y2};
+    CopyToImage(image_.get(), picture_, missing);
+    filled_ = std::max(filled_, rows.y2);
+    gdk_pixbuf_scale(image_.get(), scaled_.get(), 0, 0, static_cast<int>(box.x2 - box.x1),
+                     static_cast<int>(box.y2 - box.y1), -static_cast<double>(box.x1),
+                     -static_cast<double>(box.y1), scaling_.x, scaling_.y, GDK_INTERP_TILES);
+    CopyFromImage(target_, scaled_.get(), box);
   }
-}
+
+ private:
+  Drawable& target_;
+  const Drawable& picture_;
+  Scaling scaling_;
+  PlaneBox source_;
+  PixbufPtr image_;
+  PixbufPtr scaled_;
+  gint64 filled_ = 0;  // rows of the image below this hold the picture, as far as they are needed
+};
 
 }  // namespace
 
@@ -95,6 +116,10 @@ void PaintZoomed(Drawable& target, const Drawable& picture, gint width, gint hei
   if (width == picture.Width() && height == picture.Height()) {
     CopyPart(target, picture, part);
   } else {
-    ScalePart(target, picture, part, width, height);
+    const Scaling scaling{picture.Width(), picture.Height(),
+                          static_cast<double>(width) / picture.Width(),
+                          static_cast<double>(height) / picture.Height()};
+    ZoomScaler scaler(target, picture, part, scaling);
+    if (scaler.Ready()) ScaleInCells(part, scaling, scaler);
   }
 }

@@ -59,8 +59,8 @@ class Drawable {
   gint y_;
   gint width_;
   gint height_;
-  gsize stride_ = 0;  // in pixels
-  bool owner_ = true;
+  gsize stride_ = 0;      // in pixels
+  guint64 capacity_ = 0;  // pixels of memory of its own
   DrawnBox* drawn_ = nullptr;
   guint32* pixels_ = nullptr;
   cairo_surface_t* cairo_ = nullptr;
