@@ -63,6 +63,17 @@ GtkWidget* NewReadOut() {
   return label;
 }
 
+// A label that changes has its whole window laid out anew. The read-outs change at every motion of
+// a drag, in a room that stays the same: the layout ends at a box of their own.
+GtkWidget* NewFixedRoom(GtkWidget* content) {
+  GtkWidget* room = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 0);
+  G_GNUC_BEGIN_IGNORE_DEPRECATIONS
+  gtk_container_set_resize_mode(GTK_CONTAINER(room), GTK_RESIZE_QUEUE);
+  G_GNUC_END_IGNORE_DEPRECATIONS
+  gtk_box_pack_start(GTK_BOX(room), content, TRUE, TRUE, 0);
+  return room;
+}
+
 // One page has a swatch in the same cell; the figures step aside for it.
 void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line, const gchar* name) {
   GtkWidget* shared = gtk_grid_get_child_at(GTK_GRID(table), 1, line);
@@ -71,14 +82,16 @@ void AddReadOut(GtkWidget* table, GtkWidget** slot, gint line, const gchar* name
   KeepWidget(slot, NewReadOut());
   SetAccessibleName(*slot, name);
   if (shared != nullptr) gtk_widget_set_margin_start(*slot, room.width + 8);
-  PlaceControl(table, *slot, line, 1, 2);
+  PlaceControl(table, NewFixedRoom(*slot), line, 1, 2);
 }
 
 void ShowPoint(GtkWidget* label, const POINT& point) {
   if (label == nullptr) return;
   gchar text[32];
-  g_snprintf(text, sizeof text, "%5d / %5d", point.x, point.y);
+  const gint length = g_snprintf(text, sizeof text, "%5d / %5d", point.x, point.y);
+  const bool otherRoom = length != static_cast<gint>(strlen(gtk_label_get_text(GTK_LABEL(label))));
   gtk_label_set_text(GTK_LABEL(label), text);
+  if (otherRoom) gtk_widget_queue_resize(gtk_widget_get_parent(gtk_widget_get_parent(label)));
 }
 
 }  // namespace

@@ -167,7 +167,10 @@ Lines ShownCells() {
   GList* children = gtk_container_get_children(GTK_CONTAINER(grid));
   for (GList* link = g_list_last(children); link != nullptr; link = link->prev) {
     auto* child = GTK_WIDGET(link->data);
-    if (child == ToolBox_Label1 || child == ToolBox_Label2) continue;
+    const auto holds = [&](GtkWidget* readOut) {
+      return readOut != nullptr && gtk_widget_is_ancestor(readOut, child);
+    };
+    if (holds(ToolBox_Label1) || holds(ToolBox_Label2)) continue;
     const CellPlace place = PlaceOf(grid, child);
     std::ostringstream line;
     line << place.Line << "/" << place.Culm1 << "-" << place.Culm2 << " " << Describe(child);
