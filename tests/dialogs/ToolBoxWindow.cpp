@@ -136,6 +136,26 @@ TEST_F(ToolBoxWindow, ReadOutsFollowThePoints) {
   EXPECT_EQ(LabelText(ToolBox_Label1), "    1 /     2");
 }
 
+TEST_F(ToolBoxWindow, MovingFiguresLeaveTheRestOfThePanelAsItIs) {
+  PtrnData.Point1 = {12, 345};
+  ASSERT_TRUE(Opens(2));
+  FinishFrame(ToolBox);
+  gint layouts = 0;
+  g_signal_connect(
+      gtk_widget_get_ancestor(ToolBox_Label1, GTK_TYPE_GRID), "size-allocate",
+      G_CALLBACK(+[](GtkWidget*, GdkRectangle*, gpointer count) { ++*static_cast<gint*>(count); }),
+      &layouts);
+  PtrnData.Point1 = {9999, -999};
+  SetToolBoxPoint();
+  FinishFrame(ToolBox);
+  EXPECT_EQ(layouts, 0);
+  EXPECT_EQ(LabelText(ToolBox_Label1), " 9999 /  -999");
+  // More figures than ever need other room.
+  PtrnData.Point1 = {-1234567, 7654321};
+  SetToolBoxPoint();
+  EXPECT_TRUE(WaitFor([&] { return layouts > 0; }));
+}
+
 TEST_F(ToolBoxWindow, OnlyTypesWithTwoPointsShowTheirEnd) {
   const std::string onePoint = ".....678.ab....";  // fixed, variable, numeric, radio, check
   for (gint type = 1; type <= LastType; type++) {
