@@ -268,6 +268,9 @@ TEST_F(Names, ThePickersOfTheToolBox) {
   In("画面名称選択", [&row] { ToolBox_Page(nullptr, &row); });
   In("識別コード選択", [&row] { ToolBox_Code(nullptr, &row); });
   In("固定文字列 (言語１) 選択", [&row] { ToolBox_Text1(nullptr, &row); });
+  In("固定文字列 (言語２) 選択", [&row] { ToolBox_Text2(nullptr, &row); });
+  In("固定文字列 (言語３) 選択", [&row] { ToolBox_Text3(nullptr, &row); });
+  In("画像ファイル選択", [&row] { ToolBox_Name(nullptr, &row); });
 }
 
 TEST_F(Names, TheColoursAndMarks) {
@@ -279,4 +282,5 @@ TEST_F(Names, TheColoursAndMarks) {
   In("表示色作成", [&colour] { MakeColrData(PtrnWnd, 0, &colour); });
   std::vector<MARKBOX> marks(MarkCount);
   In("マーク作成", [&marks] { MakeMarkData(PtrnWnd, 7, marks.data()); });
+  In("マーク選択", [&marks] { Dlg_MarkSearch(PtrnWnd, marks.data()); });
 }
