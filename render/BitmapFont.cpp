@@ -3,7 +3,10 @@
 #include <ft2build.h>
 #include <gio/gio.h>
 
+#include <algorithm>
+#include <cstring>
 #include <map>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -72,9 +75,46 @@ std::vector<GlyphRun> RunsOf(const FT_Bitmap& bitmap, int left, int top) {
   return runs;
 }
 
+// Whether a font file carries the metrics of its ink beside those of its cells, which are all
+// alike. Extents then count the ink.
+bool CountsInk(std::string_view content) {
+  constexpr std::string_view Signature = "\001fcp";
+  constexpr std::size_t FirstEntry = 8, EntrySize = 16;
+  constexpr guint32 InkMetrics = 1 << 4;
+  const auto number = [content](std::size_t at) {
+    guint32 value = 0;
+    if (at + sizeof value <= content.size()) std::memcpy(&value, content.data() + at, sizeof value);
+    return GUINT32_FROM_LE(value);
+  };
+  if (!content.starts_with(Signature)) return false;
+  const std::size_t count = std::min<std::size_t>(number(4), content.size() / EntrySize);
+  for (std::size_t entry = 0; entry < count; ++entry) {
+    if (number(FirstEntry + entry * EntrySize) == InkMetrics) return true;
+  }
+  return false;
+}
+
+// A blank has its place, but no width and no height.
+void MeasureInk(Glyph& glyph) {
+  if (glyph.runs.empty()) {
+    glyph.right = glyph.left;
+    glyph.ascent = glyph.descent = 0;
+    return;
+  }
+  glyph.left = G_MAXINT16;
+  glyph.right = G_MININT16;
+  for (const GlyphRun& run : glyph.runs) {
+    glyph.left = std::min<gint>(glyph.left, run.x);
+    glyph.right = std::max<gint>(glyph.right, run.x + run.length);
+  }
+  glyph.ascent = -glyph.runs.front().y;
+  glyph.descent = glyph.runs.back().y + 1;
+}
+
 class BitmapFont : public GlyphSource {
  public:
-  explicit BitmapFont(std::string content) : content_(std::move(content)), library_(Library()) {
+  explicit BitmapFont(std::string content)
+      : content_(std::move(content)), countsInk_(CountsInk(content_)), library_(Library()) {
     FT_New_Memory_Face(library_.get(), reinterpret_cast<const FT_Byte*>(content_.data()),
                        static_cast<FT_Long>(content_.size()), 0, &face_);
     if (Valid()) {
@@ -115,10 +155,14 @@ class BitmapFont : public GlyphSource {
     if (bitmap.pixel_mode == FT_PIXEL_MODE_MONO) {
       glyph.runs = RunsOf(bitmap, slot->bitmap_left, slot->bitmap_top);
     }
+    if (countsInk_) {
+      MeasureInk(glyph);
+    }
     return glyph;
   }
 
   std::string content_;
+  bool countsInk_;
   FontLibrary library_;
   FT_Face face_ = nullptr;
   std::unordered_map<guint, Glyph> glyphs_;

@@ -78,12 +78,14 @@ TEST_F(Items, FollowTheLanguage) {
   PTRNDATA item = TextItem(TypeFixedString, 0, 0, Font16, {}, "1");
   CopyText(item.Text2, "22");
   CopyText(item.Text3, "333");
-  const gint single = SizeOf(item).Width;
+  // "1" begins and ends in the 2nd and 4th column of its cell; "2" and "3" end in the 7th of 8, and
+  // "3" begins in the first.
+  EXPECT_EQ(SizeOf(item).Width, 1 + 4);
   Language = 1;
-  EXPECT_EQ(SizeOf(item).Width - single, 8);
+  EXPECT_EQ(SizeOf(item).Width, 1 + 15);
   for (const gint third : {2, 3, -1, 1000}) {
     Language = third;
-    EXPECT_EQ(SizeOf(item).Width - single, 16) << third;
+    EXPECT_EQ(SizeOf(item).Width, 0 + 23) << third;
   }
 }
 

@@ -118,7 +118,7 @@ TEST_F(ResourceFiles, FontsOfTheLanguageAreListed) {
   EXPECT_EQ(FontHeight[2], 0);
   EXPECT_EQ(FontHeight[19], 1234);
   EXPECT_EQ(FontNameList[19], FontList[19]);
-  EXPECT_EQ(GetTextSize(0, "A").cy, 16) << "the font is loaded";
+  EXPECT_EQ(GetTextSize(0, "A").cy, 13) << "the font is loaded";
   EXPECT_EQ(GetTextSize(2, "A").cy, 0) << "no name, no font";
 }
 
