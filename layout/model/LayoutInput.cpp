@@ -39,6 +39,10 @@ std::size_t FillField(gchar (&field)[Size], const char* from, std::size_t limit)
 // Copies the text at `from` into an empty field; where the next one begins.
 template <std::size_t Size>
 const char* TakeText(gchar (&field)[Size], const char* from, std::size_t limit) {
+  // Most are empty, and a foreseen branch need not wait for the length.
+  if (*from == '\0') {
+    return from + 1;
+  }
   const std::size_t length = FillField(field, from, limit);
   if (length <= limit) {
     return from + length + 1;
