@@ -233,6 +233,12 @@ TEST_F(Accessibility, OfThePickers) {
   OpenAndLeave("マーク", "マーク", "マーク選択");
 }
 
+TEST_F(Accessibility, OfTheOtherKindsOfLayout) {
+  OpenAndLeave(ProjectTitle, "子ウィンドウ", "レイアウト情報の設定［子ウィンドウ］");
+  OpenAndLeave(ProjectTitle, "その他", "レイアウト情報の設定［その他］");
+  EndsWell();
+}
+
 TEST_F(Accessibility, OfTheLayoutsDialogs) {
   KeepEmptyLayout();
   const std::string title = OpenFirstLayout();
