@@ -166,37 +166,35 @@ TEST(Kit, ASpinLeavesAValueOutOfItsRangeUntilItIsChanged) {
   EXPECT_EQ(EntryText(rows[0].spin), "99");
 }
 
-TEST(Kit, ASpinTakesATypedNumberThatItsRangeEndsWith) {
-  gint value = 0;
-  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};
+// What a spin button of a range stores and shows after a number was typed into it.
+struct TypedNumber {
+  gint Stored;
+  std::string Shown;
+};
+TypedNumber TypeIntoSpin(gint value, gint min, gint max, const gchar* text) {
+  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, max, min, &value, "", nullptr}, EndNumrBox};
   GridWindow form;
   Dlg_NumrBox(form.Window, form.Grid, rows);
-  EXPECT_EQ(EntryText(rows[0].spin), "0");
-  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), "10");
+  EXPECT_EQ(EntryText(rows[0].spin), std::to_string(value));
+  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), text);
   gtk_widget_activate(rows[0].spin);
-  EXPECT_EQ(value, 10);
-  EXPECT_EQ(EntryText(rows[0].spin), "10");
+  return {value, EntryText(rows[0].spin)};
+}
+
+TEST(Kit, ASpinTakesATypedNumberThatItsRangeEndsWith) {
+  const TypedNumber typed = TypeIntoSpin(0, 10, 9999, "10");
+  EXPECT_EQ(typed.Stored, 10);
+  EXPECT_EQ(typed.Shown, "10");
 }
 
 TEST(Kit, ASpinBringsATypedNumberIntoItsRange) {
-  gint value = 0;
-  DLG_NUMRBOX rows[] = {{0, 0, 0, 4, 9999, 10, &value, "", nullptr}, EndNumrBox};
-  GridWindow form;
-  Dlg_NumrBox(form.Window, form.Grid, rows);
-  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), "3");
-  gtk_widget_activate(rows[0].spin);
-  EXPECT_EQ(value, 10);
-  EXPECT_EQ(EntryText(rows[0].spin), "10");
+  const TypedNumber typed = TypeIntoSpin(0, 10, 9999, "3");
+  EXPECT_EQ(typed.Stored, 10);
+  EXPECT_EQ(typed.Shown, "10");
 }
 
 TEST(Kit, ASpinTakesATypedNumberWhenItIsLeft) {
-  gint value = 7;
-  DLG_NUMRBOX rows[] = {{0, 0, 0, 2, 99, 0, &value, "", nullptr}, EndNumrBox};
-  GridWindow form;
-  Dlg_NumrBox(form.Window, form.Grid, rows);
-  gtk_entry_set_text(GTK_ENTRY(rows[0].spin), "42");
-  gtk_widget_activate(rows[0].spin);
-  EXPECT_EQ(value, 42);
+  EXPECT_EQ(TypeIntoSpin(7, 0, 99, "42").Stored, 42);
 }
 
 TEST(Kit, ACaptionStandsLeftOfItsSpin) {
