@@ -19,6 +19,14 @@ void ReplaceAll(std::string& text, const std::string& what, const std::string& w
        at = text.find(what, at + with.size()))
     text.replace(at, what.size(), with);
 }
+
+// The window that gets the keys, "" while none does. The manager's word alone does not tell: it may
+// still name a window of a program that has ended, whose number the next program's window bears
+// before it is shown.
+std::string WindowWithKeyboard() {
+  const std::string active = XDoTool({"getactivewindow"});
+  return active == XDoTool({"getwindowfocus"}) ? active : "";
+}
 }  // namespace
 
 ProgramFolder::ProgramFolder() {
@@ -59,7 +67,7 @@ bool RunningProgram::Activate(const std::string& title) const {
     const std::string window = XDoTool({"search", "--all", "--onlyvisible", "--pid",
                                         std::to_string(pid_), "--name", "^" + title + "$"});
     if (window.empty()) return false;
-    if (XDoTool({"getactivewindow"}) == window) return true;
+    if (WindowWithKeyboard() == window) return true;
     XDoTool({"windowactivate", window});
     return false;
   });
@@ -95,7 +103,10 @@ std::string XDoTool(const std::vector<std::string>& arguments) {
 }
 
 bool WaitForTitle(const std::string& title) {
-  return WaitFor([&] { return XDoTool({"getactivewindow", "getwindowname"}) == title; });
+  return WaitFor([&] {
+    const std::string window = WindowWithKeyboard();
+    return !window.empty() && XDoTool({"getwindowname", window}) == title;
+  });
 }
 
 void PressKeys(const std::vector<std::string>& keys) {
