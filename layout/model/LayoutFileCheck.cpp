@@ -15,8 +15,7 @@ LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name) {
   }
   LayoutInput input(file);
   PTRNHEDR header;
-  const bool whole =
-      input.IsOpen() && input.ReadHeader(header) && header.DataCount >= 0 && input.HoldsTexts();
+  const bool whole = input.IsOpen() && input.ReadHeader(header) && input.HoldsTexts();
   return whole ? LayoutFileState::Whole : LayoutFileState::Broken;
 }
 

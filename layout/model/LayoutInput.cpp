@@ -81,11 +81,10 @@ bool LayoutInput::ReadHeader(PTRNHEDR& header) {
   constexpr gint64 start = sizeof(PTRNHEDR);
   constexpr gint64 record = sizeof(PTRNFILE);
   const gint64 wanted = read.DataCount;
-  const gint64 count = std::max<gint64>(wanted, 0);
-  const gint64 held = std::clamp<gint64>((size_ - start) / record, 0, count);
+  const gint64 held = std::clamp<gint64>((size_ - start) / record, 0, std::max<gint64>(wanted, 0));
   const gint64 textStart = start + record * held;
   recordsHeld_ = static_cast<gint>(held);
-  holdsTexts_ = held == count && read.TextSize >= 0 && read.TextSize <= size_ - textStart;
+  holdsTexts_ = held == wanted && read.TextSize >= 0 && read.TextSize <= size_ - textStart;
   records_.Begin(file_, start, record * held);
   texts_.Begin(file_, textStart, holdsTexts_ ? read.TextSize : 0);
   return true;

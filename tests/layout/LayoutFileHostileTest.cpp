@@ -66,7 +66,7 @@ TEST_F(LayoutFileHostileTest, CountsThatLie) {
       {G_MAXINT, G_MAXINT, 0, 2},
       {G_MAXINT, 27, 0, 2},
       {2, G_MAXINT, 0, 2},
-      {-1, 27, 1, 0},
+      {-1, 27, 0, 0},
       {G_MININT, -1, 0, 0},
       {2, -1, 0, 2},
       {2, G_MININT, 0, 2},
