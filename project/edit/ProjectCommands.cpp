@@ -48,9 +48,12 @@ bool LayoutReleased() {
 // Shows the settings until they are registered or cancelled; restoring the defaults reopens them,
 // and so does a layout that is to stay open.
 bool SettingsConfirmed() {
+  // The menu offers no settings while a layout is open; one that is goes with its project.
+  const bool openBefore = PtrnFlag != 0;
   SettingsShown = true;
   gint result = EditProjData(PtrnWnd, SettingsTitle);
-  while (result != SettingsCancelled && !(result == SettingsRegistered && LayoutReleased())) {
+  while (result != SettingsCancelled &&
+         !(result == SettingsRegistered && (openBefore || LayoutReleased()))) {
     result = EditProjData(PtrnWnd, SettingsTitle);
   }
   SettingsShown = false;
@@ -64,6 +67,7 @@ void ClearResources() {
 
 // The working copies become the project.
 void TakeSettings() {
+  PtrnFlag = 0;
   ProjData = EditData;
   CopyText(ProjName, FieldText(EditName));
   CopyText(ProjPath, FieldText(EditPath));
@@ -99,7 +103,6 @@ void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer d
     return;
   }
   ProjFlag = 1;
-  PtrnFlag = 0;
   TakeSettings();
   ProjFileWrite(ProjPath, ProjName);
   ProjFileCopy1(ProjPath);

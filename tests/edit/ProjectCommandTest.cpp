@@ -316,6 +316,18 @@ TEST_F(ProjectCommandTest, ALayoutThatIsToStayOpenReopensTheSettings) {
   PtrnFlag = 0;
 }
 
+TEST_F(ProjectCommandTest, ALayoutOpenBeforeTheSettingsGoesWithoutAQuestion) {
+  for (const auto command : {ProjDataNew, ProjDataEdit}) {
+    PtrnFlag = 2;
+    RegisterNewProject();
+    command(nullptr, nullptr);
+    EXPECT_EQ(PtrnFlag, 0);
+    EXPECT_STREQ(ProjName, "Fresh");
+    EXPECT_THAT(Screen.Take(),
+                ElementsAre(SettingsDialog, "SetMainMenu", "SetWindTitle [Fresh] []"));
+  }
+}
+
 TEST_F(ProjectCommandTest, APaletteSavedByItsEditorOutlivesCancelledSettings) {
   Screen.ProjectSettings = [] {
     ColrData[7] = {70, 80, 90};
