@@ -145,7 +145,7 @@ double Growth(gint64 from, gint64 to) {
 TEST_F(Soak, MemoryStaysAsItIsAfterTheFirstEdits) {
   constexpr double MostGrowth = 5;  // percent
   const gint edits = WantedEdits();
-  const gint warmUp = std::min(200, edits / 2);
+  const gint warmUp = std::min(UsualEdits, edits / 2);
   Play([&] {
     NewLayout(640, 480);
     Work(warmUp);

@@ -84,6 +84,7 @@ struct Spot {
   gint X = 0;
   gint Y = 0;
   bool Ready = false;
+  bool operator==(const Spot&) const = default;
 };
 
 Spot SpotOf(GtkWidget* widget, gint x, gint y) {
@@ -189,7 +190,9 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
     if (!spot.Ready) return false;
     const gint scale = gtk_widget_get_scale_factor(widget);
     Hands->MovePointer(spot.X * scale, spot.Y * scale);
-    return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget));
+    // A window that is just being framed moves down by its title while it comes under the pointer.
+    return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget)) &&
+           SpotOf(widget, x, y) == spot;
   });
   EXPECT_TRUE(there) << "another window lies over " << G_OBJECT_TYPE_NAME(widget);
   WhenIdle();
