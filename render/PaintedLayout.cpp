@@ -6,8 +6,11 @@
 
 #include "ProjData.h"
 #include "layout/EditState.h"
+#include "layout/Guards.h"
 #include "layout/Store.h"
+#include "render/Calendar.h"
 #include "render/Layout.h"
+#include "render/PageArea.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 
@@ -61,8 +64,19 @@ void PaintPart(Drawable& picture, const DrawnBox& box) {
 
 }  // namespace
 
-std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
-                                                  const std::string& look) const {
+PaintedLayout::Clock PaintedLayout::PresentClock(const Drawable& picture) {
+  Clock clock;
+  const gint format = CalendarFormat(PtrnHedr.Parm1[HedrSlot::DateFormat]);
+  if (format == 0 || PageArea().TitleHeight <= 0) return clock;
+  clock.Text = CalendarText(format, PictureTime());
+  Drawable probe(picture.Width(), picture.Height(), &clock.Box);
+  DrawGc gc;
+  DrawPageData2(&probe, &gc);
+  return clock;
+}
+
+std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture, const std::string& look,
+                                                  const Clock& clock) const {
   std::vector<DrawnBox> whole{{0, 0, picture.Width(), picture.Height()}};
   if (!painted_ || look != look_) {
     return whole;
@@ -97,17 +111,24 @@ std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture,
     oldBox.Add(newBox);
     newBox = {};
   }
-  std::vector<DrawnBox> boxes{oldBox, newBox};
+  // With the time gone on, a part of the clock alone would show two times at once.
+  DrawnBox clockBox;
+  if (clock.Text != clock_.Text) {
+    clockBox = clock_.Box;
+    clockBox.Add(clock.Box);
+  }
+  std::vector<DrawnBox> boxes{oldBox, newBox, clockBox};
   std::erase_if(boxes, [](const DrawnBox& box) { return box.Empty(); });
   return boxes;
 }
 
-void PaintedLayout::Remember(std::string look) {
+void PaintedLayout::Remember(std::string look, Clock clock) {
   painted_ = false;
   try {
     items_.clear();
     for (gint no = 0; no < GetPtrnCount(); ++no) items_.push_back(*ViewPtrnData(no));
     look_ = std::move(look);
+    clock_ = std::move(clock);
     painted_ = true;
   } catch (const std::bad_alloc&) {
     items_.clear();
@@ -116,8 +137,9 @@ void PaintedLayout::Remember(std::string look) {
 
 std::vector<DrawnBox> PaintedLayout::Paint(Drawable& picture) {
   std::string look = PresentLook();
-  std::vector<DrawnBox> boxes = ChangedBoxes(picture, look);
+  Clock clock = PresentClock(picture);
+  std::vector<DrawnBox> boxes = ChangedBoxes(picture, look, clock);
   for (const DrawnBox& box : boxes) PaintPart(picture, box);
-  Remember(std::move(look));
+  Remember(std::move(look), std::move(clock));
   return boxes;
 }

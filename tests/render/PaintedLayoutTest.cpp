@@ -150,6 +150,42 @@ TEST_F(PaintedLayouts, MeasureAnItemThatShowsNothing) {
   EXPECT_EQ(+item.Size.cy, 0);
 }
 
+// An item over the clock is painted with the time of its change; the rest of the clock must not
+// stay behind.
+TEST_F(PaintedLayouts, FollowTheClockWithAChangedItem) {
+  SetTitleArea(24, "配水池");
+  PtrnHedr.Parm1[HedrSlot::DateFormat] = 3;
+  std::tm time{};
+  time.tm_year = 126;
+  SetPictureTime(&time);
+  painted_.Paint(picture_);
+  for (const gint x : {20, Width - 90, Width - 40}) {
+    time.tm_hour = (time.tm_hour + 11) % 24;
+    time.tm_min = (time.tm_min + 23) % 60;
+    SetPictureTime(&time);
+    const PTRNDATA item = FrameItem(x, 4, x + 30, 60, 1);
+    SetPtrnData(3, &item);
+    EXPECT_FALSE(PaintsTheWhole()) << x;
+    ExpectUpToDate("item at " + std::to_string(x));
+  }
+}
+
+TEST_F(PaintedLayouts, LeaveTheClockAloneWhileItShowsTheSame) {
+  IntPtrnData();
+  SetTitleArea(24, "配水池");
+  PtrnHedr.Parm1[HedrSlot::DateFormat] = 2;
+  std::tm time{};
+  SetPictureTime(&time);
+  PTRNDATA item = FrameItem(10, 40, 50, 60, 2);
+  AddPtrnData(&item);
+  painted_.Paint(picture_);
+  time.tm_sec = 59;
+  SetPictureTime(&time);
+  item = FrameItem(200, 100, 230, 150, 2);
+  SetPtrnData(0, &item);
+  EXPECT_EQ(painted_.Paint(picture_).size(), 2u);
+}
+
 TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
   EXPECT_TRUE(PaintsTheWhole());
 }
