@@ -25,7 +25,7 @@ PROJDATA CleanTexts(PROJDATA data) {
 
 template <std::size_t Size>
 void ClearUnlessLayout(gchar (&layout)[Size], const gchar* path) {
-  if (IsMissing(JoinPath(path, layout, "ptn"))) {
+  if (IsMissing(JoinPath(path, FieldText(layout), "ptn"))) {
     std::memset(layout, 0, Size);
   }
 }

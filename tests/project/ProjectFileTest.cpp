@@ -75,6 +75,13 @@ TEST_F(ProjectFileTest, TextsWithoutTerminatorEndWithTheirFields) {
   EXPECT_EQ(ProjData.PtrnStop, std::string(81, 'x'));
 }
 
+TEST_F(ProjectFileTest, ARecordWithoutTerminatorsIsNotReadPastItsEnd) {
+  std::memset(&ProjData, 'x', sizeof ProjData);
+  ASSERT_EQ(Write(), 1);
+  EXPECT_STREQ(ProjData.PtrnStart, "");
+  EXPECT_STREQ(ProjData.PtrnStop, "");
+}
+
 TEST_F(ProjectFileTest, ReadingRecordsTheProject) {
   ASSERT_EQ(Read(WholeFile()), 1);
   EXPECT_EQ(Profile(), "[PROJNAME]\nPROJNAME0=Plant," + ProjectFolder() +
