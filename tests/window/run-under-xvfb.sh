@@ -37,8 +37,9 @@ until_true() {
   done
 }
 
-# The server itself takes the next free number, so displays that start at once do not meet.
-Xvfb -displayfd 3 -screen 0 "${VARNIX_SCREEN:-1600x1200}x24" -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
+# The server itself takes the next free number, so displays that start at once do not meet. It repeats
+# no key: where the machine is busy, a key pressed and let go would count as held down.
+Xvfb -r -displayfd 3 -screen 0 "${VARNIX_SCREEN:-1600x1200}x24" -nolisten tcp -noreset 3>"$work/display" >"$work/log" 2>&1 &
 started+=($!)
 until_true $! grep -q . "$work/display"
 DISPLAY=:$(cat "$work/display")
