@@ -21,7 +21,7 @@ class Closing : public RoadTest {
 
 // The window manager's key for closing the window that has the keyboard.
 void CloseByManager() {
-  PressKey(GDK_KEY_F4, {GDK_KEY_Alt_L});
+  PressManagersKey(GDK_KEY_F4, {GDK_KEY_Alt_L});
 }
 
 TEST_F(Closing, AnOpenToolBoxKeepsTheMainWindow) {

@@ -21,12 +21,15 @@ std::unique_ptr<Seat> Hands;
 // Presses of buttons that have reached the program. The window manager looks at a press first and
 // hands it on late; a release then comes straight, but not to a window that its press has closed.
 gint Presses;
+// Presses of keys that have reached the program.
+gsize KeyPresses;
 
 // Where the latest pointer motion that has reached the program led, on the screen.
 POINT MovedTo{-1, -1};
 
 void NoteEvent(GdkEvent* event, gpointer) {
   if (event->type == GDK_BUTTON_PRESS) Presses++;
+  if (event->type == GDK_KEY_PRESS) KeyPresses++;
   if (event->type == GDK_MOTION_NOTIFY)
     MovedTo = {static_cast<gint>(event->motion.x_root), static_cast<gint>(event->motion.y_root)};
   gtk_main_do_event(event);
@@ -114,6 +117,14 @@ bool KeyboardIsHere() {
                     }) != nullptr;
   g_list_free(windows);
   return here;
+}
+
+void StrikeKey(guint key, std::initializer_list<guint> held) {
+  EXPECT_TRUE(See(KeyboardIsHere)) << "another program has the keyboard";
+  for (const guint modifier : held) Hands->SendKey(modifier, true);
+  Hands->SendKey(key, true);
+  Hands->SendKey(key, false);
+  for (const guint modifier : held) Hands->SendKey(modifier, false);
 }
 
 void CloseAllButTheMainWindow() {
@@ -289,11 +300,14 @@ void DragByTitle(GtkWidget* window, gint x, gint y) {
 }
 
 void PressKey(guint key, std::initializer_list<guint> held) {
-  EXPECT_TRUE(See(KeyboardIsHere)) << "another program has the keyboard";
-  for (const guint modifier : held) Hands->SendKey(modifier, true);
-  Hands->SendKey(key, true);
-  Hands->SendKey(key, false);
-  for (const guint modifier : held) Hands->SendKey(modifier, false);
+  const gsize wanted = Look([] { return KeyPresses; }) + held.size() + 1;
+  StrikeKey(key, held);
+  EXPECT_TRUE(See([wanted] { return KeyPresses >= wanted; })) << "no key was pressed";
+  WhenIdle();
+}
+
+void PressManagersKey(guint key, std::initializer_list<guint> held) {
+  StrikeKey(key, held);
   WhenIdle();
 }
 

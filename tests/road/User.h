@@ -57,7 +57,9 @@ void PointBy(gint x, gint y);
 // come along. Close to an edge of another window or of the screen the window manager holds it.
 void DragByTitle(GtkWidget* window, gint x, gint y);
 
-// Presses and releases a key while others are held.
+// Presses and releases a key while others are held; returns when the program has had it.
 void PressKey(guint key, std::initializer_list<guint> held = {});
+// Presses a key that the window manager keeps for itself.
+void PressManagersKey(guint key, std::initializer_list<guint> held);
 // Types characters that the keyboard has.
 void TypeText(const std::string& text);
