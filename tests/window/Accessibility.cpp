@@ -233,6 +233,29 @@ TEST_F(Accessibility, OfThePickers) {
   OpenAndLeave("マーク", "マーク", "マーク選択");
 }
 
+// Each language adds a title to the settings and a text to four of the panels. The button beside
+// the texts serves the first one in all languages.
+TEST_F(Accessibility, OfTheFurtherLanguages) {
+  KeepEmptyLayout();
+  const std::string title = OpenFirstLayout();
+  const std::string texts = "固定文字列";
+  constexpr const char* Figures[] = {"２", "３"};
+  for (gint further = 0; further < 2; further++) {
+    const std::string figure = Figures[further];
+    PressKeys({"ctrl+F" + std::to_string(further + 2)});
+    ASSERT_TRUE(WaitForTitle(title));
+    EXPECT_THAT(NamesIn(ReadDialog("ctrl+i", "レイアウト情報の設定［親ウィンドウ］", title)),
+                Contains("タイトル" + figure));
+    for (const gint type : {8, 9, 10}) {
+      OpenPanel(type);
+      EXPECT_THAT(NamesIn(Read(PtrnTypeList[type])), Contains("ボタンの文字" + figure)) << type;
+    }
+    OpenPanel(5);
+    EXPECT_THAT(NamesIn(Read(texts)), Contains("フォント" + figure));
+    OpenAndLeave(texts, "文字列 参照", "固定文字列 (言語１) 選択");
+  }
+}
+
 TEST_F(Accessibility, OfTheOtherKindsOfLayout) {
   OpenAndLeave(ProjectTitle, "子ウィンドウ", "レイアウト情報の設定［子ウィンドウ］");
   OpenAndLeave(ProjectTitle, "その他", "レイアウト情報の設定［その他］");
