@@ -1,7 +1,6 @@
 #include "BitmapFont.h"
 
 #include <ft2build.h>
-#include <gio/gio.h>
 
 #include <algorithm>
 #include <cstring>
@@ -12,10 +11,14 @@
 
 #include "support/FileTools.h"
 #include FT_FREETYPE_H
+#include FT_GZIP_H
+#include FT_SYSTEM_H
 
 namespace {
 
 constexpr std::size_t MaxFontBytes = std::size_t{64} << 20;
+// No packing of this kind makes a file smaller than by this factor.
+constexpr std::size_t MostPacking = 1032;
 
 using FontLibrary = std::shared_ptr<FT_LibraryRec_>;
 
@@ -32,27 +35,29 @@ FontLibrary Library() {
   return library;
 }
 
-// Unpacked at once: FreeType would unpack from the start again for each step back in the file.
+// Unpacked at once: FreeType would unpack from the start again for each step back in the file. The
+// last four bytes tell the size.
 std::string Unpacked(const std::string& packed) {
-  const std::unique_ptr<GConverter, decltype(&g_object_unref)> unzip(
-      G_CONVERTER(g_zlib_decompressor_new(G_ZLIB_COMPRESSOR_FORMAT_GZIP)), g_object_unref);
-  std::string plain;
-  std::vector<char> piece(std::size_t{1} << 18);
-  for (std::size_t used = 0; plain.size() < MaxFontBytes;) {
-    gsize read = 0, written = 0;
-    const GConverterResult result =
-        g_converter_convert(unzip.get(), packed.data() + used, packed.size() - used, piece.data(),
-                            piece.size(), G_CONVERTER_INPUT_AT_END, &read, &written, nullptr);
-    if (result == G_CONVERTER_ERROR) {
-      return {};
-    }
-    used += read;
-    plain.append(piece.data(), written);
-    if (result == G_CONVERTER_FINISHED) {
-      return plain;
-    }
+  guint32 size = 0;
+  if (packed.size() < sizeof size) {
+    return {};
   }
-  return {};
+  std::memcpy(&size, packed.data() + packed.size() - sizeof size, sizeof size);
+  size = GUINT32_FROM_LE(size);
+  if (size > MaxFontBytes || size / MostPacking > packed.size()) {
+    return {};
+  }
+  FT_MemoryRec_ memory{
+      nullptr, [](FT_Memory, long bytes) { return g_try_malloc(bytes); },
+      [](FT_Memory, void* block) { g_free(block); },
+      [](FT_Memory, long, long bytes, void* block) { return g_try_realloc(block, bytes); }};
+  std::string plain(size, '\0');
+  FT_ULong written = size;
+  const FT_Error error = FT_Gzip_Uncompress(
+      &memory, reinterpret_cast<FT_Byte*>(plain.data()), &written,
+      reinterpret_cast<const FT_Byte*>(packed.data()), static_cast<FT_ULong>(packed.size()));
+  plain.resize(error == 0 ? written : 0);
+  return plain;
 }
 
 std::vector<GlyphRun> RunsOf(const FT_Bitmap& bitmap, int left, int top) {
