@@ -131,7 +131,7 @@ TEST_F(KeyboardReach, TheSettingsOfALayout) {
   });
 }
 
-// In every field but on a button, Return is the button that registers.
+// In a field, Return is the button that registers and Escape the one that cancels.
 TEST_F(KeyboardReach, TheSettingsOfTheProject) {
   PlayWithKeys([] {
     const auto enterHeight = [] {
