@@ -12,8 +12,7 @@ class JapaneseText : public RoadTest {
       ClickCanvas(100, 100);
       GtkWidget* entry = Panel("固定文字列").Control({"文字列"}, GTK_TYPE_ENTRY);
       PointAt(entry, 12, 12);
-      ButtonDown(LeftButton);
-      ButtonUp(LeftButton);
+      ClickHere(LeftButton);
       ASSERT_TRUE(See([&] { return gtk_widget_has_focus(entry) != FALSE; }));
       part(entry);
     });

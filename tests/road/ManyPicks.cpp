@@ -10,8 +10,7 @@ void PickInTurn(gint times) {
     const gint item = i % 2;
     // Lets the other item go, then picks this one.
     ClickCanvas(40 + 100 * item, 60);
-    ButtonDown(LeftButton);
-    ButtonUp(LeftButton);
+    ClickHere(LeftButton);
     ASSERT_TRUE(See([item] { return PtrnMode == ModeSelected && PtrnNo == item; })) << i;
   }
 }

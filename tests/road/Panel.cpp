@@ -72,8 +72,7 @@ void ClickInto(GtkWidget* entry) {
   ASSERT_NE(entry, nullptr) << "no entry";
   constexpr gint InText = 12;
   PointAt(entry, InText, InText);
-  ButtonDown(LeftButton);
-  ButtonUp(LeftButton);
+  ClickHere(LeftButton);
   EXPECT_TRUE(See([&] { return gtk_widget_has_focus(entry) != FALSE; }));
   PressKey(GDK_KEY_a, {GDK_KEY_Control_L});
 }
@@ -223,8 +222,7 @@ void ClickRow(GtkWidget* window, const std::string& text) {
   Settle();  // the list may have scrolled
   const Row row = Look([&] { return FindRow(window, text); });
   PointAt(row.View, row.Area.x + 10, row.Area.y + row.Area.height / 2);
-  ButtonDown(LeftButton);
-  ButtonUp(LeftButton);
+  ClickHere(LeftButton);
 }
 
 void ChooseMenu(GtkWidget* menu, const Path& path) {
@@ -233,7 +231,14 @@ void ChooseMenu(GtkWidget* menu, const Path& path) {
     ASSERT_NE(entry, nullptr) << "no entry \"" << label << "\"";
     ASSERT_TRUE(See([&] { return gtk_widget_get_mapped(entry) != FALSE; })) << label;
     ASSERT_TRUE(Look([&] { return gtk_widget_is_sensitive(entry) != FALSE; })) << label;
-    Click(entry);
     menu = Look([&] { return gtk_menu_item_get_submenu(GTK_MENU_ITEM(entry)); });
+    const bool inMenu = Look([&] { return GTK_IS_MENU(gtk_widget_get_parent(entry)); });
+    if (menu == nullptr || !inMenu) {
+      Click(entry);
+    } else {
+      // It opens by itself; GTK leaks what it notes for that when a click comes first.
+      PointAt(entry);
+      ASSERT_TRUE(See([&] { return gtk_widget_get_mapped(menu) != FALSE; })) << label;
+    }
   }
 }

@@ -80,8 +80,7 @@ TEST_F(RightButtonMenus, ANumberJustTypedIsRegistered) {
     const Panel panel("矩形");
     GtkWidget* spin = panel.Control({"線幅"}, GTK_TYPE_SPIN_BUTTON);
     PointAt(spin, 12, 12);
-    ButtonDown(LeftButton);
-    ButtonUp(LeftButton);
+    ClickHere(LeftButton);
     EXPECT_TRUE(See([&] { return gtk_widget_has_focus(spin) != FALSE; }));
     PressKey(GDK_KEY_a, {GDK_KEY_Control_L});
     TypeText("7");

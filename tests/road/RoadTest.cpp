@@ -50,8 +50,7 @@ void DragOnCanvas(gint x1, gint y1, gint x2, gint y2) {
 
 void ClickCanvas(gint x, gint y, Button button) {
   PointAt(PtrnDraw, x, y);
-  ButtonDown(button);
-  ButtonUp(button);
+  ClickHere(button);
 }
 
 void SaveByKey() {

@@ -27,6 +27,12 @@ void Seat::SendButton(guint button, bool press) {
   XSync(display_, False);
 }
 
+void Seat::SendClick(guint button) {
+  XTestFakeButtonEvent(display_, button, True, CurrentTime);
+  XTestFakeButtonEvent(display_, button, False, CurrentTime);
+  XSync(display_, False);
+}
+
 void Seat::SendKey(guint key, bool press) {
   XTestFakeKeyEvent(display_, XKeysymToKeycode(display_, key), press ? True : False, CurrentTime);
   XSync(display_, False);

@@ -18,6 +18,8 @@ class Seat {
   void MovePointer(gint x, gint y);
   void MovePointerBy(gint x, gint y);
   void SendButton(guint button, bool press);
+  // Both at the same moment, however late they are handled.
+  void SendClick(guint button);
   void SendKey(guint key, bool press);
   // Whether no program holds the pointer for itself, as a window manager does during a drag.
   bool PointerIsFree();

@@ -10,7 +10,7 @@
 #include "window/Widgets.h"
 
 namespace {
-constexpr auto Patience = std::chrono::seconds(10);
+constexpr auto Patience = std::chrono::seconds(30);
 // Once something went wrong, what follows from it is not waited for: a part of many steps would
 // take minutes to fail.
 constexpr auto PatienceAfterFailure = std::chrono::milliseconds(100);
@@ -80,6 +80,13 @@ void Frame(GtkWidget* window) {
     return true;
   });
   if (waiting) wait->Done.get_future().wait_for(Patience);
+}
+
+void ExpectPress(const std::function<void()>& press) {
+  const gint before = Look([] { return Presses; });
+  press();
+  EXPECT_TRUE(See([before] { return Presses > before; })) << "nothing was pressed";
+  WhenIdle();
 }
 
 // What lies where on the screen.
@@ -234,10 +241,7 @@ void PointAt(GtkWidget* widget) {
 }
 
 void ButtonDown(Button button) {
-  const gint before = Look([] { return Presses; });
-  Hands->SendButton(button, true);
-  EXPECT_TRUE(See([before] { return Presses > before; })) << "nothing was pressed";
-  WhenIdle();
+  ExpectPress([button] { Hands->SendButton(button, true); });
 }
 
 void ButtonUp(Button button) {
@@ -247,8 +251,11 @@ void ButtonUp(Button button) {
 
 void Click(GtkWidget* widget, Button button) {
   PointAt(widget);
-  ButtonDown(button);
-  ButtonUp(button);
+  ClickHere(button);
+}
+
+void ClickHere(Button button) {
+  ExpectPress([button] { Hands->SendClick(button); });
 }
 
 void PointBy(gint x, gint y) {

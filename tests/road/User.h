@@ -27,7 +27,7 @@ auto Look(Function look) -> std::invoke_result_t<Function> {
   return task->get_future().get();
 }
 
-// Waits until the condition holds in the main loop. False after ten seconds without it.
+// Waits until the condition holds in the main loop. False after half a minute without it.
 bool See(const std::function<bool()>& condition);
 // Waits for a shown window with this title; null = none came.
 GtkWidget* SeeWindow(const std::string& title);
@@ -50,6 +50,9 @@ void DragTo(GtkWidget* widget, gint x, gint y);
 void ButtonDown(Button button);
 void ButtonUp(Button button);
 void Click(GtkWidget* widget, Button button = LeftButton);
+// Presses and releases where the pointer is, at once: GTK closes a menu again whose press was held
+// for half a second.
+void ClickHere(Button button);
 // Moves the pointer by so many dots on the screen, whatever lies there.
 void PointBy(gint x, gint y);
 

@@ -7,7 +7,7 @@
 #include "layout/Screen.h"
 
 namespace {
-constexpr gint64 Patience = 10 * G_USEC_PER_SEC;
+constexpr gint64 Patience = 30 * G_USEC_PER_SEC;
 constexpr guint LookInterval = 10;  // milliseconds
 
 gboolean Wake(gpointer) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-// Runs the main loop until `reached` holds. False after ten seconds without it.
+// Runs the main loop until `reached` holds. False after half a minute without it.
 bool WaitFor(const std::function<bool()>& reached);
 // Runs the main loop until the widget's window has painted what is queued.
 void FinishFrame(GtkWidget* widget);
@@ -28,8 +28,8 @@ GtkWidget* MenuEntry(GtkWidget* menu, std::initializer_list<std::string> path);
 GtkWidget* MenuBar();
 
 // Answers a modal dialog: once a window with this title is shown, runs `act` on it. When none
-// comes within ten seconds, or `act` leaves it open, every other window but the main one is closed
-// and the test fails.
+// comes within half a minute, or `act` leaves it open, every other window but the main one is
+// closed and the test fails.
 class DialogAnswer {
  public:
   DialogAnswer(std::string title, std::function<void(GtkWidget*)> act);
