@@ -60,14 +60,14 @@ void MovePointer(gint x, gint y) {
   XDoTool({"mousemove", "--sync", std::to_string(x), std::to_string(y)});
 }
 
-// Opens a pop-up menu at the pointer and chooses its entry number `entry`, counted from 1 for the
-// last one. On the way from the first one lies a submenu, and GTK leaks what it notes for opening
-// one when the next key comes before it has opened.
-void ChooseFromPopUp(gint entry) {
+// Opens a pop-up menu at the pointer and chooses the entry that so many presses of "Down" or "Up"
+// lead to from none. The way must not pass a submenu: GTK leaks what it notes for opening one when
+// the next key comes before it has opened.
+void ChooseFromPopUp(const std::string& key, std::size_t presses) {
   const int before = ShownPopUps();
   XDoTool({"click", "3"});
   ASSERT_TRUE(WaitFor([&] { return ShownPopUps() > before; }));
-  PressKeys(std::vector<std::string>(static_cast<std::size_t>(entry), "Up"));
+  PressKeys(std::vector<std::string>(presses, key));
   PressKeys({"Return"});
 }
 
@@ -183,8 +183,8 @@ TEST_F(RealProgram, DrawsRegistersAndSavesAnItem) {
   }));
 
   MovePointer(origin->x + 40, origin->y + 60);
-  constexpr gint RectangleEntry = 13;
-  ChooseFromPopUp(RectangleEntry);
+  constexpr std::size_t RectangleFromEnd = 13;
+  ChooseFromPopUp("Up", RectangleFromEnd);
   ASSERT_TRUE(WaitFor([] {
     return !XDoTool({"search", "--onlyvisible", "--name", "^矩形$"}).empty();
   }));
@@ -192,8 +192,8 @@ TEST_F(RealProgram, DrawsRegistersAndSavesAnItem) {
   MovePointer(origin->x + 180, origin->y + 130);
   MovePointer(origin->x + 240, origin->y + 200);
   XDoTool({"mouseup", "1"});
-  constexpr gint RegisterEntry = 5;
-  ChooseFromPopUp(RegisterEntry);
+  constexpr std::size_t RegisterFromStart = 1;
+  ChooseFromPopUp("Down", RegisterFromStart);
   // The tool box takes the keyboard from nobody.
   ASSERT_TRUE(WaitForTitle(title));
   PressKeys({"ctrl+s", "ctrl+q"});
