@@ -29,17 +29,31 @@ start() { # LAUNCHER
   started+=($!)
 }
 windows() { xdotool search --onlyvisible --name "$title" 2>/dev/null || true; }
+has_keyboard() { # LIST
+  local active
+  active=$(xdotool getactivewindow 2>/dev/null) && [ "$active" = "$(xdotool getwindowfocus 2>/dev/null)" ] &&
+    "$1" | grep -qx "$active"
+}
+# Presses the key in whichever of the listed windows has the keyboard and waits until one is gone.
+press_away() { # KEY LIST
+  local key=$1 list=$2 count
+  count=$("$list" | wc -l)
+  until has_keyboard "$list"; do
+    xdotool windowactivate "$("$list" | head -n 1)" 2>/dev/null || true
+    sleep 0.05
+  done
+  xdotool key "$key"
+  until [ "$("$list" | wc -l)" -lt "$count" ]; do sleep 0.05; done
+}
 # Waits until every started program shows its window, closes them all by the menu key and takes their
 # exit codes.
 close_all() {
-  local pid window
+  local pid
   until [ "$(windows | wc -l)" -eq ${#started[@]} ]; do
     for pid in "${started[@]}"; do kill -0 "$pid" 2>/dev/null || fail "the program ended"; done
     sleep 0.05
   done
-  for window in $(windows); do
-    xdotool windowactivate --sync "$window" key ctrl+q 2>/dev/null
-  done
+  while [ -n "$(windows)" ]; do press_away ctrl+q windows; done
   for pid in "${started[@]}"; do wait "$pid" || fail "the program ended with $?"; done
   started=()
   [ ! -s "$work/complaints" ] || fail "the program complained"
@@ -123,8 +137,7 @@ if grep -aqx next "$data/Sample/PtrnText2"; then fail "a changed sample was mixe
 messages() { xdotool search --onlyvisible --name '^VarnixMaster$' 2>/dev/null || true; }
 confirm() {
   until [ -n "$(messages)" ]; do sleep 0.05; done
-  xdotool windowactivate --sync "$(messages)" key Return
-  while [ -n "$(messages)" ]; do sleep 0.05; done
+  press_away Return messages
 }
 
 step "a damaged shipment starts what is there"
