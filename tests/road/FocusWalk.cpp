@@ -315,7 +315,17 @@ GtkWidget* OpenMenu(GtkWidget* window, guint letter, const std::string& label) {
   GtkWidget* menu =
       Look([&] { return gtk_menu_item_get_submenu(GTK_MENU_ITEM(MenuEntry(MenuBar(), {label}))); });
   EXPECT_TRUE(See([menu] { return gtk_widget_get_mapped(menu) != FALSE; })) << label;
+  LetSubmenuOpen(menu);
   return menu;
+}
+
+void LetSubmenuOpen(GtkWidget* menu) {
+  EXPECT_TRUE(See([menu] {
+    GtkWidget* chosen = gtk_menu_shell_get_selected_item(GTK_MENU_SHELL(menu));
+    GtkWidget* deeper =
+        chosen != nullptr ? gtk_menu_item_get_submenu(GTK_MENU_ITEM(chosen)) : nullptr;
+    return deeper == nullptr || gtk_widget_get_mapped(deeper) != FALSE;
+  })) << "a submenu does not open";
 }
 
 void ChooseByKeys(GtkWidget* menu, const Path& path) {
@@ -324,12 +334,14 @@ void ChooseByKeys(GtkWidget* menu, const Path& path) {
     const auto selected = [&] {
       return gtk_menu_shell_get_selected_item(GTK_MENU_SHELL(menu)) == entry;
     };
-    for (gsize i = 0; i < TooMany && !Look(selected); i++) PressKey(GDK_KEY_Down);
+    for (gsize i = 0; i < TooMany && !Look(selected); i++) {
+      PressKey(GDK_KEY_Down);
+      LetSubmenuOpen(menu);
+    }
     EXPECT_TRUE(Look(selected)) << "no way to \"" << label << "\"";
     GtkWidget* deeper = Look([&] { return gtk_menu_item_get_submenu(GTK_MENU_ITEM(entry)); });
     PressKey(deeper != nullptr ? GDK_KEY_Right : GDK_KEY_Return);
     if (deeper == nullptr) return;
-    EXPECT_TRUE(See([deeper] { return gtk_widget_get_mapped(deeper) != FALSE; })) << label;
     menu = deeper;
   }
 }

@@ -17,6 +17,9 @@ GtkWidget* TabTo(GtkWidget* window, const std::string& name);
 void GoToRow(GtkWidget* window, const std::string& text);
 // Opens one of the main menus with Alt and its letter, pressed in any window of the program.
 GtkWidget* OpenMenu(GtkWidget* window, guint letter, const std::string& label);
+// Waits until the submenu of the entry that the keys have come to, if it has one, has opened by
+// itself: GTK leaks what it notes for that when the next key comes first.
+void LetSubmenuOpen(GtkWidget* menu);
 // Chooses an entry of an open menu, through all its submenus.
 void ChooseByKeys(GtkWidget* menu, const Path& path);
 

@@ -85,6 +85,7 @@ TEST_F(KeyboardReach, EachMenuOpensByItsLetter) {
       // The arrows lead to the menus beside it.
       PressKey(GDK_KEY_Left);
       EXPECT_TRUE(See([&] { return gtk_widget_get_mapped(file) && !gtk_widget_get_mapped(edit); }));
+      LetSubmenuOpen(file);
       PressKey(GDK_KEY_Left);
       EXPECT_TRUE(See([&] { return gtk_widget_get_mapped(view) && !gtk_widget_get_mapped(file); }));
       PressKey(GDK_KEY_Escape);
