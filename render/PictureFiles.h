@@ -17,3 +17,13 @@ FilePicture PictureFile(const std::string& path);
 // Path of the picture `name` of `folder` (empty: the current folder). Empty for an absolute name
 // and for one that leads out of the folder, by ".." or by a link, and when there is no such entry.
 std::string PicturePathInside(const std::string& folder, const std::string& name);
+
+// While one lives, each path is looked up once: a layout may show one picture in a hundred places,
+// and every look asks the system about every folder on the way.
+class KeptPicturePaths {
+ public:
+  KeptPicturePaths();
+  ~KeptPicturePaths();
+  KeptPicturePaths(const KeptPicturePaths&) = delete;
+  KeptPicturePaths& operator=(const KeptPicturePaths&) = delete;
+};

@@ -1,5 +1,7 @@
 #include <cstdlib>
+#include <map>
 #include <memory>
+#include <utility>
 
 #include "PictureFiles.h"
 #include "support/FileTools.h"
@@ -13,9 +15,7 @@ std::string RealPath(const std::string& path) {
   return real ? real.get() : "";
 }
 
-}  // namespace
-
-std::string PicturePathInside(const std::string& folder, const std::string& name) {
+std::string LookUp(const std::string& folder, const std::string& name) {
   if (name.empty() || name.front() == '/') {
     return "";
   }
@@ -29,4 +29,27 @@ std::string PicturePathInside(const std::string& folder, const std::string& name
   // Without links, so that what is opened is what was looked at.
   const std::string path = RealPath(JoinPath(folder, name, ""));
   return path.starts_with(inside) ? path : "";
+}
+
+gint keepers;
+// By folder and name.
+std::map<std::pair<std::string, std::string>, std::string> kept;
+
+}  // namespace
+
+KeptPicturePaths::KeptPicturePaths() {
+  ++keepers;
+}
+
+KeptPicturePaths::~KeptPicturePaths() {
+  if (--keepers == 0) kept.clear();
+}
+
+std::string PicturePathInside(const std::string& folder, const std::string& name) {
+  if (keepers == 0) {
+    return LookUp(folder, name);
+  }
+  const auto [entry, isNew] = kept.try_emplace({folder, name});
+  if (isNew) entry->second = LookUp(folder, name);
+  return entry->second;
 }

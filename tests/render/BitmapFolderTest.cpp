@@ -3,6 +3,7 @@
 #include <string>
 
 #include "AsciiPicture.h"
+#include "render/PictureFiles.h"
 #include "tests/common/Bytes.h"
 #include "tests/common/TempFolder.h"
 
@@ -76,6 +77,19 @@ TEST_F(BitmapFolder, LinksWithinItAndToItAreFollowed) {
 
 TEST_F(BitmapFolder, AFolderThatIsNotThereHasNoPictures) {
   EXPECT_FALSE(DrawsFrom(root_.Path("None"), "inside.bmp"));
+}
+
+TEST_F(BitmapFolder, WhatAPaintingKeepsOfItEndsWithThePainting) {
+  {
+    const KeptPicturePaths outer;
+    EXPECT_FALSE(Draws("new.bmp"));
+    root_.Write("Bitmaps/new.bmp", BlackBitmap(1, 1));
+    const KeptPicturePaths inner;
+    EXPECT_FALSE(Draws("new.bmp")) << "looked up once more";
+    EXPECT_TRUE(Draws("inside.bmp"));
+    EXPECT_FALSE(DrawsFrom(root_.Path("Bitmaps2"), "inside.bmp")) << "another folder";
+  }
+  EXPECT_TRUE(Draws("new.bmp"));
 }
 
 }  // namespace
