@@ -31,8 +31,10 @@ constexpr struct {
     {" 登録 ", 0, 1}, {" 削除 ", 1, 1}, {" 取消 ", 2, 1}, {" 再表示 ", 4, 0}, {" 複写 ", 3, 0}};
 constexpr gint RedisplayCode = 4;
 
-// Origin that the window manager told the panel last; nothing until it has placed the panel.
+// Origin that the window manager told the panel last; nothing until it has told one.
 std::optional<POINT> ToldOrigin;
+// Whether the panel is on the screen: a window manager shows a window once it has framed it.
+bool IsOnScreen = false;
 
 gboolean ToolBox_Configure(GtkWidget* /*widget*/, const GdkEventConfigure* event,
                            gpointer /*data*/) {
@@ -40,11 +42,17 @@ gboolean ToolBox_Configure(GtkWidget* /*widget*/, const GdkEventConfigure* event
   return FALSE;
 }
 
-// While the window manager puts its frame around a new panel, the panel is anywhere.
+gboolean ToolBox_Map(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
+  IsOnScreen = true;
+  return FALSE;
+}
+
+// While the window manager puts its frame around a new panel, the panel is anywhere, and may be
+// told so: at the screen's corner first, which would read as a place to be chosen anew.
 bool IsPlaced(GtkWidget* window) {
   POINT origin;
   gdk_window_get_origin(gtk_widget_get_window(window), &origin.x, &origin.y);
-  return ToldOrigin && ToldOrigin->x == origin.x && ToldOrigin->y == origin.y;
+  return IsOnScreen && ToldOrigin && ToldOrigin->x == origin.x && ToldOrigin->y == origin.y;
 }
 
 // The window manager's close gives the edit up; the items stay as stored.
@@ -135,6 +143,8 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   SetToolBoxContent(dialog.Window, dialog.Content);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   ToldOrigin.reset();
+  IsOnScreen = false;
+  g_signal_connect(dialog.Window, "map-event", G_CALLBACK(ToolBox_Map), nullptr);
   g_signal_connect(dialog.Window, "configure-event", G_CALLBACK(ToolBox_Configure), nullptr);
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
   g_signal_connect(dialog.Window, "destroy", G_CALLBACK(ToolBox_Destroy), nullptr);

@@ -7,6 +7,7 @@
 
 #include "PtrnData.h"
 #include "dialogs/Controls.h"
+#include "window/ServerGrab.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -201,6 +202,32 @@ TEST_F(ToolBoxWindow, AMovedPanelOpensAgainWhereItStood) {
     EXPECT_TRUE(StandsAt({321, 234}))
         << "round " << round << ": " << PositionOf(ToolBox).x << ", " << PositionOf(ToolBox).y;
   }
+}
+
+TEST_F(ToolBoxWindow, APanelThatIsNotYetOnTheScreenChangesNoPlace) {
+  constexpr gint Type = 4;
+  constexpr POINT Before{777, 77};
+  const auto kept = [] { return ToolBox_PointData[Type - 1]; };
+  {
+    const ServerGrab unframed;
+    Dlg_ToolBox(PtrnWnd, Type);
+    POINT origin;
+    gdk_window_get_origin(gtk_widget_get_window(ToolBox), &origin.x, &origin.y);
+    GdkEvent* told = gdk_event_new(GDK_CONFIGURE);
+    told->configure.x = origin.x;
+    told->configure.y = origin.y;
+    gboolean handled = FALSE;
+    g_signal_emit_by_name(ToolBox, "configure-event", told, &handled);
+    gdk_event_free(told);
+    ToolBox_PointData[Type - 1] = Before;
+    SaveToolBox();
+  }
+  EXPECT_EQ(kept().x, Before.x);
+  EXPECT_EQ(kept().y, Before.y);
+  EXPECT_TRUE(WaitFor([&] {
+    SaveToolBox();
+    return kept().x != Before.x && kept().y != Before.y;
+  }));
 }
 
 TEST_F(ToolBoxWindow, EachTypeHasAPlaceOfItsOwn) {
