@@ -117,6 +117,19 @@ GdkWindow* WindowUnderPointer() {
   return window != nullptr ? gdk_window_get_toplevel(window) : nullptr;
 }
 
+// What is found under the pointer, to be read in a failure.
+std::string UnderPointer() {
+  GdkWindow* window = WindowUnderPointer();
+  if (window == nullptr) return "a window of another program";
+  gpointer owner = nullptr;
+  gdk_window_get_user_data(window, &owner);
+  if (!GTK_IS_WINDOW(owner)) return "no window of the toolkit";
+  const gchar* title = gtk_window_get_title(GTK_WINDOW(owner));
+  GtkWidget* child = gtk_bin_get_child(GTK_BIN(owner));
+  return std::string(G_OBJECT_TYPE_NAME(owner)) + " \"" + (title != nullptr ? title : "") +
+         "\" with " + (child != nullptr ? G_OBJECT_TYPE_NAME(child) : "nothing");
+}
+
 bool KeyboardIsHere() {
   GList* windows = gtk_window_list_toplevels();
   const bool here = g_list_find_custom(windows, nullptr, [](gconstpointer window, gconstpointer) {
@@ -212,7 +225,8 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
     return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget)) &&
            SpotOf(widget, x, y) == spot;
   });
-  EXPECT_TRUE(there) << "another window lies over " << G_OBJECT_TYPE_NAME(widget);
+  EXPECT_TRUE(there) << Look(UnderPointer) << " lies at " << x << ", " << y << " over "
+                     << G_OBJECT_TYPE_NAME(widget);
   WhenIdle();
 }
 
