@@ -50,12 +50,9 @@ std::string RowBelow(GtkWidget* tree, const std::string& parent, const std::stri
   std::string found;
   for (gboolean more = gtk_tree_model_iter_children(model, &row, &above); more;
        more = gtk_tree_model_iter_next(model, &row)) {
-    gchar* label = nullptr;
-    gtk_tree_model_get(model, &row, 0, &label, -1);
     gchar* place = gtk_tree_model_get_string_from_iter(model, &row);
-    if (label != nullptr && text == label) found = place;
+    if (RowText(model, &row) == text) found = place;
     g_free(place);
-    g_free(label);
   }
   return found;
 }
@@ -67,12 +64,8 @@ std::vector<std::string> TextsBelow(GtkWidget* tree, const std::string& parent) 
   if (!gtk_tree_model_get_iter_from_string(model, &above, parent.c_str())) return texts;
   GtkTreeIter row;
   for (gboolean more = gtk_tree_model_iter_children(model, &row, &above); more;
-       more = gtk_tree_model_iter_next(model, &row)) {
-    gchar* label = nullptr;
-    gtk_tree_model_get(model, &row, 0, &label, -1);
-    texts.emplace_back(label != nullptr ? label : "");
-    g_free(label);
-  }
+       more = gtk_tree_model_iter_next(model, &row))
+    texts.push_back(RowText(model, &row));
   return texts;
 }
 

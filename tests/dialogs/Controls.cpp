@@ -39,15 +39,14 @@ gboolean IsKind(GtkWidget* widget, GType kind) {
 }
 
 GtkTreeView* FirstList(GtkWidget* root) {
-  GtkWidget* list =
-      FindWidget(root, [](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) != FALSE; });
+  GtkWidget* list = FindKind(root, GTK_TYPE_TREE_VIEW);
   return list != nullptr ? GTK_TREE_VIEW(list) : nullptr;
 }
 
 }  // namespace
 
 GtkWidget* FindGrid(GtkWidget* root) {
-  return FindWidget(root, [](GtkWidget* widget) { return GTK_IS_GRID(widget) != FALSE; });
+  return FindKind(root, GTK_TYPE_GRID);
 }
 
 CellPlace PlaceOf(GtkWidget* grid, GtkWidget* child) {
@@ -156,12 +155,8 @@ std::vector<std::string> RowTexts(GtkWidget* list) {
   GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(list));
   GtkTreeIter row;
   for (gboolean more = gtk_tree_model_get_iter_first(model, &row); more;
-       more = gtk_tree_model_iter_next(model, &row)) {
-    gchar* text = nullptr;
-    gtk_tree_model_get(model, &row, 0, &text, -1);
-    texts.emplace_back(text != nullptr ? text : "");
-    g_free(text);
-  }
+       more = gtk_tree_model_iter_next(model, &row))
+    texts.push_back(RowText(model, &row));
   return texts;
 }
 

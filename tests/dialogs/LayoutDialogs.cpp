@@ -31,7 +31,7 @@ constexpr const gchar* ChildTitle = "レイアウト情報の設定［子ウィ�
 constexpr const gchar* OtherTitle = "レイアウト情報の設定［その他］";
 
 GtkWidget* ListOf(GtkWidget* dialog) {
-  return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) != FALSE; });
+  return FindKind(dialog, GTK_TYPE_TREE_VIEW);
 }
 GtkWidget* EntryOf(GtkWidget* dialog) {
   return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });

@@ -28,7 +28,7 @@ constexpr const gchar* Text1Title = "固定文字列 (言語１) 選択";
 constexpr const gchar* PictureTitle = "画像ファイル選択";
 
 GtkWidget* ListOf(GtkWidget* picker) {
-  return FindWidget(picker, [](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) != FALSE; });
+  return FindKind(picker, GTK_TYPE_TREE_VIEW);
 }
 
 // Clicks a row of the picker's list.

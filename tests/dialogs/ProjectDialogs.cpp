@@ -24,7 +24,7 @@ constexpr const gchar* SettingsTitle = "設定の題名";
 constexpr const gchar* ErrorTitle = "入力エラー";
 
 GtkWidget* ListOf(GtkWidget* dialog) {
-  return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) != FALSE; });
+  return FindKind(dialog, GTK_TYPE_TREE_VIEW);
 }
 GtkWidget* EntryOf(GtkWidget* dialog) {
   return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });

@@ -72,8 +72,7 @@ std::vector<FrameFields> AllFields() {
 }
 
 GtkWidget* PageOf(GtkWidget* dialog, gint number) {
-  auto* notebook = GTK_NOTEBOOK(
-      FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_NOTEBOOK(widget) != FALSE; }));
+  auto* notebook = GTK_NOTEBOOK(FindKind(dialog, GTK_TYPE_NOTEBOOK));
   gtk_notebook_set_current_page(notebook, number);
   return gtk_notebook_get_nth_page(notebook, number);
 }
@@ -149,8 +148,7 @@ TEST_F(ProjectFields, EachControlWritesItsFieldAlone) {
 
 TEST_F(ProjectFields, PagesAndFramesStandInTheirOrder) {
   Edit([](GtkWidget* dialog) {
-    auto* notebook = GTK_NOTEBOOK(
-        FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_NOTEBOOK(widget) != FALSE; }));
+    auto* notebook = GTK_NOTEBOOK(FindKind(dialog, GTK_TYPE_NOTEBOOK));
     const gchar* tabs[] = {"全般", "親ウィンドウ", "子ウィンドウ", "その他"};
     ASSERT_EQ(gtk_notebook_get_n_pages(notebook), 4);
     const std::vector<std::string> frames[] = {{},

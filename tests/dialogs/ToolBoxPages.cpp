@@ -84,12 +84,6 @@ gint ChangedValue() {
   return Untouched;
 }
 
-GtkWidget* Inside(GtkWidget* child, GType kind) {
-  return FindWidget(child, [kind](GtkWidget* widget) {
-    return G_TYPE_CHECK_INSTANCE_TYPE(widget, kind) != FALSE;
-  });
-}
-
 // Chooses number 7 in the picker of this title.
 void PickSeven(GtkWidget* swatch, const gchar* title, gint line, gint culm) {
   const DialogAnswer answer(title, [&](GtkWidget* picker) {
@@ -149,14 +143,14 @@ std::string Describe(GtkWidget* child) {
     return "check " + ChangedFields() + " " + gtk_button_get_label(GTK_BUTTON(child));
   }
   if (GTK_IS_BUTTON(child)) return std::string("button ") + gtk_button_get_label(GTK_BUTTON(child));
-  if (GtkWidget* spin = Inside(child, GTK_TYPE_SPIN_BUTTON)) return DescribeSpin(spin);
-  if (GtkWidget* combo = Inside(child, GTK_TYPE_COMBO_BOX)) {
+  if (GtkWidget* spin = FindKind(child, GTK_TYPE_SPIN_BUTTON)) return DescribeSpin(spin);
+  if (GtkWidget* combo = FindKind(child, GTK_TYPE_COMBO_BOX)) {
     gtk_combo_box_set_active(GTK_COMBO_BOX(combo), 1);
     EXPECT_EQ(ChangedValue(), 1);
     return "combo " + ChangedFields();
   }
-  if (GtkWidget* area = Inside(child, GTK_TYPE_DRAWING_AREA)) return DescribeSwatch(area);
-  if (GtkWidget* entry = Inside(child, GTK_TYPE_ENTRY)) return DescribeEntry(entry);
+  if (GtkWidget* area = FindKind(child, GTK_TYPE_DRAWING_AREA)) return DescribeSwatch(area);
+  if (GtkWidget* entry = FindKind(child, GTK_TYPE_ENTRY)) return DescribeEntry(entry);
   return "unknown";
 }
 

@@ -8,8 +8,7 @@ class Editors : public LooksTest {};
 GtkWidget* Swatch(const std::string& title, gint left, gint top) {
   GtkWidget* window = SeeWindow(title);
   return Look([=] {
-    GtkWidget* grid =
-        FindWidget(window, [](GtkWidget* widget) { return GTK_IS_GRID(widget) != FALSE; });
+    GtkWidget* grid = FindKind(window, GTK_TYPE_GRID);
     return gtk_grid_get_child_at(GTK_GRID(grid), left, top);
   });
 }

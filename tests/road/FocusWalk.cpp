@@ -214,11 +214,7 @@ gint RowOf(GtkTreeView* list, const std::string& text) {
   for (gint row = 0; row < count; row++) {
     GtkTreeIter iter;
     gtk_tree_model_iter_nth_child(model, &iter, nullptr, row);
-    gchar* shown = nullptr;
-    gtk_tree_model_get(model, &iter, 0, &shown, -1);
-    const bool same = shown != nullptr && text == shown;
-    g_free(shown);
-    if (same) return row;
+    if (RowText(model, &iter) == text) return row;
   }
   return -1;
 }
@@ -275,12 +271,6 @@ void PageWalk::Walk() {
     WalkWithin(stops[left - 1]);
   }
   EXPECT_THAT(NamesOf(Unreached(window_)), testing::IsEmpty()) << "not reached";
-}
-
-GtkNotebook* NotebookIn(GtkWidget* window) {
-  GtkWidget* notebook =
-      FindWidget(window, [](GtkWidget* widget) { return GTK_IS_NOTEBOOK(widget) != FALSE; });
-  return notebook != nullptr ? GTK_NOTEBOOK(notebook) : nullptr;
 }
 }  // namespace
 
@@ -347,12 +337,13 @@ void ChooseByKeys(GtkWidget* menu, const Path& path) {
 }
 
 void WalkWindow(GtkWidget* window) {
-  GtkNotebook* notebook = Look([window] { return NotebookIn(window); });
-  if (notebook == nullptr) return PageWalk(window).Walk();
+  GtkWidget* found = Look([window] { return FindKind(window, GTK_TYPE_NOTEBOOK); });
+  if (found == nullptr) return PageWalk(window).Walk();
+  GtkNotebook* notebook = GTK_NOTEBOOK(found);
   const gint pages = Look([notebook] { return gtk_notebook_get_n_pages(notebook); });
   for (gint page = 0; page < pages; page++) {
     if (page > 0) {
-      TabTo(window, Look([notebook] { return NameOf(GTK_WIDGET(notebook)); }));
+      TabTo(window, Look([found] { return NameOf(found); }));
       KeyTo(window, GDK_KEY_Right);
     }
     EXPECT_EQ(Look([notebook] { return gtk_notebook_get_current_page(notebook); }), page);

@@ -26,12 +26,6 @@ std::vector<GtkWidget*> Children(GtkWidget* grid) {
   return children;
 }
 
-GtkWidget* FindKind(GtkWidget* root, GType kind) {
-  return FindWidget(root, [kind](GtkWidget* widget) {
-    return G_TYPE_CHECK_INSTANCE_TYPE(widget, kind) != FALSE;
-  });
-}
-
 // The rows with this label in the first column, from the top; -1 = fewer than asked for.
 gint RowOf(GtkWidget* grid, const Cell& cell) {
   std::map<gint, bool> rows;
@@ -92,11 +86,7 @@ Row FindRow(GtkWidget* window, const std::string& text) {
   FindWidget(window, [&](GtkWidget* view) {
     if (!GTK_IS_TREE_VIEW(view)) return false;
     const auto look = [&](GtkTreeModel* model, GtkTreePath* path, GtkTreeIter* iter) {
-      gchar* shown = nullptr;
-      gtk_tree_model_get(model, iter, 0, &shown, -1);
-      const bool same = shown != nullptr && text == shown;
-      g_free(shown);
-      if (!same) return false;
+      if (RowText(model, iter) != text) return false;
       row.View = view;
       gtk_tree_view_scroll_to_cell(GTK_TREE_VIEW(view), path, nullptr, FALSE, 0, 0);
       gtk_tree_view_get_cell_area(GTK_TREE_VIEW(view), path,

@@ -18,8 +18,7 @@ bool IsTextEntry(GtkWidget* widget) {
 constexpr gint Tens = 10;
 
 GtkWidget* GridChild(GtkWidget* window, gint row, gint column) {
-  GtkWidget* grid =
-      FindWidget(window, [](GtkWidget* widget) { return GTK_IS_GRID(widget) != FALSE; });
+  GtkWidget* grid = FindKind(window, GTK_TYPE_GRID);
   return gtk_grid_get_child_at(GTK_GRID(grid), column, row);
 }
 

@@ -83,6 +83,20 @@ GtkWidget* FindWidget(GtkWidget* root, const std::function<bool(GtkWidget*)>& ma
   return nullptr;
 }
 
+GtkWidget* FindKind(GtkWidget* root, GType kind) {
+  return FindWidget(root, [kind](GtkWidget* widget) {
+    return G_TYPE_CHECK_INSTANCE_TYPE(widget, kind) != FALSE;
+  });
+}
+
+std::string RowText(GtkTreeModel* model, GtkTreeIter* row) {
+  gchar* text = nullptr;
+  gtk_tree_model_get(model, row, 0, &text, -1);
+  const std::string shown = text != nullptr ? text : "";
+  g_free(text);
+  return shown;
+}
+
 GtkWidget* FindLabel(GtkWidget* root, const std::string& label) {
   return FindWidget(root, [&](GtkWidget* widget) { return LabelOf(widget) == label; });
 }

@@ -15,10 +15,15 @@ void FinishFrame(GtkWidget* widget);
 
 // The first widget below `root` (itself included, depth first) that `matches`; null = none.
 GtkWidget* FindWidget(GtkWidget* root, const std::function<bool(GtkWidget*)>& matches);
+// The first widget below `root`, itself included, of this type or one made from it; null = none.
+GtkWidget* FindKind(GtkWidget* root, GType kind);
 // The button, check, radio or menu entry, or label, with exactly this text.
 GtkWidget* FindLabel(GtkWidget* root, const std::string& label);
 // The shown top-level window with exactly this title; null = none.
 GtkWidget* FindWindow(const std::string& title);
+
+// What the first column shows in a row of a list or tree; "" for nothing.
+std::string RowText(GtkTreeModel* model, GtkTreeIter* row);
 
 // The entries of a menu or menu bar from top to bottom, "-" for a separator.
 std::vector<std::string> MenuLabels(GtkWidget* menu);
