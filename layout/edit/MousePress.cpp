@@ -41,12 +41,13 @@ void PressIdle(const POINT& point) {
   }
 }
 
-// A press beside the item lets it go; the tool box stays open.
+// A press beside the item lets it go; the tool box stays open, with nothing to register or delete.
 void PressSelected(const POINT& point) {
   PtrnPost = SearchPtrnData2(&point);
   if (PtrnPost < 1) {
     PtrnMode = ModeIdle;
     SetCursor(CursorPlain);
+    SetMenuActive2(RedrawOnlyMenu);
     DrawRequest(0);
     return;
   }

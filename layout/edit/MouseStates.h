@@ -12,6 +12,9 @@ enum CursorNumber {
   CursorOverItem = 1,
 };
 
+// What the item menu offers when no item is in hand, by bit: to redraw alone.
+constexpr gint RedrawOnlyMenu = 16;
+
 // One handler per editing state; a null handler leaves the event without effect.
 using StateHandler = void (*)(const POINT& point);
 using StateHandlers = std::array<StateHandler, ModeArea + 1>;

@@ -14,8 +14,6 @@ enum ButtonCode {
   ButtonRedraw = 4,
 };
 
-constexpr gint RedrawOnlyMenu = 16;
-
 // Back to idle with the panel open; edits that were not registered stay out of the store.
 void LetGo() {
   PtrnMode = ModeIdle;

@@ -147,7 +147,8 @@ TEST_F(MouseStateTest, PressBesideTheSelectedItemLetsItGoAndKeepsTheToolBox) {
   EXPECT_EQ(PtrnMode, ModeIdle);
   EXPECT_EQ(PtrnType, TypeRectangle);
   EXPECT_EQ(PointsOf(PtrnData), "(100,20)-(160,60)");
-  EXPECT_THAT(Screen.Take(), ElementsAre("SetCursor 0", "DrawRequest 0"));
+  EXPECT_THAT(Screen.Take(), ElementsAre("SetCursor 0", "SetMenuActive2 16", "DrawRequest 0"))
+      << "nothing is left to register, delete or copy";
   Release(10, 10);
   EXPECT_THAT(Screen.Take(), IsEmpty());
 }

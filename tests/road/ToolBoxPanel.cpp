@@ -123,6 +123,33 @@ TEST_F(ToolBoxPanel, ArrowKeysMoveTheItemInHand) {
   });
 }
 
+// Nothing is marked any more then: 登録 would take the item to where the pointer left the canvas,
+// and 削除 would delete what nobody sees chosen.
+TEST_F(ToolBoxPanel, APressBesideTheItemLeavesNothingToRegisterOrDelete) {
+  Play([this] {
+    NewLayout(640, 480);
+    Open("矩形");
+    DragOnCanvas(40, 40, 120, 80);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    EXPECT_EQ(Usable(), "10101");
+    ClickCanvas(300, 300);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Usable(), "00001");
+    Look([] {
+      const PTRNDATA box = BoxItem(200, 40, 280, 80, 8);
+      AddPtrnData(&box);
+      DrawRequest(1);
+    });
+    ClickCanvas(220, 40);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    EXPECT_EQ(Usable(), "11111");
+    ClickCanvas(300, 300);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Usable(), "00001");
+    EXPECT_NE(SeeWindow("矩形"), nullptr) << "the panel stays";
+  });
+}
+
 TEST_F(ToolBoxPanel, KeysTypedIntoAnEntryLeaveTheLayoutAlone) {
   Play([this] {
     NewLayout(640, 480);
