@@ -7,6 +7,7 @@
 #include "layout/Store.h"
 #include "layout/edit/CopyMove.h"
 #include "layout/edit/MouseStates.h"
+#include "layout/edit/NothingOpen.h"
 
 namespace {
 
@@ -49,6 +50,9 @@ gint AreaButnCheck(const PTRNDATA* item) {
 }
 
 void AreaButn_Delt() {
+  if (EndedWithNothingOpen()) {
+    return;
+  }
   PushPtrnData();
   if (DelPtrnDataIf([](const PTRNDATA* item) { return AreaButnCheck(item) != 0; }) > 0) {
     PtrnFlag = 2;
@@ -56,7 +60,7 @@ void AreaButn_Delt() {
 }
 
 void AreaButn_Move() {
-  if (Dlg_AreaMove(PtrnWnd, &CopyMoveParm) != 1) {
+  if (EndedWithNothingOpen() || Dlg_AreaMove(PtrnWnd, &CopyMoveParm) != 1) {
     return;
   }
   PushPtrnData();
@@ -68,7 +72,7 @@ void AreaButn_Move() {
 }
 
 void AreaButn_Copy() {
-  if (Dlg_AreaCopy(PtrnWnd, &CopyMoveParm) != 1) {
+  if (EndedWithNothingOpen() || Dlg_AreaCopy(PtrnWnd, &CopyMoveParm) != 1) {
     return;
   }
   PushPtrnData();
@@ -76,6 +80,9 @@ void AreaButn_Copy() {
 }
 
 void AreaBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
+  if (EndedWithNothingOpen()) {
+    return;
+  }
   const gint command = GPOINTER_TO_INT(data);
   if (command > 0) {
     OrderCorners();

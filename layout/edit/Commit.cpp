@@ -11,6 +11,7 @@
 #include "layout/Store.h"
 #include "layout/edit/CopyMove.h"
 #include "layout/edit/ItemDefaults.h"
+#include "layout/edit/NothingOpen.h"
 #include "support/Resource.h"
 #include "support/Text.h"
 
@@ -55,7 +56,7 @@ void RegisterTexts() {
 }  // namespace
 
 gint ToolButn_OK() {
-  if (TestPtrnData() == 0) {
+  if (EndedWithNothingOpen() || TestPtrnData() == 0) {
     return 0;
   }
   PushPtrnData();
@@ -73,6 +74,9 @@ gint ToolButn_OK() {
 }
 
 void ToolButn_Delt() {
+  if (EndedWithNothingOpen()) {
+    return;
+  }
   PushPtrnData();
   DelPtrnData(PtrnNo);
   PtrnFlag = 2;
@@ -80,7 +84,7 @@ void ToolButn_Delt() {
 
 // Copies the stored item: what was changed in hand and not registered is not copied.
 void ToolButn_Copy() {
-  if (Dlg_ToolCopy(PtrnWnd, &CopyMoveParm) != 1) {
+  if (EndedWithNothingOpen() || Dlg_ToolCopy(PtrnWnd, &CopyMoveParm) != 1) {
     return;
   }
   PushPtrnData();

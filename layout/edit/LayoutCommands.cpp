@@ -109,6 +109,9 @@ void PtrnDataSave([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 // A changed first title renames the layout: the next save writes a new file beside the old one.
 void PtrnDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
+  if (PtrnFlag == 0) {
+    return;
+  }
   EditHedr = PtrnHedr;
   if (EditPtrnData(PtrnWnd) == 1) {
     PushPtrnData();
@@ -118,6 +121,9 @@ void PtrnDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 
 void PtrnEditBack([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
+  if (PtrnFlag == 0) {
+    return;
+  }
   PopPtrnData();
   TakeName();
   ShowCanvas();

@@ -3,6 +3,7 @@
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/edit/MouseStates.h"
+#include "layout/edit/NothingOpen.h"
 
 namespace {
 
@@ -25,6 +26,9 @@ void LetGo() {
 }  // namespace
 
 void ToolBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
+  if (EndedWithNothingOpen()) {
+    return;
+  }
   const gint button = GPOINTER_TO_INT(data);
   switch (button) {
     case ButtonRegister:
