@@ -1,5 +1,6 @@
 #include "PtrnData.h"
 #include "PtrnDraw.h"
+#include "layout/Guards.h"
 #include "tools/Commands.h"
 #include "tools/LayoutView.h"
 #include "tools/OpenProject.h"
@@ -7,8 +8,10 @@
 
 namespace {
 
-// The first item in store order decides, as for the mouse; not the one painted on top.
+// The first item in store order decides, as for the mouse; not the one painted on top. A press
+// beside the layout picks nothing.
 std::string HitLine(const POINT& point) {
+  if (!IsOnLayout(PtrnHedr, point.x, point.y)) return "none\n";
   for (gint no = 0; no < GetPtrnCount(); ++no) {
     const PTRNDATA* item = ViewPtrnData(no);
     if (const gint hit = SearchPtrnData(&point, item))

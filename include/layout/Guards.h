@@ -3,6 +3,8 @@
 
 #include "Types.h"
 
+struct PTRNHEDR;
+
 // Percent of a zoom index; entry 0 when out of range.
 gint ZoomPercent(gint index);
 // Dots of a grid interval index 0..11; entry 0 when out of range.
@@ -13,6 +15,9 @@ SIZE DisplaySize(gint index);
 gint CalendarFormat(gint index);
 // Display language as an index 0..2 of a text: any value but 0 and 1 selects the third.
 gint TextIndex(gint language);
+// Whether a place, in layout dots, lies on a layout; one on its right or bottom edge lies beside
+// it.
+bool IsOnLayout(const PTRNHEDR& header, gint64 x, gint64 y);
 inline bool IsItemType(gint type) {
   return type >= 1 && type <= 15;
 }

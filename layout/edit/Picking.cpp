@@ -18,8 +18,7 @@ gint MousePoint(POINT* point) {
   // Division truncates toward zero, so a strip left of and above the layout counts as its edge.
   const gint64 x = gint64{point->x} * 100 / zoom;
   const gint64 y = gint64{point->y} * 100 / zoom;
-  if (x < 0 || x >= PtrnHedr.Parm1[HedrSlot::Width] || y < 0 ||
-      y >= PtrnHedr.Parm1[HedrSlot::Height]) {
+  if (!IsOnLayout(PtrnHedr, x, y)) {
     return 0;
   }
   *point = {static_cast<gint>(x), static_cast<gint>(y)};

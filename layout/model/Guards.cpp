@@ -1,6 +1,8 @@
 #include "layout/Guards.h"
 
 #include "Constant.h"
+#include "layout/ItemSlots.h"
+#include "layout/Records.h"
 #include "support/Resource.h"
 
 namespace {
@@ -33,6 +35,11 @@ gint CalendarFormat(gint index) {
 
 gint TextIndex(gint language) {
   return language == 0 || language == 1 ? language : 2;
+}
+
+bool IsOnLayout(const PTRNHEDR& header, gint64 x, gint64 y) {
+  return x >= 0 && x < header.Parm1[HedrSlot::Width] && y >= 0 &&
+         y < header.Parm1[HedrSlot::Height];
 }
 
 gint GuardedFontHeight(gint font) {

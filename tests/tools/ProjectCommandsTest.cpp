@@ -26,6 +26,29 @@ TEST(Hit, FirstItemInStoreOrder) {
   EXPECT_EQ(HitAt(project, "-3", "10"), "none\n");
 }
 
+// A press beside the layout picks nothing, though items reach over each of its edges.
+TEST(Hit, BesideTheLayoutNothingIsHit) {
+  const SmallProject project;
+  project.Folder().Write("wide.json", R"({"Parm1":{"Kind":2,"Width":40,"Height":30},"Items":[
+      {"Type":"Rectangle","Parm":{"X1":-9,"Y1":10,"X2":60,"Y2":20,"Width":1}},
+      {"Type":"Rectangle","Parm":{"X1":10,"Y1":-9,"X2":20,"Y2":60,"Width":1}}]})");
+  ASSERT_EQ(
+      RunTool({"build", project.Folder().Path("wide.json"), project.Folder().Path("wide.ptn")})
+          .Code,
+      0);
+  const auto hit = [&](const char* x, const char* y) {
+    return RunTool({"hit", project.File(), "wide", x, y}).Out;
+  };
+  EXPECT_EQ(hit("39", "10"), "index=0 type=3 hit=9\n");
+  EXPECT_EQ(hit("40", "10"), "none\n");
+  EXPECT_EQ(hit("0", "10"), "index=0 type=3 hit=9\n");
+  EXPECT_EQ(hit("-1", "10"), "none\n");
+  EXPECT_EQ(hit("10", "29"), "index=1 type=3 hit=7\n");
+  EXPECT_EQ(hit("10", "30"), "none\n");
+  EXPECT_EQ(hit("10", "0"), "index=1 type=3 hit=9\n");
+  EXPECT_EQ(hit("10", "-1"), "none\n");
+}
+
 TEST(Hit, UnknownLayout) {
   const SmallProject project;
   const ToolRun run = RunTool({"hit", project.File(), "none", "1", "1"});
