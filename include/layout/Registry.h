@@ -16,8 +16,8 @@ void RegstPtrnText(const gchar* text, gint k);
 
 // The same rule on a registry held in memory. True when something changed.
 bool RegisterCode(std::vector<PTRNCODE>& registry, std::string_view code, gint no);
-// Data slots that a code with identification number `no` needs; a number outside 0..9999 counts as
-// 0.
+// Data slots that a code with identification number `no` needs, at most as many as a record can
+// count; a negative number counts as 0.
 gint CodeSlots(gint no);
 // A new registry: the record that reserves the system's 100 slots.
 PTRNCODE SystemCode();

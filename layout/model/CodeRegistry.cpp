@@ -6,7 +6,6 @@
 namespace {
 
 constexpr gint SystemSlots = 100;
-constexpr gint NumberLimit = 9999;
 
 std::string_view CodeOf(const PTRNCODE& record) {
   return FieldText(record.ID_Code);
@@ -26,7 +25,7 @@ PTRNCODE SystemCode() {
 }
 
 gint CodeSlots(gint no) {
-  return no >= 0 && no <= NumberLimit ? no + 1 : 1;
+  return std::clamp(no, 0, G_MAXINT - 1) + 1;
 }
 
 bool RegisterCode(std::vector<PTRNCODE>& registry, std::string_view code, gint no) {

@@ -61,13 +61,20 @@ TEST_F(RegistryTest, TheSystemsOwnRecordCanBeWidened) {
   EXPECT_EQ(Registry(), Entry("SYSTEM", 151).Str());
 }
 
-TEST_F(RegistryTest, NumbersOutsideTheirRangeTakeOneSlot) {
+// No panel lets such numbers pass, a layout file may hold them.
+TEST_F(RegistryTest, ACodeHasRoomForAnyNumberUpToWhatTheRecordHolds) {
+  RegstPtrnCode("A", 10000);
+  RegstPtrnCode("B", 70000);
+  RegstPtrnCode("C", G_MAXINT - 1);
+  RegstPtrnCode("D", G_MAXINT);
+  EXPECT_EQ(Registry(), System() + Entry("A", 10001).Str() + Entry("B", 70001).Str() +
+                            Entry("C", G_MAXINT).Str() + Entry("D", G_MAXINT).Str());
+}
+
+TEST_F(RegistryTest, ANegativeNumberTakesOneSlot) {
   RegstPtrnCode("A", -1);
-  RegstPtrnCode("B", G_MAXINT);
-  RegstPtrnCode("C", G_MININT);
-  RegstPtrnCode("D", 10000);
-  EXPECT_EQ(Registry(), System() + Entry("A", 1).Str() + Entry("B", 1).Str() + Entry("C", 1).Str() +
-                            Entry("D", 1).Str());
+  RegstPtrnCode("B", G_MININT);
+  EXPECT_EQ(Registry(), System() + Entry("A", 1).Str() + Entry("B", 1).Str());
 }
 
 TEST_F(RegistryTest, AssignedNumbersSurvive) {

@@ -1,4 +1,7 @@
 #include "layout/Registry.h"
+
+#include <sys/stat.h>
+
 #include "tests/project/ProjectFixture.h"
 
 namespace {
@@ -40,12 +43,24 @@ TEST_F(LogicCodeTest, TheSystemsSlotsGrowWithItsHighestNumber) {
   EXPECT_EQ(Flags().size(), 122u);
 }
 
-TEST_F(LogicCodeTest, NumbersOutsideTheirRangeTakeOneSlot) {
-  WriteLayout("One", PTRNHEDR{}, {{"A", G_MAXINT}, {"B", -7}, {"C", 9999}});
+TEST_F(LogicCodeTest, EveryNumberOfALayoutHasItsSlot) {
+  WriteLayout("One", PTRNHEDR{}, {{"A", 70000}, {"B", -7}, {"C", 9999}});
   LogicDataEdit1();
-  EXPECT_EQ(Registry(), Entry("SYSTEM", 100, 0).Str() + Entry("A", 1, 100).Str() +
-                            Entry("B", 1, 101).Str() + Entry("C", 10000, 102).Str());
-  EXPECT_EQ(Flags().size(), 10102u);
+  EXPECT_EQ(Registry(), Entry("SYSTEM", 100, 0).Str() + Entry("A", 70001, 100).Str() +
+                            Entry("B", 1, 70101).Str() + Entry("C", 10000, 70102).Str());
+  EXPECT_EQ(Flags(), std::string(80102, '\0'));
+}
+
+// What no record can count stays at the most that it can; the flags take no room on the disk.
+TEST_F(LogicCodeTest, TheLargestNumberTakesAllSlotsThatCanBeCounted) {
+  WriteLayout("One", PTRNHEDR{}, {{"A", G_MAXINT}, {"B", 0}});
+  LogicDataEdit1();
+  EXPECT_EQ(Registry(), Entry("SYSTEM", 100, 0).Str() + Entry("A", G_MAXINT, 100).Str() +
+                            Entry("B", 1, G_MAXINT).Str());
+  struct stat status {};
+  ASSERT_EQ(stat(folder_.Path("project/PtrnFlag").c_str(), &status), 0);
+  EXPECT_EQ(status.st_size, G_MAXINT);
+  EXPECT_LT(status.st_blocks, 1000);
 }
 
 TEST_F(LogicCodeTest, OtherFilesAreNoLayouts) {
