@@ -77,6 +77,10 @@ bool FileHandle::SetLength(off_t length) const {
   return Succeeds([this, length] { return ftruncate(descriptor_, length); });
 }
 
+bool FileHandle::Reserve(off_t length) const {
+  return Succeeds([this, length] { return fallocate(descriptor_, 0, 0, length); });
+}
+
 bool FileHandle::Flush() const {
   return Succeeds([this] { return fsync(descriptor_); });
 }

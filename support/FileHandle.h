@@ -29,6 +29,8 @@ class FileHandle {
   ssize_t ReadAt(void* buffer, std::size_t size, off_t offset) const;
   bool WriteAt(std::string_view bytes, off_t offset) const;
   bool SetLength(off_t length) const;
+  // Makes room for so many bytes, which lengthens a shorter file, in part even where it fails.
+  bool Reserve(off_t length) const;
   // Has the device take what was written.
   bool Flush() const;
 

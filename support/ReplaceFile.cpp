@@ -123,7 +123,7 @@ Outcome ReplaceByRename(const std::string& path, const Content& content, const s
 
 // Finds out that the disk is full while the old content still stands.
 bool Reserve(const FileHandle& file, off_t size, off_t old_size) {
-  if (size <= old_size || fallocate(file.Get(), 0, 0, size) == 0) return true;
+  if (size <= old_size || file.Reserve(size)) return true;
   if (errno == EOPNOTSUPP || errno == ENOSYS) return true;
   file.SetLength(old_size);  // part of the room may have been added
   return false;

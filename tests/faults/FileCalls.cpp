@@ -209,14 +209,20 @@ ssize_t pwrite(int file, const void* bytes, size_t size, off_t offset) {
   return written;
 }
 
+// What fails on the way has made the file longer by then; a call that is not known has not.
 int fallocate(int file, int mode, off_t offset, off_t size) {
   static auto* const behind = Behind<int(int, int, off_t, off_t)>("fallocate");
-  if (Plan.Room != NoLimit && static_cast<std::size_t>(size) > Plan.Room) {
-    if (WentWrong.empty()) WentWrong = "fallocate";
-    errno = ENOSPC;
-    return -1;
+  const bool full = Plan.Room != NoLimit && static_cast<std::size_t>(size) > Plan.Room;
+  if (!full && !Fails("fallocate")) {
+    const int result = behind(file, mode, offset, size);
+    if (result != -1) Told("fallocate", PathOf(file));
+    return result;
   }
-  return Call("fallocate", PathOf(file), behind, file, mode, offset, size);
+  if (full && WentWrong.empty()) WentWrong = "fallocate";
+  const int error = full ? ENOSPC : errno;
+  if (error != EOPNOTSUPP && error != ENOSYS) behind(file, mode, offset, size - 1);
+  errno = error;
+  return -1;
 }
 
 int ftruncate(int file, off_t size) noexcept {

@@ -93,13 +93,6 @@ class KillTest : public ProjectAtHand {
   int Temporaries = 0;
 
  private:
-  static void OpenScreen() {
-    Screen.LayoutOpen = [] {
-      CopyText(PtrnName, "Screen");
-      return gint{1};
-    };
-    PtrnDataOpen(nullptr, nullptr);
-  }
   static void ChangeProject(int turn) {
     ProjData.Parm2[0] = turn;
     ColrData[5] = {turn, turn, turn};

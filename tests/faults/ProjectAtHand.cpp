@@ -72,14 +72,21 @@ void ProjectAtHand::Open() const {
   ASSERT_EQ(ProjFileRead(ProjPath, ProjName), 1);
   LoadColrFile();
   LoadMarkFile();
-  CopyText(PtrnName, "Screen");
-  PtrnHedr = {};
-  PtrnDataInit();
-  ASSERT_EQ(PtrnFileRead(ProjPath, PtrnName), 1);
-  PtrnFlag = 1;
+  PtrnFlag = 0;
+  OpenScreen();
+  ASSERT_EQ(PtrnFlag, 1);
+  ASSERT_EQ(GetPtrnCount(), 1);
   PtrnData = {};
   EditData = {};
   Screen = {};
+}
+
+void ProjectAtHand::OpenScreen() {
+  ::Screen.LayoutOpen = [] {
+    CopyText(PtrnName, "Screen");
+    return gint{1};
+  };
+  PtrnDataOpen(nullptr, nullptr);
 }
 
 void ProjectAtHand::AddItem(const gchar* code) {

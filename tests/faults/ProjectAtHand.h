@@ -16,6 +16,8 @@ class ProjectAtHand : public EditFixture {
   void Restore() const { ::Restore(Folder.Path(), Laid); }
   FolderImage Image() const { return ImageOf(Folder.Path()); }
 
+  // Opens the layout "Screen" by the menu's command.
+  static void OpenScreen();
   // Enters one more item with its code, texts and defaults.
   static void AddItem(const gchar* code);
 

@@ -8,25 +8,16 @@
 
 namespace {
 
-class ReadFaultTest : public ProjectAtHand {
- protected:
-  void AnswerOpenWithScreen() const {
-    ::Screen.LayoutOpen = [] {
-      CopyText(PtrnName, "Screen");
-      return gint{1};
-    };
-  }
-};
+class ReadFaultTest : public ProjectAtHand {};
 
 TEST_F(ReadFaultTest, ALayoutThatTheDeviceDoesNotDeliverIsNotOpened) {
-  AnswerOpenWithScreen();
   for (const char* name : {"fstat", "pread"}) {
     for (int call = 1;; ++call) {
       SCOPED_TRACE(name + std::to_string(call));
       PtrnDataExit();
       ::Screen.Take();
       FileCalls::GoWrong(name, call, EIO);
-      PtrnDataOpen(nullptr, nullptr);
+      OpenScreen();
       if (FileCalls::Heal().empty()) break;
       // The profile is read, too; without it the zoom is that of no profile.
       if (PtrnFlag == 1) {
@@ -137,6 +128,49 @@ TEST_F(ReadFaultTest, ASnapshotThatTheDeviceDoesNotDeliverChangesNothing) {
   }
   EXPECT_EQ(PtrnSaveCount, 0);
   EXPECT_EQ(GetPtrnCount(), 1);
+}
+
+// The header of the snapshot comes before its records: what fails behind it takes nothing of it.
+TEST_F(ReadFaultTest, ASnapshotThatFailsInItsRecordsLeavesTheHeader) {
+  AddItem("SECOND");
+  PtrnHedr.Parm2[ViewSlot::Zoom] = 4;
+  PtrnHedr.Parm2[ViewSlot::GridShown] = 1;
+  PtrnHedr.Parm2[ViewSlot::GridX] = 7;
+  PtrnHedr.Parm1[HedrSlot::Width] = 1234;
+  PtrnHedr.Parm1[HedrSlot::Height] = 567;
+  CopyText(PtrnHedr.PtrnName1, "Renamed");
+  const std::string before = MemoryImage();
+  int failed = 0;
+  for (int call = 1;; ++call) {
+    SCOPED_TRACE(call);
+    FileCalls::GoWrong("pread", call, EIO);
+    PopPtrnData();
+    if (FileCalls::Heal().empty()) break;
+    ++failed;
+    EXPECT_EQ(MemoryImage(), before);
+    EXPECT_EQ(PtrnSaveCount, 1);
+  }
+  EXPECT_GE(failed, 2) << "the header and what follows it";
+  EXPECT_EQ(PtrnHedr.Parm1[HedrSlot::Width], 800) << "the project's, once nothing fails";
+  EXPECT_EQ(PtrnHedr.Parm2[ViewSlot::GridShown], 1);
+}
+
+// The flags are as many as the registry numbers: an old registry keeps its flags.
+TEST_F(ReadFaultTest, ARegistryThatCannotBeWrittenKeepsItsFlags) {
+  PtrnDataExit();
+  Folder.Write("project/PtrnFlag", "flags of the old registry");
+  const std::string registry = Folder.Read("project/PtrnCode");
+  ASSERT_FALSE(registry.empty());
+  for (const char* name : {"open to write", "pwrite", "fsync", "rename"}) {
+    SCOPED_TRACE(name);
+    FileCalls::GoWrong(name, 1, EIO);
+    LogicDataEdit1();
+    EXPECT_EQ(FileCalls::Heal(), name);
+    EXPECT_EQ(Folder.Read("project/PtrnCode"), registry);
+    EXPECT_EQ(Folder.Read("project/PtrnFlag"), "flags of the old registry");
+  }
+  LogicDataEdit1();
+  EXPECT_EQ(Folder.Read("project/PtrnFlag"), std::string(101, '\0'));
 }
 
 // After eleven changes the oldest snapshot is dropped and the others move up. Whatever fails there,

@@ -88,6 +88,58 @@ TEST_F(ReplaceFault, AFailedFlushOfTheFolderIsReported) {
   EXPECT_EQ(Image(), (FolderImage{{"a", "new"}}));
 }
 
+// The room that could not be reserved whole is given back: the file is as long as it was.
+TEST_F(ReplaceFault, InPlaceRoomReservedInPartIsGivenBack) {
+  FileCalls::RefuseNewFiles(true);
+  for (const int error : {ENOSPC, EDQUOT, EIO, EFBIG}) {
+    SCOPED_TRACE(error);
+    folder_.Write("a", "the old content");
+    FileCalls::GoWrong("fallocate", 1, error);
+    EXPECT_FALSE(ReplaceFile(path_, std::string(5000, 'n')));
+    EXPECT_EQ(FileCalls::Heal(), "fallocate");
+    EXPECT_EQ(Image(), (FolderImage{{"a", "the old content"}}));
+  }
+}
+
+TEST_F(ReplaceFault, InPlaceAFileSystemThatReservesNoRoomIsNotAtFault) {
+  FileCalls::RefuseNewFiles(true);
+  for (const int error : {EOPNOTSUPP, ENOSYS}) {
+    SCOPED_TRACE(error);
+    folder_.Write("a", "old");
+    FileCalls::GoWrong("fallocate", 1, error);
+    EXPECT_TRUE(ReplaceFile(path_, "longer than the old content"));
+    EXPECT_EQ(FileCalls::Heal(), "fallocate");
+    EXPECT_EQ(Image(), (FolderImage{{"a", "longer than the old content"}}));
+  }
+}
+
+// Nothing counts as written that one of these could not do; what an interruption stops is begun
+// again and does not belong here.
+TEST_F(ReplaceFault, WhatFailsIsReportedAndCostsNothing) {
+  for (const char* name : {"stat", "realpath", "faccessat", "open", "open to write", "pwrite",
+                           "ftruncate", "fsync", "close", "rename"}) {
+    SCOPED_TRACE(name);
+    folder_.Write("a", "the old content");
+    FileCalls::GoWrong(name, 1, EIO);
+    EXPECT_FALSE(ReplaceFile(path_, "new"));
+    EXPECT_EQ(FileCalls::Heal(), name);
+    EXPECT_EQ(Image(), (FolderImage{{"a", "the old content"}}));
+  }
+}
+
+TEST_F(ReplaceFault, InPlaceWhatFailsIsReportedAndCostsNothing) {
+  FileCalls::RefuseNewFiles(true);
+  for (const char* name : {"stat", "realpath", "faccessat", "open", "fstat", "pread",
+                           "open to write", "fallocate", "pwrite", "ftruncate", "fsync"}) {
+    SCOPED_TRACE(name);
+    folder_.Write("a", "the old content");
+    FileCalls::GoWrong(name, 1, EIO);
+    EXPECT_FALSE(ReplaceFile(path_, "the new content, longer than the old"));
+    EXPECT_EQ(FileCalls::Heal(), name);
+    EXPECT_EQ(Image(), (FolderImage{{"a", "the old content"}}));
+  }
+}
+
 TEST_F(ReplaceFault, AFileSystemThatFlushesNoFoldersIsNotAtFault) {
   for (const int error : {EINVAL, ENOTSUP, ENOSYS}) {
     FileCalls::GoWrong("fsync of the folder", 1, error);
@@ -103,6 +155,66 @@ TEST_F(ReplaceFault, WhatIsInterruptedIsBegunAgain) {
     FileCalls::GoWrong(name, 1, EINTR);
     EXPECT_TRUE(ReplaceFile(path_, "new"));
     EXPECT_EQ(FileCalls::Heal(), name);
+  }
+}
+
+TEST_F(ReplaceFault, InPlaceWhatIsInterruptedIsBegunAgain) {
+  FileCalls::RefuseNewFiles(true);
+  for (const char* name :
+       {"open", "pread", "open to write", "fallocate", "pwrite", "ftruncate", "fsync"}) {
+    SCOPED_TRACE(name);
+    folder_.Write("a", "old");
+    FileCalls::GoWrong(name, 1, EINTR);
+    EXPECT_TRUE(ReplaceFile(path_, "longer than the old content"));
+    EXPECT_EQ(FileCalls::Heal(), name);
+    EXPECT_EQ(Image(), (FolderImage{{"a", "longer than the old content"}}));
+  }
+}
+
+TEST_F(ReplaceFault, AReadThatIsInterruptedIsBegunAgain) {
+  folder_.Write("a", "the content");
+  for (const char* name : {"open", "pread"}) {
+    SCOPED_TRACE(name);
+    FileCalls::GoWrong(name, 1, EINTR);
+    EXPECT_EQ(ReadWholeFile(path_), "the content");
+    EXPECT_EQ(FileCalls::Heal(), name);
+    gchar buffer[4] = "";
+    FileCalls::GoWrong(name, 1, EINTR);
+    EXPECT_EQ(FileRead(path_.c_str(), "", "", buffer, 3, 4), 1);
+    EXPECT_EQ(FileCalls::Heal(), name);
+    EXPECT_STREQ(buffer, "con");
+  }
+}
+
+// A kernel that does not know the one step, or a file system that cannot take it.
+TEST_F(ReplaceFault, RenamingWithoutTheOneStepNeverReplacesEither) {
+  const std::string folder = folder_.Path();
+  for (const int error : {EINVAL, ENOSYS}) {
+    SCOPED_TRACE(error);
+    Restore(folder, {{"a", "one"}, {"taken", "another"}});
+    FileCalls::GoWrong("renameat2", 1, error);
+    EXPECT_EQ(FileRename(folder.c_str(), "a", "", "taken", ""), 0);
+    EXPECT_EQ(FileCalls::Heal(), "renameat2");
+    EXPECT_EQ(Image(), (FolderImage{{"a", "one"}, {"taken", "another"}}));
+    FileCalls::GoWrong("renameat2", 1, error);
+    EXPECT_EQ(FileRename(folder.c_str(), "a", "", "free", ""), 1);
+    EXPECT_EQ(FileCalls::Heal(), "renameat2");
+    EXPECT_EQ(Image(), (FolderImage{{"free", "one"}, {"taken", "another"}}));
+    FileCalls::GoWrong("renameat2", 1, error);
+    EXPECT_EQ(FileRename(folder.c_str(), "missing", "", "b", ""), 0);
+    FileCalls::Heal();
+  }
+}
+
+// Any other failure is one.
+TEST_F(ReplaceFault, RenamingThatFailsIsNotTriedInAnotherWay) {
+  const std::string folder = folder_.Path();
+  Restore(folder, {{"a", "one"}});
+  for (const int error : {EIO, EACCES, EXDEV, ENOSPC}) {
+    FileCalls::GoWrong("renameat2", 1, error);
+    EXPECT_EQ(FileRename(folder.c_str(), "a", "", "b", ""), 0);
+    EXPECT_EQ(FileCalls::Heal(), "renameat2");
+    EXPECT_EQ(Image(), (FolderImage{{"a", "one"}}));
   }
 }
 

@@ -129,6 +129,16 @@ TEST_F(LogicSourceTest, LongLinesAreReadInPieces) {
   EXPECT_NE(Registered(seen, "Main"), seen);
 }
 
+// Behind 489 blanks the name ends with the piece of 499 bytes, and the last place of a piece is not
+// looked at; a place before that is.
+TEST_F(LogicSourceTest, ANameAtTheVeryEndOfAPieceIsNotSeen) {
+  const std::string rest = "GetPtrnWnd (const char* name)\n\treturn NULL;\n}\n";
+  const std::string unseen = std::string(489, ' ') + rest;
+  EXPECT_EQ(Registered(unseen, "Main"), unseen);
+  const std::string seen = std::string(488, ' ') + rest;
+  EXPECT_NE(Registered(seen, "Main"), seen);
+}
+
 TEST_F(LogicSourceTest, AMissingSourceStaysMissing) {
   SetPtrnName("Main");
   EXPECT_FALSE(folder_.Exists("source/Plant.cpp"));
