@@ -163,20 +163,33 @@ std::optional<std::string> Resolved(const std::string& path) {
   return errno == ENOENT ? std::optional(path) : std::nullopt;
 }
 
-}  // namespace
+enum class Protection { OfFile, OfFolder };  // whose decides about writing
 
-bool ReplaceFile(const std::string& path, std::string_view content, std::size_t offset) {
-  const Content wanted{content, static_cast<off_t>(offset)};
+bool Replace(const std::string& path, const Content& content, Protection protection) {
   struct stat old;
   // Asked by the name as given: the system may forbid to follow a link that somebody else has put
   // into a folder of everybody's.
   const bool exists = stat(path.c_str(), &old) == 0;
-  if (!exists) return errno == ENOENT && ReplaceByRename(path, wanted, nullptr) == Outcome::Done;
+  if (!exists) return errno == ENOENT && ReplaceByRename(path, content, nullptr) == Outcome::Done;
   if (!S_ISREG(old.st_mode)) return false;
   const std::optional<std::string> target = Resolved(path);
+  if (!target) return false;
   // Renaming would pass over a write protection of the file.
-  if (!target || faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) return false;
-  const Outcome outcome = ReplaceByRename(*target, wanted, &old);
-  if (outcome == Outcome::Refused) return WriteInPlace(*target, wanted);
+  if (protection == Protection::OfFile &&
+      faccessat(AT_FDCWD, target->c_str(), W_OK, AT_EACCESS) != 0) {
+    return false;
+  }
+  const Outcome outcome = ReplaceByRename(*target, content, &old);
+  if (outcome == Outcome::Refused) return WriteInPlace(*target, content);
   return outcome == Outcome::Done;
+}
+
+}  // namespace
+
+bool ReplaceFile(const std::string& path, std::string_view content, std::size_t offset) {
+  return Replace(path, {content, static_cast<off_t>(offset)}, Protection::OfFile);
+}
+
+bool ReplaceProtectedFile(const std::string& path, std::string_view content) {
+  return Replace(path, {content, 0}, Protection::OfFolder);
 }

@@ -14,6 +14,9 @@
 // though not surely on the device. A link is followed and stays; one that leads nowhere is
 // replaced.
 bool ReplaceFile(const std::string& path, std::string_view content, std::size_t offset = 0);
+// The same for a file whose write protection is its folder's to decide, as for a rename: it is
+// replaced and stays protected.
+bool ReplaceProtectedFile(const std::string& path, std::string_view content);
 // True when there is nothing of that name. What cannot be looked at does not count as missing.
 bool IsMissing(const std::string& path);
 // The whole regular file, nothing when it cannot be read. A file larger than `limit` bytes counts

@@ -39,7 +39,7 @@ void RegisterLayouts(const std::vector<std::string>& layouts) {
     added = source.Register(layout) || added;
   }
   if (added) {
-    ReplaceFile(ProgramFile("cpp"), source.Text());
+    ReplaceProtectedFile(ProgramFile("cpp"), source.Text());
   }
 }
 

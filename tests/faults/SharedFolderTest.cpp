@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "ProjData.h"
 #include "common/Child.h"
 #include "common/TempFolder.h"
 #include "faults/FileCalls.h"
@@ -135,6 +136,56 @@ TEST_F(SharedFolderTest, ALinkThatTheSystemForbidsToFollowIsNotFollowed) {
   EXPECT_FALSE(ReplaceFile(folder_.Path("link"), "new"));
   EXPECT_EQ(FileCalls::Heal(), "stat");
   EXPECT_EQ(folder_.Read("file"), "old");
+}
+
+// A source may be write-protected, as it comes from some version controls; its folder decides, as
+// for a rename.
+class ProtectedSource : public ProjectAtHand {
+ protected:
+  ProtectedSource() {
+    PtrnDataExit();
+    Folder.Write("source/Plant.cpp", Unregistered);
+    chmod(Source.c_str(), 0444);
+    for (const std::string& folder : {Folder.Path(), ProjectFolder, SourceFolder})
+      chmod(folder.c_str(), 0777);
+  }
+  bool GenerateAsPlainUser() const {
+    return HoldsForPlainUser([] {
+      LogicDataEdit3();
+      return true;
+    });
+  }
+
+  static constexpr const char* Unregistered = "// mine\nGetPtrnWnd\n\treturn NULL;\n";
+  const std::string Source = Folder.Path("source/Plant.cpp");
+};
+
+TEST_F(ProtectedSource, GetsItsLinesAndStaysProtected) {
+  ASSERT_TRUE(GenerateAsPlainUser());
+  const std::string text = Folder.Read("source/Plant.cpp");
+  EXPECT_THAT(text, testing::HasSubstr("strcmp(name, \"Screen\")"));
+  EXPECT_THAT(text, testing::HasSubstr("strcmp(name, \"Other\")"));
+  struct stat status {};
+  ASSERT_EQ(stat(Source.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0444U);
+}
+
+TEST_F(ProtectedSource, StaysAsItIsInAFolderThatIsProtectedToo) {
+  if (geteuid() != 0) GTEST_SKIP() << "the folder would be the user's own";
+  chmod(SourceFolder.c_str(), 0755);
+  ASSERT_TRUE(GenerateAsPlainUser());
+  EXPECT_EQ(Folder.Read("source/Plant.cpp"), Unregistered);
+}
+
+// Nothing but the source is written so: the header of the codes keeps to its own protection.
+TEST_F(ProtectedSource, NoOtherProtectedFileIsReplaced) {
+  Folder.Write("source/VarnixCode.h", "protected");
+  chmod(Folder.Path("source/VarnixCode.h").c_str(), 0444);
+  ASSERT_TRUE(HoldsForPlainUser([] {
+    LogicDataEdit2();
+    return true;
+  }));
+  EXPECT_EQ(Folder.Read("source/VarnixCode.h"), "protected");
 }
 
 class SharedUndoFolder : public ProjectAtHand {};
