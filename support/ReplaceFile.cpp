@@ -193,3 +193,10 @@ bool ReplaceFile(const std::string& path, std::string_view content, std::size_t 
 bool ReplaceProtectedFile(const std::string& path, std::string_view content) {
   return Replace(path, {content, 0}, Protection::OfFolder);
 }
+
+bool CopyBeside(const std::string& path, const std::string& copy) {
+  struct stat status;
+  if (stat(path.c_str(), &status) != 0) return false;
+  const std::optional<std::string> content = ReadWholeFile(path);
+  return content && ReplaceByRename(copy, {*content, 0}, &status) == Outcome::Done;
+}

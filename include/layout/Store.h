@@ -48,10 +48,14 @@ void PtrnFileInit(gint type);
 
 // How whole a layout file is. One that cannot be read counts as broken.
 enum class LayoutFileState { Whole, Missing, Broken };
-// Looks at the file's size and counts alone; reads nothing into the store.
-LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name);
-// What a damaged layout file still holds must outlive its rewriting: copies it to "<name>.ptn.bak".
-// False when that failed, so that the file must not be written.
+// Looks at the file's size and counts alone; reads nothing into the store. `items` takes the number
+// of items of a whole file, 0 of any other.
+LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name, gint* items = nullptr);
+// What a layout file holds must outlive its rewriting: copies it to "<name>.ptn.bak", which
+// replaces an older one. False when that failed, so that the file must not be written. An empty
+// file holds nothing.
+bool KeepPtrnFile(const gchar* path, const gchar* name);
+// The same for a damaged file alone; true of any other.
 bool KeepDamagedPtrnFile(const gchar* path, const gchar* name);
 // Short = missing, not whole, or without items. Failed = the device or the memory was at fault:
 // what the store holds then is less than the file does and must not be written back.

@@ -17,6 +17,10 @@ bool ReplaceFile(const std::string& path, std::string_view content, std::size_t 
 // The same for a file whose write protection is its folder's to decide, as for a rename: it is
 // replaced and stays protected.
 bool ReplaceProtectedFile(const std::string& path, std::string_view content);
+// Copies a regular file to another name, all or nothing, for nobody to read who could not read the
+// file. What stands there is replaced, a link itself and not what it leads to. False = failed, what
+// stood there stands.
+bool CopyBeside(const std::string& path, const std::string& copy);
 // True when there is nothing of that name. What cannot be looked at does not count as missing.
 bool IsMissing(const std::string& path);
 // The whole regular file, nothing when it cannot be read. A file larger than `limit` bytes counts

@@ -5,6 +5,7 @@
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "layout/edit/OwnFile.h"
 #include "support/Profile.h"
 #include "support/Text.h"
 
@@ -68,6 +69,7 @@ void PtrnDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
   }
   PtrnFlag = 1;
   PtrnDataInit();
+  TakeOwnFile();
   // What the device delivers in part is not opened: saving it would lose the rest. A file that is
   // missing or damaged opens with what there is.
   if (ReadPtrnFile(ProjPath, PtrnName) == LayoutReading::Failed) {

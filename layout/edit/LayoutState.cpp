@@ -8,6 +8,7 @@
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/MouseStates.h"
+#include "layout/edit/OwnFile.h"
 
 void PtrnDataInit() {
   PtrnType = 0;
@@ -15,12 +16,9 @@ void PtrnDataInit() {
   ColorCode = 0;
   std::fill(std::begin(PtrnUnSlct), std::end(PtrnUnSlct), 0);
   IntPtrnData();
+  ForgetOwnFile();
   PtrnSaveInit();
   SetCursor(CursorPlain);
-}
-
-bool SaveLayout() {
-  return KeepDamagedPtrnFile(ProjPath, PtrnName) && WritePtrnFile(ProjPath, PtrnName);
 }
 
 void PtrnDataExit() {

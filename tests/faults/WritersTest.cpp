@@ -72,6 +72,25 @@ const Writer Writers[] = {
        PtrnDataSave(nullptr, nullptr);
        return PtrnFlag == 1;
      }},
+    {"SaveOverAnother", true,
+     [](const auto& folder) {
+       ChangeLayout(folder);
+       CopyText(PtrnHedr.PtrnName1, "Other");
+       CopyText(PtrnName, "Other");
+     },
+     [](const auto&) {
+       PtrnDataSave(nullptr, nullptr);
+       return PtrnFlag == 1;
+     }},
+    {"SaveOfNoItems", true,
+     [](const auto&) {
+       DelPtrnData(0);
+       PtrnFlag = 2;
+     },
+     [](const auto&) {
+       PtrnDataSave(nullptr, nullptr);
+       return PtrnFlag == 1;
+     }},
     {"ProjectFile", false, ChangeProject,
      [](const auto&) { return ProjFileWrite(ProjPath, ProjName) != 0; }},
     {"StartScreen", false,
