@@ -3,6 +3,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
 #include "layout/Screen.h"
+#include "support/KeptResources.h"
 
 bool TakePicture(const gchar* chosen, DLG_EDITBOX* row, std::string* folder) {
   gchar path[PathSize];
@@ -19,7 +20,8 @@ bool TakePicture(const gchar* chosen, DLG_EDITBOX* row, std::string* folder) {
     return false;
   }
   if (folder != nullptr) *folder = path;
-  if (BmapPath[0] != '\0') FileCopy(path, name, ext, BmapPath, stored.c_str(), ext);
+  const bool waits = folder != nullptr && ResourcesAreNewProjects();
+  if (BmapPath[0] != '\0' && !waits) FileCopy(path, name, ext, BmapPath, stored.c_str(), ext);
   ShowChoice(row, bare);
   return true;
 }

@@ -14,4 +14,5 @@ void LoadColrFile() {
 void SaveColrFile() {
   SetDrawColr();
   Palette.Save();
+  KeepSavedPalette();
 }

@@ -7,6 +7,7 @@
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "support/FileTools.h"
+#include "support/KeptResources.h"
 
 template <typename Table>
 class ResourceFile {
@@ -19,9 +20,10 @@ class ResourceFile {
     unread_ = !read && FileSize(ProjPath, name_, "") >= Size ? Path() : std::string();
   }
   // The zeros that stand for a file that is there but could not be read do not replace it. Without
-  // a folder there is no project to write to.
+  // a folder there is no project to write to, and a new project's table is none of the open one's.
   void Save() const {
-    if (ProjPath[0] == '\0' || (unread_ == Path() && IsBlank())) return;
+    if (ProjPath[0] == '\0' || ResourcesAreNewProjects() || (unread_ == Path() && IsBlank()))
+      return;
     FileWrite(ProjPath, name_, "", &table_, Size, 0);
   }
 

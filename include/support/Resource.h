@@ -54,7 +54,7 @@ void MarkDataSet(gint markno, MARKDATA* markdata, gint xno, gint yno, gint data)
 
 // Reads "PtrnColr" of the project folder, zeros when missing or short, and rebuilds the colours.
 void LoadColrFile();
-// Rebuilds the colours and writes "PtrnColr".
+// Rebuilds the colours and writes "PtrnColr", except while the settings of a new project are shown.
 void SaveColrFile();
 // The same for the marks and "PtrnMark".
 void LoadMarkFile();

@@ -7,7 +7,7 @@
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
-#include "project/edit/KeptResources.h"
+#include "support/KeptResources.h"
 
 namespace {
 
@@ -65,6 +65,42 @@ void ClearResources() {
   std::fill(std::begin(MarkData), std::end(MarkData), MARKDATA{});
 }
 
+void RepaintLayout() {
+  if (PtrnFlag != 0) {
+    DrawRequest(1);
+  }
+}
+
+// Shows the settings of a new project. Its palette and marks are in memory as long as they are
+// shown, and stay there when they are registered.
+bool NewProjectConfirmed() {
+  const KeptResources kept(SettingsOf::NewProject);
+  ClearResources();
+  ProjSetDefault();
+  if (SettingsConfirmed()) {
+    return true;
+  }
+  kept.RestorePalette();
+  kept.RestoreMarks();
+  SetDrawColr();
+  SetDrawMark();
+  RepaintLayout();
+  return false;
+}
+
+// Shows the settings of the open project. Restored defaults go when they are cancelled.
+bool ChangesConfirmed() {
+  const KeptResources kept(SettingsOf::OpenProject);
+  if (SettingsConfirmed()) {
+    return true;
+  }
+  if (kept.RestorePalette()) {
+    SetDrawColr();
+    RepaintLayout();
+  }
+  return false;
+}
+
 // The working copies become the project.
 void TakeSettings() {
   PtrnFlag = 0;
@@ -92,14 +128,7 @@ void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer d
   }
   CopyText(EditName, ProfileReadAsc1("", "PROJDATA", "NAME"));
   CopyText(EditPath, ProfileReadAsc1("", "PROJDATA", "PTRN"));
-  // The palette editor of the dialog writes into the project that is still open.
-  const KeptResources kept;
-  ClearResources();
-  ProjSetDefault();
-  const bool confirmed = SettingsConfirmed();
-  kept.RestoreFile();
-  if (!confirmed) {
-    kept.Restore();
+  if (!NewProjectConfirmed()) {
     return;
   }
   ProjFlag = 1;
@@ -134,12 +163,7 @@ void ProjDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
   EditData = ProjData;
   CopyText(EditName, FieldText(ProjName));
   CopyText(EditPath, FieldText(ProjPath));
-  const KeptResources kept;
-  if (!SettingsConfirmed()) {
-    // Restored defaults go; a palette that its own editor saved stays.
-    if (!kept.FileRewritten()) {
-      kept.Restore();
-    }
+  if (!ChangesConfirmed()) {
     return;
   }
   ProjFileCopy2(ProjPath, EditPath);

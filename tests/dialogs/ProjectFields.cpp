@@ -123,13 +123,16 @@ class ProjectFields : public WindowTest {
   }
   ~ProjectFields() override { g_setenv("HOME", OldHome.c_str(), TRUE); }
 
-  // Opens the settings of the open project as the menu does.
-  static void Edit(const std::function<void(GtkWidget*)>& act) {
+  // Opens the settings as the menu does: those of the open project, or of a new one.
+  static void Edit(const std::function<void(GtkWidget*)>& act) { Open(ProjDataEdit, act); }
+  static void Create(const std::function<void(GtkWidget*)>& act) { Open(ProjDataNew, act); }
+  static void Open(void (*command)(GtkWidget*, gpointer),
+                   const std::function<void(GtkWidget*)>& act) {
     const DialogAnswer answer(Title, [&](GtkWidget* dialog) {
       act(dialog);
       if (FindWindow(Title) == dialog) CloseByManager(dialog);
     });
-    ProjDataEdit(nullptr, nullptr);
+    command(nullptr, nullptr);
   }
 
   TempFolder Home;
@@ -288,6 +291,25 @@ TEST_F(ProjectFields, TheLogoFollowsTheProjectToAnotherFolder) {
     PressButton(" 登録 ")(dialog);
   });
   EXPECT_EQ(other.Read("Bitmap/logo.png"), "picture");
+}
+
+// It waits for the folder that the project will have.
+TEST_F(ProjectFields, TheLogoOfANewProjectStaysOutOfTheOpenOne) {
+  Home.Write("pictures/logo.png", "picture");
+  TempFolder fresh;
+  Create([&fresh](GtkWidget* dialog) {
+    CopyText(EditName, "fresh");
+    CopyText(EditPath, fresh.Path());
+    CopyText(EditData.ProgPath, fresh.Path());
+    {
+      const DialogAnswer answer("ロゴマーク選択", ChooseFirstFile);
+      PressBrowse(dialog, Parent, 1);
+    }
+    EXPECT_STREQ(EditData.LogoName, "logo.png");
+    PressButton(" 登録 ")(dialog);
+  });
+  EXPECT_EQ(fresh.Read("Bitmap/logo.png"), "picture");
+  EXPECT_FALSE(Works.Exists("Bitmap/logo.png"));
 }
 
 TEST_F(ProjectFields, ALogoOfTheBitmapFolderIsNotCopiedASecondTime) {

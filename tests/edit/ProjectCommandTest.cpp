@@ -5,6 +5,7 @@
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "edit/EditFixture.h"
+#include "render/Primitives.h"
 
 namespace {
 
@@ -14,6 +15,23 @@ using testing::HasSubstr;
 constexpr const char* SettingsDialog = "EditProjData プロジェクトの新規作成";
 
 enum SettingsResult { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
+
+// What is drawn with colour 7 and mark 9: the colour's red, and the first eight pixels of the mark.
+gint DrawnRed() {
+  return DrawColr[7].red;
+}
+std::string DrawnMark() {
+  return std::string(Mark_XPM[9].data[MarkHeaderLines]).substr(0, 8);
+}
+// What the editors of palette and marks do.
+void SaveColour(gint red) {
+  ColrData[7] = {red, 80, 90};
+  SaveColrFile();
+}
+void SaveMark(guint8 byte) {
+  MarkData[9].mark[0] = byte;
+  SaveMarkFile();
+}
 
 class ProjectCommandTest : public EditFixture {
  protected:
@@ -129,10 +147,17 @@ TEST_F(ProjectCommandTest, RestoredDefaultsReopenTheSettings) {
 
 TEST_F(ProjectCommandTest, ACancelledNewProjectChangesNothing) {
   const std::string palette = Folder.Read("project/PtrnColr");
-  Screen.ProjectSettings = [] {
+  const std::string marks = Folder.Read("project/PtrnMark");
+  Screen.ProjectSettings = [&] {
     CopyText(EditName, "Fresh");
-    ColrData[7] = {70, 80, 90};
-    SaveColrFile();  // as the palette editor of the dialog does
+    SaveColour(70);
+    SaveMark(0x0F);
+    EXPECT_EQ(ColrData[7].red, 70);
+    EXPECT_EQ(DrawnRed(), 70);
+    EXPECT_EQ(DrawnMark(), "XXXX....");
+    // Not for a moment.
+    EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
+    EXPECT_EQ(Folder.Read("project/PtrnMark"), marks);
     return gint{Cancelled};
   };
   ProjDataNew(nullptr, nullptr);
@@ -140,22 +165,81 @@ TEST_F(ProjectCommandTest, ACancelledNewProjectChangesNothing) {
   EXPECT_EQ(std::string(ProjPath), ProjectFolder);
   EXPECT_EQ(ColrData[7].red, 1);
   EXPECT_EQ(MarkData[9].mark[0], 0x5A);
+  EXPECT_EQ(DrawnRed(), 1);
+  EXPECT_EQ(DrawnMark(), ".X.XX.X.");
   EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
+  EXPECT_EQ(Folder.Read("project/PtrnMark"), marks);
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog));
 }
 
-TEST_F(ProjectCommandTest, TheOldProjectKeepsItsPaletteWhenANewOneIsRegistered) {
+TEST_F(ProjectCommandTest, ACancelledNewProjectMakesNoFilesInTheOpenOne) {
+  std::filesystem::remove(Folder.Path("project/PtrnColr"));
+  std::filesystem::remove(Folder.Path("project/PtrnMark"));
+  Screen.ProjectSettings = [] {
+    SaveColour(70);
+    SaveMark(0x0F);
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_FALSE(Folder.Exists("project/PtrnColr"));
+  EXPECT_FALSE(Folder.Exists("project/PtrnMark"));
+}
+
+TEST_F(ProjectCommandTest, ACancelledNewProjectRepaintsTheLayoutOpenedBeside) {
+  Screen.ProjectSettings = [] {
+    PtrnFlag = 1;
+    SaveColour(70);
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_EQ(DrawnRed(), 1);
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog, "DrawRequest 1"));
+}
+
+TEST_F(ProjectCommandTest, EditorsWriteAgainOnceTheNewProjectIsCancelled) {
+  ProjDataNew(nullptr, nullptr);
+  SaveColour(70);
+  SaveMark(0x0F);
+  EXPECT_EQ(Folder.Read("project/PtrnColr")[84], 'F');
+  EXPECT_EQ(Folder.Read("project/PtrnMark")[9 * 512], 0x0F);
+}
+
+TEST_F(ProjectCommandTest, WhatTheEditorsSaveBesideNewSettingsIsTheNewProjects) {
   const std::string palette = Folder.Read("project/PtrnColr");
+  const std::string marks = Folder.Read("project/PtrnMark");
   Screen.ProjectSettings = [this] {
     CopyText(EditName, "Fresh");
     CopyText(EditPath, NewFolder());
-    ColrData[7] = {70, 80, 90};
-    SaveColrFile();
+    SaveColour(70);
+    SaveMark(0x0F);
     return gint{Registered};
   };
   ProjDataNew(nullptr, nullptr);
   EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
-  EXPECT_NE(Folder.Read("new/PtrnColr"), palette);
+  EXPECT_EQ(Folder.Read("project/PtrnMark"), marks);
+  EXPECT_EQ(Folder.Read("new/PtrnColr")[84], 'F');
+  EXPECT_EQ(Folder.Read("new/PtrnMark")[9 * 512], 0x0F);
   EXPECT_EQ(ColrData[7].red, 70);
+  EXPECT_EQ(MarkData[9].mark[0], 0x0F);
+}
+
+// A layout that is to stay open reopens the settings, and they are the new project's still.
+TEST_F(ProjectCommandTest, ReopenedSettingsOfANewProjectWriteNothingEither) {
+  const std::string palette = Folder.Read("project/PtrnColr");
+  Screen.ProjectSettings = [] {
+    Screen.ProjectSettings = [] {
+      SaveColour(71);
+      return gint{Cancelled};
+    };
+    PtrnFlag = 2;
+    return gint{Registered};
+  };
+  Screen.MessageAnswers = {0};
+  ProjDataNew(nullptr, nullptr);
+  EXPECT_EQ(Screen.Count(SettingsDialog), 2);
+  EXPECT_EQ(Folder.Read("project/PtrnColr"), palette);
+  EXPECT_EQ(ColrData[7].red, 1);
+  PtrnFlag = 0;
 }
 
 TEST_F(ProjectCommandTest, ThePaletteOfTheFirstProjectWaitsForItsFolder) {
@@ -328,14 +412,78 @@ TEST_F(ProjectCommandTest, ALayoutOpenBeforeTheSettingsGoesWithoutAQuestion) {
   }
 }
 
-TEST_F(ProjectCommandTest, APaletteSavedByItsEditorOutlivesCancelledSettings) {
+TEST_F(ProjectCommandTest, WhatTheEditorsSaveOutlivesCancelledSettings) {
   Screen.ProjectSettings = [] {
-    ColrData[7] = {70, 80, 90};
-    SaveColrFile();
+    SaveColour(70);
+    SaveMark(0x0F);
     return gint{Cancelled};
   };
   ProjDataEdit(nullptr, nullptr);
   EXPECT_EQ(ColrData[7].red, 70);
+  EXPECT_EQ(MarkData[9].mark[0], 0x0F);
+  EXPECT_EQ(DrawnRed(), 70);
+  EXPECT_EQ(DrawnMark(), "XXXX....");
+  EXPECT_EQ(Folder.Read("project/PtrnColr")[84], 'F');
+  EXPECT_EQ(Folder.Read("project/PtrnMark")[9 * 512], 0x0F);
+}
+
+// The marks were saved, the palette was not: each is looked at by itself.
+TEST_F(ProjectCommandTest, RestoredDefaultsGoWithCancelledSettingsWhateverWasSavedBefore) {
+  for (const bool saved : {false, true}) {
+    SaveColour(1);
+    Screen.ProjectSettings = [saved] {
+      if (saved) SaveColour(70);
+      SaveMark(0x0F);
+      ProjSetDefault();  // as its button does; the profile is empty
+      SaveMark(0x33);
+      Screen.ProjectSettings = nullptr;  // then cancelled
+      return gint{DefaultsRestored};
+    };
+    ProjDataEdit(nullptr, nullptr);
+    EXPECT_EQ(ColrData[7].red, saved ? 70 : 1);
+    EXPECT_EQ(DrawnRed(), saved ? 70 : 1);
+    EXPECT_EQ(MarkData[9].mark[0], 0x33);
+    // The next save writes no defaults.
+    SaveColrFile();
+    EXPECT_EQ(Folder.Read("project/PtrnColr")[84], saved ? 'F' : '\1');
+  }
+}
+
+TEST_F(ProjectCommandTest, DefaultsThatAnEditorSavedAreSaved) {
+  Screen.ProjectSettings = [] {
+    Screen.ProjectSettings = [] {
+      SaveColour(70);
+      return gint{Cancelled};
+    };
+    ProjSetDefault();
+    return gint{DefaultsRestored};
+  };
+  ColrData[8].red = 5;
+  SaveColrFile();
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(ColrData[8].red, 0);
+  EXPECT_EQ(ColrData[7].red, 70);
+}
+
+// The shades of a work area are made of the palette itself.
+TEST_F(ProjectCommandTest, CancelledDefaultsRepaintTheLayoutOpenedBeside) {
+  Screen.ProjectSettings = [] {
+    ProjSetDefault();
+    PtrnFlag = 1;
+    Screen.ProjectSettings = nullptr;
+    return gint{DefaultsRestored};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog, SettingsDialog, "DrawRequest 1"));
+}
+
+TEST_F(ProjectCommandTest, CancelledSettingsWithoutDefaultsRepaintNothing) {
+  Screen.ProjectSettings = [] {
+    PtrnFlag = 1;
+    return gint{Cancelled};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog));
 }
 
 }  // namespace
