@@ -49,8 +49,6 @@ void NameFolders(const fs::path& home, const fs::path& program) {
   };
   const std::string projects = (home / "Projects").string();
   replace("WINDOW", "900,720");
-  replace("PTRN", projects + "/NewProject");
-  replace("PROG", projects + "/Logic");
   replace("PROJNAME0", "WaterWorks," + projects + "/WaterWorks\nPROJNAME1=" +
                            EucFromUtf8("ポンプ場").value() + "," + projects + "/PumpStation");
   std::ofstream(program / "VarnixMaster.ini", std::ios::binary | std::ios::trunc) << text;

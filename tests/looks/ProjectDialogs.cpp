@@ -60,8 +60,6 @@ TEST_F(ProjectDialogs, MessageBox) {
   Play([] {
     ChooseMenu(MenuBar(), {"ファイル", Settings});
     const Panel settings(Settings);
-    settings.Enter(Cell{"プロジェクト名"}, " ");
-    PressKey(GDK_KEY_BackSpace);
     settings.Press(" 登録 ");
     ShowAndLeave("message-1", "入力エラー");
     EscapeFrom(Settings);

@@ -107,7 +107,10 @@ expect "a project by its bytes" [ "$(type_of "$work/project")" = application/x-v
 expect "a layout by its bytes" [ "$(type_of "$work/layout")" = application/x-varnixmaster-layout ]
 
 step "upgrade"
-LC_ALL=C sed -i 's/^FONTNAME0=.*/FONTNAME0=mine,-mine-/' "$data/VarnixMaster.ini"
+for key in NAME PTRN PROG TITLE; do
+  expect "a suggested $key" grep -aqx "$key=" "$data/VarnixMaster.ini"
+done
+LC_ALL=C sed -i 's/^FONTNAME0=.*/FONTNAME0=mine,-mine-/; s|^PTRN=.*|PTRN=/mine|' "$data/VarnixMaster.ini"
 size=$(grep -a '^WINDOW=' "$data/VarnixMaster.ini")
 echo mine >"$data/Sample/mine.ptn"
 echo mine >"$data/Sample/PtrnText1"
@@ -127,6 +130,7 @@ close_all
 expect "a new file is missing" [ "$(cat "$data/next.bmp")" = next ]
 expect "an old file stays" [ "$(cat "$data/Orvalis.bmp")" = next ]
 expect "the user's key is gone" grep -aq '^FONTNAME0=mine,-mine-$' "$data/VarnixMaster.ini"
+expect "the user's folder is gone" grep -aqx 'PTRN=/mine' "$data/VarnixMaster.ini"
 expect "a new value is missing" grep -aq '^FONTNAME1=next,-next-$' "$data/VarnixMaster.ini"
 expect "the window size is gone" grep -aqx "$size" "$data/VarnixMaster.ini"
 expect "the user's layout is gone" [ "$(cat "$data/Sample/mine.ptn")" = mine ]

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "PtrnMisc.h"
@@ -52,8 +54,15 @@ TEST_F(ShippedProfile, FillsEveryDefaultOfANewProject) {
               fields)
         << key;
   }
-  for (const gchar* key : {"NAME", "PTRN", "PROG"})
-    EXPECT_STRNE(ProfileReadAsc1("", "PROJDATA", key), "") << key;
+}
+
+// Whatever were suggested, the second project would be made over the first, and the second layout
+// saved over the first. The keys are there for who wants suggestions.
+TEST_F(ShippedProfile, SuggestsNoNameAndNoFolder) {
+  std::ifstream file(TEST_BUILD_DIR "/shipped/VarnixMaster.ini", std::ios::binary);
+  const std::string shipped(std::istreambuf_iterator<char>(file), {});
+  for (const gchar* key : {"NAME", "PTRN", "PROG", "TITLE"})
+    EXPECT_THAT(shipped, testing::HasSubstr("\n" + std::string(key) + "=\n"));
 }
 
 TEST_F(ShippedProfile, GivesEachItemTypeTwentySixInitialValues) {

@@ -147,6 +147,26 @@ TEST_F(Upgrade, MergesTheProfileKeyByKey) {
                 "\n[GRID]\nSTEP=8\nWIDE=9\n");
 }
 
+TEST_F(Upgrade, LeavesASuggestionThatTheUserSetAndTakesTheOthersBack) {
+  Ship({{"VarnixMaster.ini",
+         "[PROJDATA]\nNAME=NewProject\nPTRN=@PROGRAM_FOLDER@/NewProject\n"
+         "PROG=@PROGRAM_FOLDER@/NewProgram\n[PTRNDATA]\nTITLE=New screen\n"}});
+  Fill();
+  const std::string home = folder_.Path("home");
+  Change("VarnixMaster.ini", "[PROJDATA]\nNAME=NewProject\nPTRN=/mine\nPROG=" + home +
+                                 "/NewProgram\n[PTRNDATA]\nTITLE=Mine\n");
+  Ship({{"VarnixMaster.ini", "[PROJDATA]\nNAME=\nPTRN=\nPROG=\n[PTRNDATA]\nTITLE=\n"}});
+  Fill();
+  EXPECT_EQ(Mine("VarnixMaster.ini"),
+            "[PROJDATA]\nNAME=\nPTRN=/mine\nPROG=\n[PTRNDATA]\nTITLE=Mine\n");
+  // What is set afterwards outlives every further upgrade.
+  Change("VarnixMaster.ini", "[PROJDATA]\nNAME=own\nPTRN=/mine\nPROG=\n[PTRNDATA]\nTITLE=\n");
+  Ship({{"VarnixMaster.ini", "[PROJDATA]\nNAME=\nPTRN=\nPROG=\n[PTRNDATA]\nTITLE=\n"}});
+  Fill();
+  EXPECT_EQ(Mine("VarnixMaster.ini"),
+            "[PROJDATA]\nNAME=own\nPTRN=/mine\nPROG=\n[PTRNDATA]\nTITLE=\n");
+}
+
 TEST_F(Upgrade, CountsTheFirstOfTwoSectionsOfOneName) {
   Ship({{"VarnixMaster.ini", "[A]\nx=1\n"}});
   Fill();
