@@ -74,7 +74,7 @@ void RepaintLayout() {
 // Shows the settings of a new project. Its palette and marks are in memory as long as they are
 // shown, and stay there when they are registered.
 bool NewProjectConfirmed() {
-  const KeptResources kept(SettingsOf::NewProject);
+  KeptResources kept(SettingsOf::NewProject);
   ClearResources();
   ProjSetDefault();
   if (SettingsConfirmed()) {
@@ -90,7 +90,7 @@ bool NewProjectConfirmed() {
 
 // Shows the settings of the open project. Restored defaults go when they are cancelled.
 bool ChangesConfirmed() {
-  const KeptResources kept(SettingsOf::OpenProject);
+  KeptResources kept(SettingsOf::OpenProject);
   if (SettingsConfirmed()) {
     return true;
   }
