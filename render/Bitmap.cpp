@@ -18,7 +18,7 @@ void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint heig
               [&] { return PixbufPtr(GDK_PIXBUF(g_object_ref(file.picture))); });
     return;
   }
-  // The low byte of each channel is the key, not the high one that is shown. That is meant so.
+  // Kept: the low byte of each channel is the key, not the high one that is shown.
   const DRAWCOLR& colour = DrawColr[transparent];
   const guint8 red = colour.red & 0xff, green = colour.green & 0xff, blue = colour.blue & 0xff;
   PaintKept(*drawable, box, {file.source, -1, red << 16 | green << 8 | blue}, true,

@@ -25,8 +25,7 @@ std::string CalendarText(gint format, const std::tm& time) {
   const int day = time.tm_wday >= 0 && time.tm_wday <= 6 ? time.tm_wday : 0;
   const char* const dayName = format > 3 ? JapaneseDays[day] : EnglishDays[day];
   char text[128];
-  // A pattern of fewer fields ignores the rest. The month is shown zero-based (January = 00), on
-  // purpose.
+  // A pattern of fewer fields ignores the rest. Kept: the month counts from 0, January is 00.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
   std::snprintf(text, sizeof text, Patterns[format], time.tm_year + 1900, time.tm_mon, time.tm_mday,

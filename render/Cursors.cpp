@@ -17,8 +17,8 @@ constexpr gint ColourLines = 3;
 }  // namespace
 
 void SetXpmColr(const gchar** xpm, gint no) {
-  // The pictures paint their middle colour with ".", yet its line is written for ",": a configured
-  // second colour leaves "." without a definition. That is meant so.
+  // Kept: the pictures paint their middle colour with ".", yet its line is written for ",". A
+  // configured second colour leaves "." without a definition.
   static constexpr gchar characters[ColourLines] = {' ', ',', 'X'};
   static gchar lines[3][ColourLines][20];
   if (no < 1 || no > 3) {
@@ -55,7 +55,7 @@ void MakeCursor(const gchar* const* xpm, guint8* data, guint8* mask) {
 void XPM_DataInit() {
   SetXpmColr(XPM_Printer, 1);
   SetXpmColr(XPM_SpinButn, 2);
-  // XPM_DownArrow1 stands in the place of XPM_DownArrow2 as well, which keeps its built-in colours.
+  // Kept: XPM_DownArrow1 stands in place of XPM_DownArrow2, too, which keeps its built-in colours.
   const gchar** const arrows[] = {XPM_LeftArrow1, XPM_LeftArrow2, XPM_RightArrow1, XPM_RightArrow2,
                                   XPM_UpArrow1,   XPM_UpArrow2,   XPM_DownArrow1,  XPM_DownArrow1};
   for (const gchar** arrow : arrows) {

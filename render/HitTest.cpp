@@ -104,7 +104,7 @@ gint SearchPtrnData02(const POINT* point, const PTRNDATA* item) {
   const ItemBox line = ItemBoxOf(*item);
   if (NearPoint(at, line.X1, line.Y1)) return 1;
   if (NearPoint(at, line.X2, line.Y2)) return 2;
-  // Vertical lines are caught one dot further away than horizontal ones, on purpose.
+  // Kept: 5 dots either side of a vertical line, 4 of a horizontal one.
   if (line.X1 == line.X2) {
     return BodyIf(PointInRect(&at, line.X1 - 5, line.Y1, line.X1 + 5, line.Y2) != 0);
   }
@@ -135,7 +135,7 @@ gint SearchPtrnData06(const POINT* point, const PTRNDATA* item) {
   const gint width = OnPlane(item->Size.cx);
   const gint height = OnPlane(item->Size.cy);
   if (width == 0 && height == 0) {
-    // Narrower to the left, on purpose.
+    // Kept: 5 dots around the point, to the left only 1.
     return BodyIf(PointInRect(&at, anchor.x - 1, anchor.y - 5, anchor.x + 5, anchor.y + 5) != 0);
   }
   return BodyIf(PointInRect(&at, anchor.x, anchor.y, anchor.x + width, anchor.y + height) != 0);

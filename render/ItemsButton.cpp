@@ -16,7 +16,7 @@ void DrawTopLeftBorder(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint 
   }
 }
 
-// Its upright lies one column right of the face, on purpose.
+// Kept: its upright begins at X2, one column right of the face, which ends before it.
 void DrawBottomRightBorder(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint width,
                            gint colour) {
   for (gint k = 0; k < width; ++k) {

@@ -21,8 +21,7 @@ void DrawGradation(Drawable* drawable, const PageArea& page) {
   }
   const gint rows = page.WorkHeight();
   for (gint row = 0; row < rows; ++row) {
-    // The rows start one pixel below the title area and reach one pixel past the right edge, on
-    // purpose.
+    // Kept: the rows start one pixel below the title area and reach one pixel past the right edge.
     FillPixels(drawable, 0, page.TitleHeight + row + 1, page.Width + 1, 1,
                shades[static_cast<std::size_t>(GradationShade(row, rows))]);
   }

@@ -14,8 +14,8 @@ OffsetRange StraightOffsets(gint64 width, gint position) {
 }
 
 // Offsets of the copies of a slanted line. Copy k lies at -k / 2 for even and k / 2 - 1 for odd k:
-// 0, -1, -1, 0, -2, +1, -3, +2, ... The repeated offsets make the line thinner than its width; that
-// is meant so. The offsets leave no gap, so their ends say all. For widths above 1.
+// 0, -1, -1, 0, -2, +1, -3, +2, ... Kept: the repeated offsets make the line thinner than its
+// width. The offsets leave no gap, so their ends say all. For widths above 1.
 OffsetRange SlantedOffsets(gint64 width) {
   return {-std::max<gint64>(1, (width - 1) / 2), std::max<gint64>(0, width / 2 - 2)};
 }

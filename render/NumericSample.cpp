@@ -14,7 +14,7 @@ void NumericSample(const PTRNDATA* item, gchar* text, gsize size) {
     const gint point = digits - decimals - 1;
     if (decimals > 0 && point >= 0) sample[static_cast<std::size_t>(point)] = '.';
     if (item->Parm[TextSlot::Grouping] != 0) {
-      // The separator takes a digit's place, so an integer part of 4, 8, ... begins with one.
+      // Kept: the separator takes a digit's place; an integer part of 4, 8, ... begins with one.
       const gint whole = decimals > 0 ? point : digits;
       for (gint place = whole - 4; place >= 0; place -= 4) {
         sample[static_cast<std::size_t>(place)] = ',';

@@ -30,7 +30,7 @@ void PtrnFileClose_Entry(GtkEditable* /*entry*/, gpointer /*data*/) {
   EnableActions();
 }
 
-// The question is about the name in the entry; the caller writes under the layout's own.
+// Kept: the question is about the name in the entry; the caller writes under the layout's own.
 void PtrnFileClose_Save(GtkWidget* /*button*/, GtkWidget* dialog) {
   if (PtrnFileName[0] == '\0') return;
   if (FileExist(ProjPath, PtrnFileName, "ptn") != 0 &&

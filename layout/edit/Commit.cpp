@@ -47,7 +47,7 @@ void StoreItem() {
 
 void RegisterTexts() {
   PtrnData.RegstFlag = 0;
-  // One less than the list numbers that the registry knows, so the texts reach lists 3, 3 and 1.
+  // Kept: one less than the list numbers that the registry knows; the texts reach lists 3, 3 and 1.
   RegstPtrnText(PtrnData.Text1, 0);
   RegstPtrnText(PtrnData.Text2, 1);
   RegstPtrnText(PtrnData.Text3, 2);

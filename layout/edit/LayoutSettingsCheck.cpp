@@ -13,7 +13,7 @@ bool TitleMissing() {
          (Language >= 2 && EditHedr.PtrnName3[0] == '\0');
 }
 
-// Adds the debug switch and a colour instead of the two heights; that is the rule users know.
+// Kept: adds the debug switch and the title area's colour number instead of the two heights.
 bool AreasTooLarge() {
   return static_cast<gint64>(EditHedr.Parm1[HedrSlot::DebugScreen]) +
              EditHedr.Parm1[HedrSlot::TitleAreaColour] >=

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The list for `k`. The commit counts its languages from 0, so the first two reach the third list
-// and the third the first; files of existing projects have it so.
+// The list for `k`. Kept: the commit counts its languages from 0, so the first two reach the third
+// list and the third the first; files of existing projects have it so.
 const gchar* ListName(gint k) {
   switch (k) {
     case 2:

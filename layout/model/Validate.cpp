@@ -88,7 +88,7 @@ bool MessageWithoutCode(const PTRNDATA& item) {
 bool OpeningWithoutName(const PTRNDATA& item) {
   return item.ID_Type >= 5 && item.ID_Type <= 8 && item.ID_Name[0] == '\0';
 }
-// Only the first character counts: "a-b" passes, so message 18 is never shown.
+// Kept: only the first character counts; "a-b" passes, so message 18 is never shown.
 bool BadCodeStart(const PTRNDATA& item) {
   const gchar first = item.ID_Code[0];
   return first != '\0' && first != '_' && !g_ascii_isalpha(first);
@@ -122,7 +122,7 @@ constexpr Rule Rules[] = {
 
     {TypeLine, BelowOne<LineSlot::Width>, LineWidthRange},
 
-    // The message names 0 as allowed; for a shape that is not filled it is not.
+    // Kept: the message names 0 as allowed; for a shape that is not filled it is not.
     {TypeRectangle, OpenWithoutLine, WidthRange},
     {TypeEllipse, OpenWithoutLine, WidthRange},
 

@@ -2,7 +2,7 @@
 #include "project/model/LogicSource.h"
 
 bool Occurs(std::string_view line, std::string_view text) {
-  // The last place is left out; lines end in a line feed, where nothing is lost.
+  // Kept: the last place is left out; lines end in a line feed, where nothing is lost.
   return !line.empty() && line.substr(0, line.size() - 1).find(text) != std::string_view::npos;
 }
 
