@@ -57,6 +57,9 @@ TEST_F(LayoutDialogs, CloseAndOverwrite) {
     Panel("レイアウトを閉じる").Press(" 保存 ");
     ShowAndLeave("message-2", "レイアウト保存");
     EscapeFrom("レイアウトを閉じる");
+    PressKey(GDK_KEY_o, {GDK_KEY_Control_L});
+    ShowAndLeave("message-save", "レイアウトデータ保存確認");
+    EXPECT_EQ(PtrnFlag, 2) << "leaving the question keeps the changed layout open";
   });
 }
 
