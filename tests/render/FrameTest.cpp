@@ -60,6 +60,29 @@ TEST_F(Frame, WithoutTitleAreaShowsNothingOfIt) {
   }
 }
 
+// The leftmost column of the title area that is not of its colour; the width without one.
+gint TitleBegins(const Drawable& picture) {
+  for (gint x = 0; x < 200; ++x)
+    for (gint y = 0; y < 30; ++y)
+      if (picture.At(x, y) != InkPixel[Ink::Navy]) return x;
+  return 200;
+}
+
+// As the project has it: the layout's own position is kept and shown nowhere.
+TEST_F(Frame, PutsItsTitleWhereTheProjectHasIt) {
+  SetHeader(200, 80);
+  SetTitleArea(30, "題名");
+  for (const gint position : {0, 1}) {
+    PtrnHedr.Parm1[HedrSlot::TitlePosition] = position;
+    PtrnHedr.Parm1[HedrSlot::TitleCentred] = 0;
+    EXPECT_LT(TitleBegins(*PaintOnViolet(200)), 50) << position;
+    PtrnHedr.Parm1[HedrSlot::TitleCentred] = 1;
+    const gint begins = TitleBegins(*PaintOnViolet(200));
+    EXPECT_GT(begins, 50) << position;
+    EXPECT_LT(begins, 100) << position;
+  }
+}
+
 TEST_F(Frame, ShadesRowsFromOneBelowTheTitleArea) {
   SetHeader(100, 80);
   SetTitleArea(20, "");
