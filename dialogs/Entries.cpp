@@ -1,9 +1,9 @@
-// Text entries. What the user types must be held by EUC-JP and fit into the record's field;
-// anything else is refused before it shows, so that entry and record never differ.
-#include <cstring>
+// Text entries. What the user types must be held by EUC-JP, and goes in as far as it fits into the
+// record's field; the rest never shows, so that entry and record never differ.
 #include <string>
 
 #include "dialogs/Cells.h"
+#include "dialogs/EntryLook.h"
 #include "dialogs/Kit.h"
 #include "support/Text.h"
 
@@ -11,55 +11,42 @@ GtkWidget* Dlg_EditBox_Parent = nullptr;
 
 namespace {
 
-constexpr const gchar* WarningIcon = "dialog-warning-symbolic";
-constexpr const gchar* HintKey = "varnix-hint";
+constexpr const gchar* RefusedKey = "varnix-refused";
 constexpr const gchar* NotEncodable = "日本語 EUC にない文字は入力できません。";
-constexpr const gchar* TooLong = "文字数の上限を超えるため入力できません。";
 
-// The tooltip of an entry that refuses nothing: how much it takes.
-void ShowHint(GtkWidget* entry) {
-  gtk_widget_set_tooltip_text(
-      entry, static_cast<const gchar*>(g_object_get_data(G_OBJECT(entry), HintKey)));
+// Whether the latest text that was to go into an entry did not, or not whole.
+bool LeftOut = false;
+
+gsize Limit(const DLG_EDITBOX& row) {
+  return static_cast<gsize>(MAX(row.size, 0));
 }
 
 void SetHint(GtkWidget* entry, const DLG_EDITBOX& row) {
   if (row.edit != 0) return;
-  const gint size = MAX(row.size, 0);
-  g_object_set_data_full(
-      G_OBJECT(entry), HintKey,
-      g_strdup_printf("半角 %d 文字、全角 %d 文字まで (%d バイト)", size, size / 2, size), g_free);
-  ShowHint(entry);
-}
-
-void MarkRefused(GtkWidget* entry, const gchar* reason) {
-  gtk_style_context_add_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
-  gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, WarningIcon);
-  gtk_entry_set_icon_tooltip_text(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, reason);
-  gtk_widget_set_tooltip_text(entry, reason);
-}
-
-// Says at the entry why the text was refused; the next accepted change takes it away.
-void ShowRefusal(GtkWidget* entry, const gchar* reason) {
-  MarkRefused(entry, reason);
-  gtk_widget_error_bell(entry);
+  const gsize size = Limit(row);
+  SetEntryHint(entry, "半角 " + std::to_string(size) + " 文字、全角 " + std::to_string(size / 2) +
+                          " 文字まで (" + std::to_string(size) + " バイト)");
 }
 
 bool IsRefused(GtkWidget* entry) {
-  return gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) != nullptr;
+  return g_object_get_data(G_OBJECT(entry), RefusedKey) != nullptr;
 }
 
 void ClearRefusal(GtkWidget* entry) {
-  if (!IsRefused(entry)) return;
-  gtk_style_context_remove_class(gtk_widget_get_style_context(entry), GTK_STYLE_CLASS_ERROR);
-  gtk_entry_set_icon_from_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY, nullptr);
-  ShowHint(entry);
+  g_object_set_data(G_OBJECT(entry), RefusedKey, nullptr);
+  UnmarkEntry(entry);
 }
 
-// Why the entry cannot take `text`, null when it can.
-const gchar* ReasonToRefuse(const std::string& text, gint size) {
-  const auto euc = EucFromUtf8(text);
-  if (!euc) return NotEncodable;
-  return euc->size() > static_cast<gsize>(MAX(size, 0)) ? TooLong : nullptr;
+// Says at the entry what became of the text; the next change takes it away.
+void Complain(GtkWidget* entry, const gchar* reason) {
+  LeftOut = true;
+  MarkEntry(entry, reason);
+  gtk_widget_error_bell(entry);
+}
+
+void Refuse(GtkWidget* entry, const gchar* reason) {
+  Complain(entry, reason);
+  g_object_set_data(G_OBJECT(entry), RefusedKey, entry);
 }
 
 // A change takes the mark of a refusal away, but not the deletion that makes room for a refused
@@ -68,44 +55,67 @@ void Dlg_EditBox_Delete(GtkEditable* entry, gint /*start*/, gint /*end*/, gpoint
   ClearRefusal(GTK_WIDGET(entry));
 }
 
-void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, const gint* position,
+// The whole characters at the front of `text` that `room` bytes of EUC-JP hold.
+std::string Fitting(const std::string& text, std::string_view euc, gsize room) {
+  const std::string taken = Utf8FromEuc(CutEuc(euc, room)).value_or("");
+  const glong count = g_utf8_strlen(taken.c_str(), -1);
+  return text.substr(
+      0, static_cast<gsize>(g_utf8_offset_to_pointer(text.c_str(), count) - text.c_str()));
+}
+
+// Enters the part that fits. The caller's position moves on with it, as an input method and a paste
+// expect.
+void Dlg_EditBox_Insert(GtkEditable* entry, const gchar* text, gint length, gint* position,
                         const DLG_EDITBOX* row) {
-  std::string whole = gtk_entry_get_text(GTK_ENTRY(entry));
-  const auto at = g_utf8_offset_to_pointer(whole.c_str(), *position) - whole.c_str();
-  const gsize bytes = length < 0 ? std::strlen(text) : static_cast<gsize>(length);
-  whole.insert(static_cast<gsize>(at), text, bytes);
-  if (const gchar* reason = ReasonToRefuse(whole, row->size)) {
-    g_signal_stop_emission_by_name(entry, "insert-text");
-    ShowRefusal(GTK_WIDGET(entry), reason);
-  } else {
-    ClearRefusal(GTK_WIDGET(entry));
+  GtkWidget* widget = GTK_WIDGET(entry);
+  const std::string added =
+      length < 0 ? std::string(text) : std::string(text, static_cast<gsize>(length));
+  const auto held = EucFromUtf8(gtk_entry_get_text(GTK_ENTRY(entry)));
+  const auto euc = EucFromUtf8(added);
+  const gsize limit = Limit(*row);
+  const gsize room = held && held->size() < limit ? limit - held->size() : 0;
+  if (held && euc && euc->size() <= room) {
+    LeftOut = false;
+    ClearRefusal(widget);
+    return;
   }
+  g_signal_stop_emission_by_name(entry, "insert-text");
+  if (!held || !euc) return Refuse(widget, NotEncodable);
+  const std::string part = Fitting(added, *euc, room);
+  if (part.empty()) return Refuse(widget, EntryTakesNoMore);
+  gtk_editable_insert_text(entry, part.c_str(), static_cast<gint>(part.size()), position);
+  Complain(widget, EntryTookAPart);
+}
+
+// Text dragged out of an entry stays there unless all of it has gone where it was dropped.
+void Dlg_EditBox_Moved(GtkWidget* entry, GdkDragContext* /*context*/, gpointer /*data*/) {
+  if (LeftOut) g_signal_stop_emission_by_name(entry, "drag-data-delete");
+}
+
+void Dlg_EditBox_Drag(GtkWidget* /*entry*/, GdkDragContext* /*context*/, gpointer /*data*/) {
+  LeftOut = false;
 }
 
 // Shows again what the record holds, under the mark of the refusal.
 void PutBack(GtkWidget* entry, const DLG_EDITBOX* row) {
   gchar* reason = gtk_entry_get_icon_tooltip_text(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY);
-  const std::string text(FieldText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1));
+  const std::string text(FieldText(row->text, Limit(*row) + 1));
   ShowRecordText(entry, text.c_str());
   gtk_editable_set_position(GTK_EDITABLE(entry), -1);
-  MarkRefused(entry, reason);
+  MarkEntry(entry, reason);
   g_free(reason);
 }
 
 // Stored bytes that are no text show escaped and may then be longer than the field; until they are
 // shortened to what fits, the record keeps what it holds.
 void Dlg_EditBox_Entry(GtkEditable* entry, const DLG_EDITBOX* row) {
+  GtkWidget* widget = GTK_WIDGET(entry);
   // A refused text changes nothing by itself: it was to replace another one, which is gone already.
-  if (IsRefused(GTK_WIDGET(entry))) {
-    PutBack(GTK_WIDGET(entry), row);
-    return;
-  }
-  const gchar* text = gtk_entry_get_text(GTK_ENTRY(entry));
-  if (const gchar* reason = ReasonToRefuse(text, row->size)) {
-    ShowRefusal(GTK_WIDGET(entry), reason);
-    return;
-  }
-  CopyText(row->text, static_cast<gsize>(MAX(row->size, 0)) + 1, EucFromUtf8(text).value_or(""));
+  if (IsRefused(widget)) return PutBack(widget, row);
+  const auto euc = EucFromUtf8(gtk_entry_get_text(GTK_ENTRY(entry)));
+  if (!euc) return Refuse(widget, NotEncodable);
+  if (euc->size() > Limit(*row)) return Refuse(widget, EntryTakesNoMore);
+  CopyText(row->text, Limit(*row) + 1, *euc);
 }
 
 }  // namespace
@@ -137,16 +147,17 @@ void Dlg_EditBox(GtkWidget* parent, GtkWidget* table, DLG_EDITBOX* rows) {
   Dlg_EditBox_Parent = parent;
   ForEachRow(rows, [table](DLG_EDITBOX& row) {
     GtkWidget* entry = gtk_entry_new();
-    const gsize size = static_cast<gsize>(MAX(row.size, 0));
-    gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(FieldText(row.text, size + 1)).c_str());
+    gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(FieldText(row.text, Limit(row) + 1)).c_str());
     gtk_editable_set_position(GTK_EDITABLE(entry), 0);
-    gtk_editable_set_editable(GTK_EDITABLE(entry), row.edit == 0);
+    if (row.edit != 0) MakeReadOnly(entry);
     g_object_set(entry, "truncate-multiline", TRUE, nullptr);
     SetHint(entry, row);
     gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
     g_signal_connect(entry, "delete-text", G_CALLBACK(Dlg_EditBox_Delete), nullptr);
     g_signal_connect(entry, "insert-text", G_CALLBACK(Dlg_EditBox_Insert), &row);
     g_signal_connect(entry, "changed", G_CALLBACK(Dlg_EditBox_Entry), &row);
+    g_signal_connect(entry, "drag-begin", G_CALLBACK(Dlg_EditBox_Drag), nullptr);
+    g_signal_connect(entry, "drag-data-delete", G_CALLBACK(Dlg_EditBox_Moved), nullptr);
     KeepWidget(&row.entry, entry);
     PlaceControl(table, entry, row);
   });

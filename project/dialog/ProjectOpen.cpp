@@ -8,6 +8,7 @@
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
+#include "dialogs/EntryLook.h"
 #include "dialogs/NameList.h"
 #include "support/FileTools.h"
 
@@ -105,7 +106,7 @@ void AddFolderEntry(const DialogWindow& dialog) {
   gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel(Label), FALSE, FALSE, 0);
   GtkWidget* entry = gtk_entry_new();
   SetAccessibleName(entry, Label);
-  gtk_editable_set_editable(GTK_EDITABLE(entry), FALSE);
+  MakeReadOnly(entry);
   gtk_widget_set_can_focus(entry, FALSE);
   gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 0);
   gtk_widget_show(entry);

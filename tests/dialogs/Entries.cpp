@@ -138,7 +138,38 @@ TEST_F(Entries, LookAlikesBecomeTheCharactersOfEucJp) {
   EXPECT_FALSE(IsRefused(entry));
 }
 
-TEST_F(Entries, ARefusedPasteOverASelectionSaysSo) {
+TEST_F(Entries, TakeWhatFitsAndSayThatItIsNotAll) {
+  GtkWidget* entry = NewEntry("");
+  Type(entry, "あいうえおか");
+  EXPECT_EQ(EntryText(entry), "あいうえお");
+  EXPECT_STREQ(Field, "\xA4\xA2\xA4\xA4\xA4\xA6\xA4\xA8\xA4\xAA");
+  EXPECT_TRUE(IsRefused(entry));
+  EXPECT_EQ(TooltipOf(entry), "文字数の上限までを入力しました。残りは入りません。");
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 0, 1);
+  EXPECT_FALSE(IsRefused(entry));
+  EXPECT_STREQ(Field, "\xA4\xA4\xA4\xA6\xA4\xA8\xA4\xAA");
+}
+
+TEST_F(Entries, TakeWholeCharactersAtTheCursorAndMoveItBehindThem) {
+  GtkWidget* entry = NewEntry("abcde");
+  gtk_editable_set_position(GTK_EDITABLE(entry), 3);
+  Type(entry, "日本語");
+  EXPECT_EQ(EntryText(entry), "abc日本de");
+  EXPECT_STREQ(Field, "abc\xC6\xFC\xCB\xDC\x64\x65");
+  EXPECT_EQ(gtk_editable_get_position(GTK_EDITABLE(entry)), 5);
+  Type(entry, "x");
+  EXPECT_EQ(EntryText(entry), "abc日本xde");
+}
+
+TEST_F(Entries, CountWhatIsStoredForALookAlike) {
+  GtkWidget* entry = NewEntry("12345678");
+  // Three bytes of UTF-8 each, two as they are stored.
+  Type(entry, "\uFF5E\uFF5E");
+  EXPECT_STREQ(Field, "12345678\xA1\xC1");
+  EXPECT_EQ(EntryText(entry), "12345678\uFF5E");
+}
+
+TEST_F(Entries, APasteOverASelectionTakesWhatFits) {
   GtkWidget* entry = NewEntry("abc");
   GtkClipboard* clipboard = gtk_widget_get_clipboard(entry, GDK_SELECTION_CLIPBOARD);
   gtk_clipboard_set_text(clipboard, "いろはにほへと", -1);
@@ -146,8 +177,42 @@ TEST_F(Entries, ARefusedPasteOverASelectionSaysSo) {
   gtk_editable_select_region(GTK_EDITABLE(entry), 0, 1);
   gtk_editable_paste_clipboard(GTK_EDITABLE(entry));
   EXPECT_TRUE(WaitFor([entry] { return IsRefused(entry); }));
-  EXPECT_EQ(EntryText(entry), "abc");
-  EXPECT_STREQ(Field, "abc");
+  EXPECT_EQ(EntryText(entry), "いろはにbc");
+  EXPECT_STREQ(Field, "\xA4\xA4\xA4\xED\xA4\xCF\xA4\xCB\x62\x63");
+}
+
+TEST_F(Entries, APasteOfWhichNothingFitsLeavesTheSelection) {
+  GtkWidget* entry = NewEntry("0123456789");
+  GtkClipboard* clipboard = gtk_widget_get_clipboard(entry, GDK_SELECTION_CLIPBOARD);
+  gtk_clipboard_set_text(clipboard, "日", -1);
+  gtk_widget_grab_focus(entry);
+  gtk_editable_select_region(GTK_EDITABLE(entry), 0, 1);
+  gtk_editable_paste_clipboard(GTK_EDITABLE(entry));
+  EXPECT_TRUE(WaitFor([entry] { return IsRefused(entry); }));
+  EXPECT_EQ(EntryText(entry), "0123456789");
+  EXPECT_STREQ(Field, "0123456789");
+}
+
+TEST_F(Entries, ATextThatReplacesAnotherIsTakenAsFarAsItFits) {
+  GtkWidget* entry = NewEntry("before");
+  gtk_entry_set_text(GTK_ENTRY(entry), "0123456789abc");
+  EXPECT_EQ(EntryText(entry), "0123456789");
+  EXPECT_STREQ(Field, "0123456789");
+  EXPECT_TRUE(IsRefused(entry));
+}
+
+TEST_F(Entries, ADraggedTextStaysWhereItWasUnlessAllOfItWentIn) {
+  GtkWidget* entry = NewEntry("0123456789");
+  const auto dragged = [entry](const gchar* text, gint to) {
+    gtk_editable_select_region(GTK_EDITABLE(entry), 0, 2);
+    gtk_editable_insert_text(GTK_EDITABLE(entry), text, -1, &to);
+    g_signal_emit_by_name(entry, "drag-data-delete", nullptr);
+  };
+  dragged("01", 10);
+  EXPECT_STREQ(Field, "0123456789");
+  gtk_editable_delete_text(GTK_EDITABLE(entry), 5, 10);
+  dragged("01", 5);
+  EXPECT_STREQ(Field, "23401");
 }
 
 TEST_F(Entries, ARefusedTextLeavesTheOneItWasToReplace) {
@@ -202,6 +267,31 @@ TEST_F(Entries, ReadOnlyOnesAreNotEditable) {
   EXPECT_FALSE(gtk_editable_get_editable(GTK_EDITABLE(entry)));
   Type(entry, "x");
   EXPECT_STREQ(Field, "abc");
+}
+
+TEST_F(Entries, ReadOnlyOnesLookSo) {
+  gchar other[Limit + 2] = "";
+  DLG_EDITBOX rows[] = {{1, 0, 0, Limit, 0, other, nullptr}, {-1, 0, 0, 0, 0, nullptr, nullptr}};
+  Dlg_EditBox(Form.Window, Form.Grid, rows);
+  GtkWidget* readOnly = NewEntry("", 1);
+  const auto ground = [](GtkWidget* entry) {
+    const gint width = gtk_widget_get_allocated_width(entry);
+    const gint height = gtk_widget_get_allocated_height(entry);
+    cairo_surface_t* picture = cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height);
+    cairo_t* cairo = cairo_create(picture);
+    gtk_widget_draw(entry, cairo);
+    cairo_destroy(cairo);
+    cairo_surface_flush(picture);
+    const unsigned char* row =
+        cairo_image_surface_get_data(picture) +
+        static_cast<ptrdiff_t>(height / 2) * cairo_image_surface_get_stride(picture);
+    guint32 pixel = 0;
+    std::memcpy(&pixel, row + static_cast<ptrdiff_t>(width / 2) * 4, sizeof pixel);
+    cairo_surface_destroy(picture);
+    return pixel & 0xffffff;
+  };
+  EXPECT_EQ(ground(rows[0].entry), 0xffffffU);
+  EXPECT_NE(ground(readOnly), 0xffffffU);
 }
 
 TEST_F(Entries, ShowingRecordBytesWritesNothing) {
