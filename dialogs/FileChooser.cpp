@@ -6,6 +6,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
@@ -42,11 +43,22 @@ gint CheckFileType(const gchar* filename) {
   return 0;
 }
 
-void AddFile(const std::string& path, const gchar* name) {
-  gchar base[PathSize];
-  CopyText(base, name);
-  if (FileType != PictureType) SplitPath(name, nullptr, base, nullptr);
-  AddName(FileList, base, path);
+// Why the result, or the field that takes the name without its extension, cannot hold a file; null
+// when they can. Names of pictures go into fields of different sizes, which are minded there.
+const gchar* ReasonNotToOffer(const std::string& path, const std::string& name) {
+  constexpr gsize NameSize = 82;
+  if (path.size() >= PathSize) return "パスが長すぎるため、選べません。";
+  if (FileType != PictureType && name.size() >= NameSize) return "名称が長すぎるため、選べません。";
+  return nullptr;
+}
+
+void AddFile(const std::string& path, const gchar* file) {
+  const std::string_view whole = file;
+  const std::string name(FileType == PictureType ? whole : whole.substr(0, whole.find('.')));
+  if (const gchar* reason = ReasonNotToOffer(path, name))
+    AddUnusableName(FileList, name, reason);
+  else
+    AddName(FileList, name, path);
 }
 
 void ClearFiles() {
@@ -62,9 +74,7 @@ void CreateFileList(const std::string& path) {
     if (entry->d_name[0] == '.' || CheckFileType(entry->d_name) == 0) continue;
     const std::string full = JoinPath(path, entry->d_name, "");
     struct stat status;
-    // A path that the result cannot hold whole is not offered.
-    if (full.size() < PathSize && stat(full.c_str(), &status) == 0 && S_ISREG(status.st_mode))
-      AddFile(full, entry->d_name);
+    if (stat(full.c_str(), &status) == 0 && S_ISREG(status.st_mode)) AddFile(full, entry->d_name);
   }
 }
 

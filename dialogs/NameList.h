@@ -10,6 +10,9 @@
 GtkWidget* NewNameList(const gchar* name);
 // Appends a row that shows `label` (record or path bytes) and carries `bytes`.
 void AddName(GtkWidget* list, const std::string& label, const std::string& bytes);
+// Appends a greyed row that is neither selected nor taken and carries nothing; its tooltip gives
+// the reason.
+void AddUnusableName(GtkWidget* list, const std::string& label, const gchar* reason);
 void ClearNames(GtkWidget* list);
 // What the selected row carries, "" when none is selected.
 std::string SelectedName(GtkWidget* list);

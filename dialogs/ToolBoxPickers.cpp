@@ -76,9 +76,14 @@ void ToolBoxList_Select(GtkTreeView* view, GtkTreePath* path, GtkTreeViewColumn*
   gtk_widget_destroy(gtk_widget_get_toplevel(GTK_WIDGET(view)));
 }
 
-GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts) {
+// Texts of more than `limit` bytes are unusable.
+GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts, gsize limit) {
   GtkWidget* list = NewNameList(name);
-  for (const std::string& text : texts) AddName(list, text, text);
+  for (const std::string& text : texts)
+    if (text.size() <= limit)
+      AddName(list, text, text);
+    else
+      AddUnusableName(list, text, "長すぎるため、この欄には入りません。");
   gtk_tree_view_column_set_min_width(gtk_tree_view_get_column(GTK_TREE_VIEW(list), 0), 280);
   // One click chooses. The selection alone would not do: a list that gets the keyboard focus
   // selects its first row by itself.
@@ -87,12 +92,12 @@ GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts) {
   return list;
 }
 
-gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
+gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind, gsize limit) {
   SelectList[0] = '\0';
   const DialogWindow dialog = NewDialogWindow(title);
   gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* scrolled = NewScrolled(NewList(title, ListOfKind(kind)), GTK_POLICY_AUTOMATIC);
+  GtkWidget* scrolled = NewScrolled(NewList(title, ListOfKind(kind), limit), GTK_POLICY_AUTOMATIC);
   gtk_widget_set_size_request(scrolled, 600, 300);
   gtk_container_set_border_width(GTK_CONTAINER(scrolled), 10);
   gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);
@@ -102,7 +107,7 @@ gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind) {
 }
 
 void PickFromList(DLG_EDITBOX* edit, const gchar* title, gint kind) {
-  ShowChoice(edit, ToolBox_List(ToolBox, title, kind));
+  ShowChoice(edit, ToolBox_List(ToolBox, title, kind, static_cast<gsize>(edit->size)));
 }
 
 }  // namespace

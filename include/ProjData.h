@@ -62,6 +62,9 @@ void ProjFileRenew(const gchar* path);
 void PtrnFileRenew(const gchar* path, const gchar* name);
 // Records the project as the current one and in the list of known projects.
 void ProfileRenew(const gchar* path, const gchar* name);
+// False when the key of the designer profile that names a project by name and folder gives one of
+// them cut, too long or at a ",": what is left may lead to another project.
+bool IsKnownProjectWhole(const gchar* section, const gchar* key);
 // Sets BmapPath from ProjPath.
 void SetBmapPath();
 

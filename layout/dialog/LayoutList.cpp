@@ -8,6 +8,7 @@
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/NameList.h"
 #include "layout/Records.h"
+#include "layout/dialog/LayoutNames.h"
 #include "support/FileTools.h"
 
 void ListLayouts(GtkWidget* list, bool incomplete) {
@@ -19,7 +20,10 @@ void ListLayouts(GtkWidget* list, bool incomplete) {
       FileRead(ProjPath, file.c_str(), "", &header, sizeof header, 0);
       if (header.UndfFlag == 0) return;
     }
-    AddName(list, name, name);
+    if (name.size() < sizeof PtrnFileName)
+      AddName(list, name, name);
+    else
+      AddUnusableName(list, name, "名称が長すぎるため、開くことも削除することもできません。");
   });
 }
 

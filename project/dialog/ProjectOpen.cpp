@@ -11,6 +11,7 @@
 #include "dialogs/EntryLook.h"
 #include "dialogs/NameList.h"
 #include "support/FileTools.h"
+#include "support/ProfileFile.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ constexpr const gchar* Section = "PROJNAME";
 struct PROJTABLE {
   gchar path[258];
   gchar name[82];
+  bool whole;  // false: the profile gave the texts cut, and they lead to another project
 };
 
 gint ProjFileOpen_Result = 0;
@@ -41,6 +43,7 @@ void ReadKnownProjects() {
       continue;
     }
     PROJTABLE row = {};
+    row.whole = IsKnownProjectWhole(Section, NumberedKey(Section, no).c_str());
     CopyText(row.path, path);
     CopyText(row.name, name);
     ProjTable.push_back(row);
@@ -93,7 +96,12 @@ void ProjFileOpen_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
 void AddList(const DialogWindow& dialog) {
   GtkWidget* list = NewNameList("プロジェクト");
   for (gsize row = 0; row < ProjTable.size(); ++row)
-    AddName(list, ProjTable[row].name, std::to_string(row));
+    if (ProjTable[row].whole)
+      AddName(list, ProjTable[row].name, std::to_string(row));
+    else
+      AddUnusableName(
+          list, ProjTable[row].name,
+          "パスが長すぎるため、一覧からは開けません。「フォルダーより探す」で開きます。");
   OnNameSelected(list, G_CALLBACK(ProjFileOpen_Slct), dialog.Window);
   g_signal_connect(list, "row-activated", G_CALLBACK(ProjFileOpen_Activate), nullptr);
   GtkWidget* scrolled = NewScrolled(list, GTK_POLICY_AUTOMATIC);

@@ -18,7 +18,8 @@ bool OpenLastProject() {
   ProfileRead1("", "PROJECT", "PROJECT", "ss", name, path);
   CopyText(ProjName, FieldText(name));
   CopyText(ProjPath, FieldText(path));
-  return ProjName[0] != '\0' && ProjPath[0] != '\0' && ProjFileRead(ProjPath, ProjName) != 0;
+  return ProjName[0] != '\0' && ProjPath[0] != '\0' && IsKnownProjectWhole("PROJECT", "PROJECT") &&
+         ProjFileRead(ProjPath, ProjName) != 0;
 }
 
 void ForgetLastProject() {

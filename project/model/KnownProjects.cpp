@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <optional>
 #include <string>
 
 #include "ProjData.h"
+#include "support/FileTools.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
 
@@ -54,4 +56,16 @@ void ProfileRenew(const gchar* path, const gchar* name) {
     SetProfileValue(profile, CurrentName, CurrentName, value);
     return true;
   });
+}
+
+bool IsKnownProjectWhole(const gchar* section, const gchar* key) {
+  const std::string profile = LoadProfile(ProfilePath("")).value_or("");
+  const std::string value = ProfileValue(profile, section, key).value_or("");
+  const std::string_view name = ProfileField(value, 0);
+  const std::string_view path = ProfileField(value, 1);
+  if (name.size() >= sizeof ProjName || path != ProfileTextField(value, 1)) {
+    return false;
+  }
+  const std::string rest = value.substr(std::min(name.size() + 1, value.size()));
+  return rest == path || IsMissing(JoinPath(rest, name, "prj"));
 }

@@ -335,6 +335,42 @@ TEST_F(Choosers, RowsAreLookedIntoWhenTheyComeIntoView) {
 
 // Files.
 
+TEST_F(Choosers, FilesWhoseNameOrPathNoFieldHoldsAreShownAndNotChosen) {
+  const std::string name(81, 'n');
+  const std::string folder(255 - Home.Path().size() - 82, 'f');
+  Home.Write("short/" + name + ".ptn", "x");
+  Home.Write("short/" + name + "n.ptn", "x");
+  MakeFolder(folder);
+  Home.Write(folder + "/" + std::string(79, 'n') + ".ptn", "x");
+  Home.Write(folder + "/" + std::string(78, 'n') + ".ptn", "x");
+  EXPECT_EQ(File(1,
+                 [&](GtkWidget* dialog) {
+                   SelectFolder(dialog, {"short"});
+                   ExpectUnusable(FilesOf(dialog), name + "n", "名称が長すぎるため、選べません。");
+                   SelectFolder(dialog, {folder});
+                   ExpectUnusable(FilesOf(dialog), std::string(79, 'n'),
+                                  "パスが長すぎるため、選べません。");
+                   EXPECT_FALSE(CanChoose(dialog));
+                   SelectText(FilesOf(dialog), std::string(78, 'n'));
+                   PressButton(" 選択 ")(dialog);
+                 }),
+            Home.Path(folder + "/" + std::string(78, 'n') + ".ptn"));
+}
+
+TEST_F(Choosers, AProjectsNameIsAsLongAsItsField) {
+  Home.Write("one/" + std::string(82, 'n') + ".prj", "x");
+  Home.Write("one/" + std::string(81, 'n') + ".prj", "x");
+  EXPECT_EQ(File(0,
+                 [&](GtkWidget* dialog) {
+                   SelectFolder(dialog, {"one"});
+                   ExpectUnusable(FilesOf(dialog), std::string(82, 'n'),
+                                  "名称が長すぎるため、選べません。");
+                   SelectText(FilesOf(dialog), std::string(81, 'n'));
+                   PressButton(" 選択 ")(dialog);
+                 }),
+            Home.Path("one/" + std::string(81, 'n') + ".prj"));
+}
+
 TEST_F(Choosers, PicturesAreListedWhole) {
   for (const gchar* name :
        {"a.bmp", "b.BMP", "c.jpg", "d.JPG", "e.png", "f.PNG", "g.Png", "h.txt", ".i.png", "k.ptn"})

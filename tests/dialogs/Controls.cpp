@@ -38,6 +38,34 @@ gboolean IsKind(GtkWidget* widget, GType kind) {
   return G_TYPE_CHECK_INSTANCE_TYPE(widget, kind);
 }
 
+// The row that shows this text, null when there is none.
+GtkTreePath* RowOf(GtkWidget* list, const std::string& text) {
+  const auto texts = RowTexts(list);
+  const auto found = std::find(texts.begin(), texts.end(), text);
+  EXPECT_NE(found, texts.end()) << "no row " << text;
+  if (found == texts.end()) return nullptr;
+  return gtk_tree_path_new_from_indices(static_cast<gint>(found - texts.begin()), -1);
+}
+
+bool IsRowSensitive(GtkTreeView* list, GtkTreeIter* row) {
+  GtkTreeViewColumn* column = gtk_tree_view_get_column(list, 0);
+  gtk_tree_view_column_cell_set_cell_data(column, gtk_tree_view_get_model(list), row, FALSE, FALSE);
+  GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column));
+  const bool sensitive = gtk_cell_renderer_get_sensitive(GTK_CELL_RENDERER(cells->data)) != FALSE;
+  g_list_free(cells);
+  return sensitive;
+}
+
+std::string RowTooltip(GtkTreeView* list, GtkTreeIter* row) {
+  const gint column = gtk_tree_view_get_tooltip_column(list);
+  if (column < 0) return "";
+  gchar* text = nullptr;
+  gtk_tree_model_get(gtk_tree_view_get_model(list), row, column, &text, -1);
+  std::string tooltip = text != nullptr ? text : "";
+  g_free(text);
+  return tooltip;
+}
+
 GtkTreeView* FirstList(GtkWidget* root) {
   GtkWidget* list = FindKind(root, GTK_TYPE_TREE_VIEW);
   return list != nullptr ? GTK_TREE_VIEW(list) : nullptr;
@@ -148,6 +176,38 @@ void SelectRow(GtkWidget* root, const std::string& path) {
   gtk_tree_view_expand_to_path(list, row);
   gtk_tree_selection_select_path(gtk_tree_view_get_selection(list), row);
   gtk_tree_path_free(row);
+}
+
+void SelectText(GtkWidget* list, const std::string& text) {
+  GtkTreePath* row = RowOf(list, text);
+  if (row == nullptr) return;
+  gtk_tree_selection_select_path(gtk_tree_view_get_selection(GTK_TREE_VIEW(list)), row);
+  gtk_tree_path_free(row);
+}
+
+void ActivateText(GtkWidget* list, const std::string& text) {
+  GtkTreePath* row = RowOf(list, text);
+  if (row == nullptr) return;
+  gtk_tree_view_row_activated(GTK_TREE_VIEW(list), row,
+                              gtk_tree_view_get_column(GTK_TREE_VIEW(list), 0));
+  gtk_tree_path_free(row);
+}
+
+void ExpectUnusable(GtkWidget* list, const std::string& text, const std::string& reason) {
+  GtkTreeView* view = GTK_TREE_VIEW(list);
+  GtkTreePath* path = RowOf(list, text);
+  if (path == nullptr) return;
+  GtkTreeIter row;
+  gtk_tree_model_get_iter(gtk_tree_view_get_model(view), &row, path);
+  EXPECT_FALSE(IsRowSensitive(view, &row)) << text;
+  EXPECT_EQ(RowTooltip(view, &row), reason) << text;
+  GtkWidget* window = gtk_widget_get_toplevel(list);
+  const std::string title = gtk_window_get_title(GTK_WINDOW(window));
+  gtk_tree_selection_select_path(gtk_tree_view_get_selection(view), path);
+  EXPECT_FALSE(gtk_tree_selection_path_is_selected(gtk_tree_view_get_selection(view), path));
+  gtk_tree_path_free(path);
+  ActivateText(list, text);
+  EXPECT_EQ(FindWindow(title), window) << text;
 }
 
 std::vector<std::string> RowTexts(GtkWidget* list) {

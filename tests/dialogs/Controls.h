@@ -43,6 +43,13 @@ void PressKey(GtkWidget* window, guint key, GdkModifierType held = {});
 void CloseByManager(GtkWidget* window);
 // Selects a row of the first list or tree below `root`; "0" = first, "0:2" = third below the first.
 void SelectRow(GtkWidget* root, const std::string& path);
+// Selects the row of the list that shows this text; fails the test when there is none.
+void SelectText(GtkWidget* list, const std::string& text);
+// Presses the row that shows this text twice, as a user does to take it at once.
+void ActivateText(GtkWidget* list, const std::string& text);
+// Fails the test unless the row that shows this text is greyed, gives the reason in its tooltip and
+// is neither selected nor taken.
+void ExpectUnusable(GtkWidget* list, const std::string& text, const std::string& reason);
 // What the rows of a list show.
 std::vector<std::string> RowTexts(GtkWidget* list);
 // Takes the first file of the first folder in a file chooser.

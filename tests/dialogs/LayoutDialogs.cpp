@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -39,13 +38,6 @@ GtkWidget* EntryOf(GtkWidget* dialog) {
 bool IsSensitive(GtkWidget* dialog, const gchar* label) {
   return gtk_widget_get_sensitive(FindLabel(dialog, label)) != FALSE;
 }
-void SelectText(GtkWidget* dialog, const std::string& text) {
-  const auto texts = RowTexts(ListOf(dialog));
-  const auto found = std::find(texts.begin(), texts.end(), text);
-  ASSERT_NE(found, texts.end()) << text;
-  SelectRow(dialog, std::to_string(found - texts.begin()));
-}
-
 // A header with this number of incomplete items.
 std::string Header(gint incomplete) {
   return Bytes().Zeros(466 - 4).Int(incomplete).Str();
@@ -133,7 +125,7 @@ TEST_F(LayoutDialogs, OpenTakesTheSelectedName) {
   Project.Write("\xC6\xFC\xCB\xDC.ptn", "x");
   CopyText(PtrnName, "before");
   EXPECT_EQ(Open([](GtkWidget* dialog) {
-              SelectText(dialog, "日本");
+              SelectText(ListOf(dialog), "日本");
               EXPECT_TRUE(IsSensitive(dialog, " 開く "));
               EXPECT_TRUE(IsSensitive(dialog, " 削除 "));
               PressButton(" 開く ")(dialog);
@@ -146,7 +138,7 @@ TEST_F(LayoutDialogs, OpenClosedByTheWindowManagerOpensNothing) {
   Project.Write("first.ptn", "x");
   CopyText(PtrnName, "before");
   EXPECT_EQ(Open([](GtkWidget* dialog) {
-              SelectText(dialog, "first");
+              SelectText(ListOf(dialog), "first");
               CloseByManager(dialog);
             }),
             0);
@@ -157,7 +149,7 @@ TEST_F(LayoutDialogs, OpenDeletesWithoutAsking) {
   Project.Write("first.ptn", "x");
   Project.Write("second.ptn", "x");
   Open([](GtkWidget* dialog) {
-    SelectText(dialog, "first");
+    SelectText(ListOf(dialog), "first");
     PressButton(" 削除 ")(dialog);
     EXPECT_THAT(RowTexts(ListOf(dialog)), ElementsAre("second"));
     EXPECT_FALSE(IsSensitive(dialog, " 開く "));
@@ -172,7 +164,7 @@ TEST_F(LayoutDialogs, OpenCanShowOnlyIncompleteLayouts) {
   Project.Write("holes.ptn", Header(3));
   Project.Write("short.ptn", "x");
   Open([](GtkWidget* dialog) {
-    SelectText(dialog, "whole");
+    SelectText(ListOf(dialog), "whole");
     PressButton(" 未設定 ")(dialog);
     EXPECT_STREQ(gtk_window_get_title(GTK_WINDOW(dialog)), UndefinedTitle);
     EXPECT_THAT(RowTexts(ListOf(dialog)), ElementsAre("holes"));
@@ -181,6 +173,45 @@ TEST_F(LayoutDialogs, OpenCanShowOnlyIncompleteLayouts) {
     EXPECT_STREQ(gtk_window_get_title(GTK_WINDOW(dialog)), OpenTitle);
     EXPECT_THAT(RowTexts(ListOf(dialog)), UnorderedElementsAre("whole", "holes", "short"));
   });
+}
+
+constexpr const gchar* TooLong = "名称が長すぎるため、開くことも削除することもできません。";
+
+TEST_F(LayoutDialogs, AFileWhoseNameIsTooLongIsListedAndNeitherOpenedNorDeleted) {
+  const std::string fits(81, 'x');
+  const std::string over(82, 'x');
+  std::string kanji;
+  for (gint count = 0; count < 41; count++) kanji += "\xC6\xFC";
+  for (const std::string& name : {fits, over, kanji}) Project.Write(name + ".ptn", "x");
+  CopyText(PtrnName, "before");
+  EXPECT_EQ(Open([&](GtkWidget* dialog) {
+              GtkWidget* list = ListOf(dialog);
+              for (const std::string& name : {over, DisplayText(kanji)}) {
+                ExpectUnusable(list, name, TooLong);
+                EXPECT_FALSE(IsSensitive(dialog, " 開く "));
+                EXPECT_FALSE(IsSensitive(dialog, " 削除 "));
+              }
+              SelectText(list, fits);
+              ActivateText(list, over);
+              ASSERT_EQ(FindWindow(OpenTitle), dialog) << "another one was selected";
+              PressButton(" 削除 ")(dialog);
+            }),
+            0);
+  EXPECT_FALSE(Project.Exists(fits + ".ptn"));
+  EXPECT_TRUE(Project.Exists(over + ".ptn"));
+  EXPECT_TRUE(Project.Exists(kanji + ".ptn"));
+  EXPECT_STREQ(PtrnName, "before");
+}
+
+TEST_F(LayoutDialogs, TheLongestNameOpens) {
+  const std::string name(81, 'x');
+  Project.Write(name + ".ptn", "x");
+  EXPECT_EQ(Open([&](GtkWidget* dialog) {
+              SelectText(ListOf(dialog), name);
+              ActivateText(ListOf(dialog), name);
+            }),
+            1);
+  EXPECT_EQ(PtrnName, name);
 }
 
 // Closing.
@@ -263,7 +294,7 @@ TEST_F(LayoutDialogs, AnUnselectedLayoutIsNeitherOpenedNorDeleted) {
   Project.Write("first.ptn", "x");
   EXPECT_EQ(
       Open([](GtkWidget* dialog) {
-        SelectText(dialog, "first");
+        SelectText(ListOf(dialog), "first");
         gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(GTK_TREE_VIEW(ListOf(dialog))));
         EXPECT_FALSE(IsSensitive(dialog, " 開く "));
         EXPECT_FALSE(IsSensitive(dialog, " 削除 "));

@@ -92,6 +92,43 @@ TEST_F(Pickers, ScreenNamesAreTheProjectsLayouts) {
   EXPECT_STREQ(PtrnData.ID_Name, chosen == "first" ? "first" : "\xC6\xFC\xCB\xDC");
 }
 
+constexpr const gchar* TooLong = "長すぎるため、この欄には入りません。";
+
+TEST_F(Pickers, ANameThatTheFieldCannotHoldIsShownAndNotTaken) {
+  const std::string fits(80, 'x');
+  Project.Write(fits + ".ptn", "x");
+  Project.Write(fits + "y.ptn", "x");
+  Open(2);
+  const DialogAnswer answer(PageTitle, [&](GtkWidget* picker) {
+    ExpectUnusable(ListOf(picker), fits + "y", TooLong);
+    ActivateText(ListOf(picker), fits);
+  });
+  Browse(8);
+  EXPECT_EQ(PtrnData.ID_Name, fits);
+}
+
+TEST_F(Pickers, ACodeOrTextThatTheFieldCannotHoldIsShownAndNotTaken) {
+  const std::string code(20, 'C');
+  const std::string text(100, 't');
+  Project.Write("PtrnCode", CodeRecord(code + "D") + CodeRecord(code));
+  Project.Write("PtrnText1", Bytes().Field(text + "u", 102).Field(text, 102).Str());
+  Open(6);
+  {
+    const DialogAnswer answer(CodeTitle, [&](GtkWidget* picker) {
+      ExpectUnusable(ListOf(picker), code + "D", TooLong);
+      ActivateText(ListOf(picker), code);
+    });
+    Browse(9);
+  }
+  EXPECT_EQ(PtrnData.ID_Code, code);
+  const DialogAnswer answer(Text1Title, [&](GtkWidget* picker) {
+    ExpectUnusable(ListOf(picker), text + "u", TooLong);
+    ActivateText(ListOf(picker), text);
+  });
+  Browse(1);
+  EXPECT_EQ(PtrnData.Text1, text);
+}
+
 TEST_F(Pickers, AProjectWithoutLayoutsGivesAnEmptyList) {
   Open(2);
   const DialogAnswer answer(PageTitle, [](GtkWidget* picker) {

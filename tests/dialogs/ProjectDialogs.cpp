@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <string>
 
@@ -121,6 +123,28 @@ TEST_F(ProjectDialogs, AnUnselectedProjectIsForgotten) {
       0);
   EXPECT_STREQ(EditName, "");
   EXPECT_STREQ(EditPath, "");
+}
+
+// The list of known projects holds 99 bytes of a name or a folder.
+TEST_F(ProjectDialogs, AnotherProjectWhereAFolderWasCutIsNotOpened) {
+  const std::string other = Folder.Path() + "/" + std::string(98 - Folder.Path().size(), 'f');
+  ASSERT_EQ(other.size(), 99U);
+  const std::string name = "works";
+  std::filesystem::create_directory(other);
+  std::filesystem::create_directory(other + "f");
+  for (const std::string& folder : {other, other + "f"})
+    std::ofstream(folder + "/" + name + ".prj") << "x";
+  WriteProfile("[PROJNAME]\nPROJNAME1=works," + other + "f\nPROJNAME2=works," + other + "\n");
+  EXPECT_EQ(Open([&](GtkWidget* dialog) {
+              EXPECT_THAT(RowTexts(ListOf(dialog)), ElementsAre("works", "works"));
+              ExpectUnusable(
+                  ListOf(dialog), "works",
+                  "パスが長すぎるため、一覧からは開けません。「フォルダーより探す」で開きます。");
+              SelectRow(dialog, "1");
+              PressButton(" 開く ")(dialog);
+            }),
+            1);
+  EXPECT_EQ(EditPath, other);
 }
 
 TEST_F(ProjectDialogs, OpenWithoutKnownProjectsIsEmpty) {

@@ -58,6 +58,20 @@ TEST_F(StartUpTest, AShortProjectFileCountsAsGone) {
   EXPECT_EQ(ProjFlag, 0);
 }
 
+// The profile gives 99 bytes of a folder.
+TEST_F(StartUpTest, AnotherProjectWhereTheFolderWasCutIsNotOpened) {
+  const std::string other = Folder.Path() + "/" + std::string(98 - Folder.Path().size(), 'f');
+  const std::string bytes(808, '\0');
+  Folder.Write(other.substr(Folder.Path().size() + 1) + "/Plant.prj", bytes);
+  WriteProfile("[PROJECT]\nPROJECT=Plant," + other + "f\n");
+  ProjDataInit();
+  EXPECT_EQ(ProjFlag, 0);
+  EXPECT_STREQ(ProjPath, "");
+  WriteProfile("[PROJECT]\nPROJECT=Plant," + other + "\n");
+  ProjDataInit();
+  EXPECT_EQ(ProjFlag, 1);
+}
+
 TEST_F(StartUpTest, WithoutAProfileNoProjectIsOpen) {
   ProjDataInit();
   EXPECT_EQ(ProjFlag, 0);

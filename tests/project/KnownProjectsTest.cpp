@@ -69,4 +69,24 @@ TEST_F(KnownProjectsTest, ANameThatALineCannotHoldIsListedOnce) {
   }
 }
 
+// A profile gives 99 bytes of a text, and of those a project's name has room for 81.
+TEST_F(KnownProjectsTest, AProjectIsWholeWhenTheProfileGivesAllOfNameAndFolder) {
+  const auto whole = [this](const std::string& value) {
+    std::filesystem::remove(folder_.Path("program/VarnixMaster.ini"));
+    folder_.Write("program/VarnixMaster.ini", "[PROJECT]\nPROJECT=" + value + "\n");
+    return IsKnownProjectWhole("PROJECT", "PROJECT");
+  };
+  EXPECT_TRUE(whole(std::string(81, 'n') + ",/" + std::string(98, 'd')));
+  EXPECT_FALSE(whole("A,/" + std::string(99, 'd')));
+  EXPECT_FALSE(whole(std::string(82, 'n') + ",/d"));
+}
+
+TEST_F(KnownProjectsTest, AFolderWithACommaIsWholeOnlyWhereNoProjectLiesInIt) {
+  const std::string folder = folder_.Path("a,b");
+  folder_.Write("program/VarnixMaster.ini", "[PROJECT]\nPROJECT=P," + folder + "\n");
+  EXPECT_TRUE(IsKnownProjectWhole("PROJECT", "PROJECT"));
+  folder_.Write("a,b/P.prj", "x");
+  EXPECT_FALSE(IsKnownProjectWhole("PROJECT", "PROJECT"));
+}
+
 }  // namespace
