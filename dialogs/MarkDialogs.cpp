@@ -78,12 +78,12 @@ void EditMarkData(GtkWidget* parent, gpointer data) {
   EditMarkBox.reset();
 }
 
-gint Dlg_MarkSelect(GtkWidget* parent) {
+gint Dlg_MarkSelect(GtkWidget* parent, gint current) {
   MarkNo = -1;
   Dlg_MarkBox = std::make_unique<MarkBoxes>();
   CopyMarks(Dlg_MarkBox.get());
   const DialogWindow window =
-      NewMarkSetWindow("マーク選択", Dlg_MarkBox->data(), Dlg_MarkSelect_Press);
+      NewMarkSetWindow("マーク選択", Dlg_MarkBox->data(), Dlg_MarkSelect_Press, current);
   LeaveOutActions(window);
   MarkSlct = window.Window;
   RunModal(window.Window, parent);

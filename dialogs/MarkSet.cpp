@@ -44,15 +44,21 @@ void CopyMarks(MarkBoxes* boxes) {
     (*boxes)[number] = {nullptr, MarkData[number]};
 }
 
-DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press) {
+DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press,
+                              gint first) {
   const DialogWindow window = NewDialogWindow(title);
   gtk_window_set_default_size(GTK_WINDOW(window.Window), 600, 400);
   gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   GtkWidget* table = gtk_grid_new();
   gtk_container_set_border_width(GTK_CONTAINER(table), 10);
-  for (gint number = 0; number < MarkCount; ++number)
-    gtk_grid_attach(GTK_GRID(table), NewSwatch(marks, number, press), number % Columns,
-                    number / Columns, 1, 1);
+  for (gint number = 0; number < MarkCount; ++number) {
+    GtkWidget* swatch = NewSwatch(marks, number, press);
+    gtk_grid_attach(GTK_GRID(table), swatch, number % Columns, number / Columns, 1, 1);
+    // Once all have their places, so that it comes into view.
+    if (number == first)
+      g_signal_connect_object(window.Window, "map", G_CALLBACK(gtk_widget_grab_focus), swatch,
+                              G_CONNECT_SWAPPED);
+  }
   MakeOneTabStop(table);
   GtkWidget* scrolled = NewScrolled(table, GTK_POLICY_AUTOMATIC);
   gtk_box_pack_start(GTK_BOX(window.Content), scrolled, TRUE, TRUE, 0);

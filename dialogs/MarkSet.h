@@ -15,4 +15,6 @@ void CopyMarks(MarkBoxes* boxes);
 using MarkPress = void (*)(GtkWidget* swatch, gint number, guint button);
 
 // A dialog of 600 x 400 dots with a swatch of every mark in `marks`. The swatches paint from there.
-DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press);
+// The keyboard begins at mark `first`, in view.
+DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press,
+                              gint first = 0);

@@ -82,6 +82,17 @@ void ClearNames(GtkWidget* list) {
   gtk_list_store_clear(Rows(list));
 }
 
+// The list would select the row that the keyboard comes to, unless it has come to one before.
+void BeginOnNames(GtkWidget* list) {
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(list));
+  GtkTreePath* first = gtk_tree_path_new_first();
+  gtk_tree_selection_set_mode(selection, GTK_SELECTION_NONE);
+  gtk_tree_view_set_cursor(GTK_TREE_VIEW(list), first, nullptr, FALSE);
+  gtk_tree_selection_set_mode(selection, GTK_SELECTION_SINGLE);
+  gtk_tree_path_free(first);
+  gtk_widget_grab_focus(list);
+}
+
 std::string SelectedName(GtkWidget* list) {
   GtkTreeModel* model = nullptr;
   GtkTreeIter row;

@@ -14,6 +14,8 @@ void AddName(GtkWidget* list, const std::string& label, const std::string& bytes
 // the reason.
 void AddUnusableName(GtkWidget* list, const std::string& label, const gchar* reason);
 void ClearNames(GtkWidget* list);
+// Has the dialog begin with the keyboard on the list, at its first row, which stays unselected.
+void BeginOnNames(GtkWidget* list);
 // What the selected row carries, "" when none is selected.
 std::string SelectedName(GtkWidget* list);
 // What the row at `path` carries, "" when there is none.

@@ -71,7 +71,7 @@ gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
   return row.colr;
 }
 gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
-  *number = Dlg_MarkSelect(Dlg_MarkData_Parent);
+  *number = Dlg_MarkSelect(Dlg_MarkData_Parent, LoadInt(row.mark));
   return row.mark;
 }
 

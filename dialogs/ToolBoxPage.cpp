@@ -38,6 +38,30 @@ void AlignColumns(GtkWidget* table) {
   g_object_unref(columns);
 }
 
+// Of a group of radio buttons, Tab stops at the chosen one.
+bool IsStop(GtkWidget* widget) {
+  return gtk_widget_get_can_focus(widget) &&
+         (!GTK_IS_RADIO_BUTTON(widget) || gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(widget)));
+}
+
+void FindStop(GtkWidget* widget, gpointer data) {
+  auto** found = static_cast<GtkWidget**>(data);
+  if (*found != nullptr) return;
+  if (IsStop(widget))
+    *found = widget;
+  else if (GTK_IS_CONTAINER(widget))
+    gtk_container_forall(GTK_CONTAINER(widget), FindStop, data);
+}
+
+// The panel's keyboard begins below the first row, which has TOP beside what is only read.
+void BeginBelowTop(GtkWidget* table, gint lines, gint culms) {
+  GtkWidget* first = nullptr;
+  for (gint cell = 0; cell < lines * culms && first == nullptr; ++cell)
+    if (GtkWidget* child = gtk_grid_get_child_at(GTK_GRID(table), cell % culms, 1 + cell / culms))
+      FindStop(child, &first);
+  if (first != nullptr) gtk_widget_grab_focus(first);
+}
+
 }  // namespace
 
 GtkWidget* ToolBoxContent(GtkWidget* window) {
@@ -80,4 +104,5 @@ void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
   ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);
   NameControls(table);
   AlignColumns(table);
+  BeginBelowTop(table, page.Lines, page.Culms);
 }

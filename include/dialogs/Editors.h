@@ -20,10 +20,10 @@ void EditColrData(GtkWidget* parent, gpointer data);
 void EditMarkData(GtkWidget* parent, gpointer data);
 void PtrnGridSet(GtkWidget* parent, gpointer data);
 
-// Pickers: the number chosen, -1 when closed without a choice. The colour picker begins at
-// `current`.
+// Pickers: the number chosen, -1 when closed without a choice. Those of a swatch begin
+// at `current`.
 gint Dlg_ColrSelect(GtkWidget* parent, gint current = 0);
-gint Dlg_MarkSelect(GtkWidget* parent);
+gint Dlg_MarkSelect(GtkWidget* parent, gint current = 0);
 gint Dlg_MarkSearch(GtkWidget* parent, const MARKBOX* markbox);
 // Editors of one entry of a set of working copies: 1 = the entry was changed.
 gint MakeColrData(GtkWidget* parent, gint colrno, COLRBOX* colrbox);

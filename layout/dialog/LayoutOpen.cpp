@@ -97,10 +97,9 @@ gint PtrnFileOpen(GtkWidget* parent) {
              AddDialogButton(dialog, " 開く ", G_CALLBACK(PtrnFileOpen_Open), dialog.Window));
   KeepWidget(&DeleteButton,
              AddDialogButton(dialog, " 削除 ", G_CALLBACK(PtrnFileOpen_Delete), dialog.Window));
-  // Not the list first: it would select, and with that enable, its first row by itself.
-  gtk_widget_grab_focus(
-      AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileOpen_CAN), dialog.Window));
+  AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileOpen_CAN), dialog.Window);
   PtrnFileOpen_List(0);
+  BeginOnNames(LayoutNames);
   OnNameSelected(LayoutNames, G_CALLBACK(PtrnFileOpen_Select), dialog.Window);
   g_signal_connect(LayoutNames, "row-activated", G_CALLBACK(PtrnFileOpen_Activate), nullptr);
   RunModal(dialog.Window, parent);

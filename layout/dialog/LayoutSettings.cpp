@@ -57,6 +57,7 @@ gint EditPtrnData(GtkWidget* parent) {
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   EditLayoutWindow = dialog.Window;
   AddPage(dialog, page);
+  gtk_widget_grab_focus(page.Tables.Edit->entry);
   SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(EditPtrnData_OK), dialog.Window));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditPtrnData_CAN), dialog.Window);
   RunModal(dialog.Window, parent);

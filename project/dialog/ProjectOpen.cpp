@@ -93,7 +93,7 @@ void ProjFileOpen_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
   gtk_widget_destroy(dialog);
 }
 
-void AddList(const DialogWindow& dialog) {
+GtkWidget* AddList(const DialogWindow& dialog) {
   GtkWidget* list = NewNameList("プロジェクト");
   for (gsize row = 0; row < ProjTable.size(); ++row)
     if (ProjTable[row].whole)
@@ -107,6 +107,7 @@ void AddList(const DialogWindow& dialog) {
   GtkWidget* scrolled = NewScrolled(list, GTK_POLICY_AUTOMATIC);
   gtk_widget_set_size_request(scrolled, 480, 260);
   gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);
+  return list;
 }
 
 void AddFolderEntry(const DialogWindow& dialog) {
@@ -130,15 +131,14 @@ gint ProjFileOpen(GtkWidget* parent) {
   gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
   gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
   gtk_box_set_spacing(GTK_BOX(dialog.Content), 5);
-  AddList(dialog);
+  GtkWidget* list = AddList(dialog);
   AddFolderEntry(dialog);
   AddDialogButton(dialog, " フォルダーより探す ", G_CALLBACK(ProjFileOpen_Search), dialog.Window);
   GtkWidget* open = AddDialogButton(dialog, " 開く ", G_CALLBACK(ProjFileOpen_Open), dialog.Window);
   gtk_widget_set_sensitive(open, FALSE);
   KeepWidget(&ProjFileOpen_Buttn, open);
-  // Not the list first: it would select, and with that enable, its first row by itself.
-  gtk_widget_grab_focus(
-      AddDialogButton(dialog, " 取消 ", G_CALLBACK(ProjFileOpen_CAN), dialog.Window));
+  AddDialogButton(dialog, " 取消 ", G_CALLBACK(ProjFileOpen_CAN), dialog.Window);
+  BeginOnNames(list);
   RunModal(dialog.Window, parent);
   ProjTable.clear();
   return ProjFileOpen_Result;

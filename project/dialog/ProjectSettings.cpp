@@ -155,6 +155,7 @@ gint EditProjData(GtkWidget* parent, const gchar* title) {
   gtk_widget_show(notebook);
   SetDefaultButton(AddDialogButton(dialog, " 登録 ", G_CALLBACK(EditProjData_OK), nullptr));
   AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditProjData_CAN), nullptr);
+  gtk_widget_grab_focus(ProjPage1_Edit[NameRow].entry);
   RunModeless(dialog.Window, parent);
   EditProj = nullptr;
   return EditResult;

@@ -123,6 +123,143 @@ TEST_F(Keyboard, ThePickerBeginsAtTheColourThatIsThere) {
   EXPECT_EQ(Dlg_ColrSelect(PtrnWnd, 37), 37);
 }
 
+// Whether all of the control with the keyboard is in view.
+bool IsFocusShown(GtkWidget* picker) {
+  GtkWidget* port = gtk_widget_get_ancestor(FindGrid(picker), GTK_TYPE_VIEWPORT);
+  gint x = -1;
+  gint y = -1;
+  gtk_widget_translate_coordinates(Focus(picker), port, 0, 0, &x, &y);
+  return x >= 0 && y >= 0 &&
+         x + gtk_widget_get_allocated_width(Focus(picker)) <=
+             gtk_widget_get_allocated_width(port) &&
+         y + gtk_widget_get_allocated_height(Focus(picker)) <=
+             gtk_widget_get_allocated_height(port);
+}
+
+TEST_F(Keyboard, TheMarkPickerBeginsAtTheMarkThatIsThere) {
+  for (const gint number : {0, 237, 349}) {
+    PtrnData.Parm[15] = number;
+    Dlg_ToolBox(PtrnWnd, 13);
+    WaitForKeyboard(ToolBox);
+    gtk_widget_grab_focus(ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_DRAWING_AREA));
+    const DialogAnswer answer(MarkPicker, [number](GtkWidget* picker) {
+      WaitForKeyboard(picker);
+      EXPECT_EQ(FocusedCell(picker), (CellPlace{number / 10, number % 10, number % 10}));
+      EXPECT_TRUE(WaitFor([picker] { return IsFocusShown(picker); })) << number;
+      CloseByManager(picker);
+    });
+    PressKey(ToolBox, GDK_KEY_space);
+  }
+}
+
+TEST_F(Keyboard, TheMarkPickerBeginsAtTheFirstMarkForOneThatIsNone) {
+  for (const gint number : {-1, 350}) {
+    const DialogAnswer answer(MarkPicker, [](GtkWidget* picker) {
+      WaitForKeyboard(picker);
+      EXPECT_EQ(FocusedCell(picker), (CellPlace{0, 0, 0}));
+      CloseByManager(picker);
+    });
+    PtrnData.Parm[15] = number;
+    Dlg_ToolBox(PtrnWnd, 13);
+    WaitForKeyboard(ToolBox);
+    gtk_widget_grab_focus(ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_DRAWING_AREA));
+    PressKey(ToolBox, GDK_KEY_space);
+  }
+}
+
+// The list has the keyboard, nothing is selected yet, and the first arrow selects the first row.
+void ExpectListFirst(GtkWidget* dialog) {
+  WaitForKeyboard(dialog);
+  GtkWidget* list = Focus(dialog);
+  ASSERT_TRUE(GTK_IS_TREE_VIEW(list));
+  ASSERT_TRUE(WaitFor([list] { return gtk_widget_has_focus(list) != FALSE; }));
+  GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(list));
+  EXPECT_EQ(gtk_tree_selection_count_selected_rows(selection), 0);
+  EXPECT_FALSE(gtk_widget_get_sensitive(FindLabel(dialog, " 開く ")));
+  PressKey(dialog, GDK_KEY_Down);
+  GtkTreePath* first = gtk_tree_path_new_first();
+  EXPECT_TRUE(gtk_tree_selection_path_is_selected(selection, first));
+  gtk_tree_path_free(first);
+  EXPECT_TRUE(gtk_widget_get_sensitive(FindLabel(dialog, " 開く ")));
+  CloseByManager(dialog);
+}
+
+TEST_F(Keyboard, TheDialogsThatOpenBeginOnTheirList) {
+  Project.Write("first.ptn", "x");
+  Project.Write("second.ptn", "x");
+  Project.Write("works.prj", "x");
+  WriteProfile("[PROJNAME]\nPROJNAME1=works," + Project.Path() + "\n");
+  {
+    const DialogAnswer answer("レイアウトを開く", ExpectListFirst);
+    EXPECT_EQ(PtrnFileOpen(PtrnWnd), 0);
+  }
+  const DialogAnswer answer("プロジェクトを開く", ExpectListFirst);
+  EXPECT_EQ(ProjFileOpen(PtrnWnd), 0);
+}
+
+TEST_F(Keyboard, AnEmptyListHasTheKeyboardToo) {
+  const DialogAnswer answer("レイアウトを開く", [](GtkWidget* dialog) {
+    WaitForKeyboard(dialog);
+    EXPECT_TRUE(GTK_IS_TREE_VIEW(Focus(dialog)));
+    CloseByManager(dialog);
+  });
+  EXPECT_EQ(PtrnFileOpen(PtrnWnd), 0);
+}
+
+TEST_F(Keyboard, TheProjectsSettingsBeginAtTheName) {
+  CopyText(EditName, "works");
+  const DialogAnswer answer("題名", [](GtkWidget* dialog) {
+    WaitForKeyboard(dialog);
+    EXPECT_EQ(EntryText(Focus(dialog)), "works");
+    CloseByManager(dialog);
+  });
+  EXPECT_EQ(EditProjData(PtrnWnd, "題名"), 0);
+  EditName[0] = '\0';
+}
+
+TEST_F(Keyboard, TheSettingsOfALayoutBeginAtItsTitle) {
+  constexpr const gchar* Titles[] = {"レイアウト情報の設定［親ウィンドウ］",
+                                     "レイアウト情報の設定［子ウィンドウ］",
+                                     "レイアウト情報の設定［その他］"};
+  CopyText(EditHedr.PtrnName1, "layout");
+  for (gint kind = 0; kind < 3; kind++) {
+    EditHedr.Parm1[0] = kind;
+    const DialogAnswer answer(Titles[kind], [](GtkWidget* dialog) {
+      WaitForKeyboard(dialog);
+      EXPECT_EQ(EntryText(Focus(dialog)), "layout");
+      CloseByManager(dialog);
+    });
+    EXPECT_EQ(EditPtrnData(PtrnWnd), 0);
+  }
+}
+
+// TOP stands beside the point, above all that makes the item.
+TEST_F(Keyboard, APanelBeginsAtTheFirstFieldAfterTop) {
+  constexpr gint FirstLines[] = {2, 2, 2, 2, 2, 1, 1, 1, 2, 1, 1, 2, 2, 2, 2};
+  for (gint language = 0; language < 3; language++)
+    for (gint type = 1; type <= 15; type++) {
+      SCOPED_TRACE(testing::Message() << "type " << type << ", language " << language);
+      Language = language;
+      Dlg_ToolBox(PtrnWnd, type);
+      GtkWidget* grid = FindGrid(ToolBox);
+      GtkWidget* focus = Focus(ToolBox);
+      ASSERT_NE(focus, nullptr);
+      while (gtk_widget_get_parent(focus) != grid) focus = gtk_widget_get_parent(focus);
+      const CellPlace place = PlaceOf(grid, focus);
+      EXPECT_EQ(place.Line, FirstLines[type - 1]);
+      EXPECT_EQ(place.Culm1, 1);
+    }
+}
+
+TEST_F(Keyboard, F6GoesToThePanelsFirstField) {
+  Dlg_ToolBox(PtrnWnd, 6);
+  ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
+  WaitForKeyboard(PtrnWnd);
+  PressKey(PtrnWnd, GDK_KEY_F6);
+  GtkWidget* entry = ControlAt(FindGrid(ToolBox), 1, 1, GTK_TYPE_ENTRY);
+  EXPECT_TRUE(WaitFor([entry] { return gtk_widget_has_focus(entry) != FALSE; }));
+}
+
 TEST_F(Keyboard, F6GoesToTheToolBoxAndBack) {
   Dlg_ToolBox(PtrnWnd, 15);
   ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));

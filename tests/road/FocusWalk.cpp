@@ -207,6 +207,12 @@ gint SelectedRow(GtkTreeView* list) {
   return row;
 }
 
+// A list that nothing is selected in yet selects the row it begins at with the first arrow.
+void GoToFirstRow(GtkWidget* window, GtkTreeView* list) {
+  KeyTo(window, GDK_KEY_Home);
+  if (Look([list] { return SelectedRow(list); }) < 0) KeyTo(window, GDK_KEY_Down);
+}
+
 // The row that shows this text; -1 = none.
 gint RowOf(GtkTreeView* list, const std::string& text) {
   GtkTreeModel* model = gtk_tree_view_get_model(list);
@@ -222,7 +228,7 @@ gint RowOf(GtkTreeView* list, const std::string& text) {
 void PageWalk::WalkRows(GtkTreeView* list) const {
   const gint count = Look(
       [list] { return gtk_tree_model_iter_n_children(gtk_tree_view_get_model(list), nullptr); });
-  KeyTo(window_, GDK_KEY_Home);
+  GoToFirstRow(window_, list);
   for (gint row = 0; row < count; row++) {
     if (row > 0) KeyTo(window_, GDK_KEY_Down);
     EXPECT_EQ(Look([list] { return SelectedRow(list); }), row);
@@ -295,7 +301,7 @@ void GoToRow(GtkWidget* window, const std::string& text) {
   ASSERT_TRUE(Look([list] { return IsList(list); })) << "no list has the keyboard";
   const gint wanted = Look([&] { return RowOf(GTK_TREE_VIEW(list), text); });
   ASSERT_GE(wanted, 0) << "no row " << text;
-  KeyTo(window, GDK_KEY_Home);
+  GoToFirstRow(window, GTK_TREE_VIEW(list));
   for (gint row = 0; row < wanted; row++) KeyTo(window, GDK_KEY_Down);
   EXPECT_EQ(Look([list] { return SelectedRow(GTK_TREE_VIEW(list)); }), wanted);
 }

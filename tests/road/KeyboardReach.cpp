@@ -156,12 +156,16 @@ TEST_F(KeyboardReach, TheSettingsOfTheProject) {
 
 TEST_F(KeyboardReach, TheDialogsThatOpen) {
   PlayWithKeys([] {
-    // They begin at the button that cancels.
+    // They begin on the list, at its first row.
     KeyTo(PtrnWnd, GDK_KEY_o, {GDK_KEY_Control_L});
+    KeyTo(SeeWindow(OpenLayoutTitle), GDK_KEY_Down);
     KeyTo(SeeWindow(OpenLayoutTitle), GDK_KEY_Return);
     EXPECT_TRUE(SeeGone(OpenLayoutTitle));
-    EXPECT_EQ(Look([] { return PtrnFlag; }), 0);
+    EXPECT_EQ(Look([] { return PtrnFlag; }), 1);
+    KeyTo(PtrnWnd, GDK_KEY_w, {GDK_KEY_Control_L});
+    EXPECT_TRUE(See([] { return PtrnFlag == 0; }));
     KeyTo(PtrnWnd, GDK_KEY_o, {GDK_KEY_Control_L});
+    KeyTo(SeeWindow(OpenLayoutTitle), GDK_KEY_Down);
     WalkAndLeave(OpenLayoutTitle);
     EXPECT_EQ(Look([] { return PtrnFlag; }), 0);
     OpenLayout("全体監視");
@@ -171,6 +175,7 @@ TEST_F(KeyboardReach, TheDialogsThatOpen) {
 
     Look([] { ProjData.Parm2[0] = 99; });
     KeyTo(PtrnWnd, GDK_KEY_o, {GDK_KEY_Control_L, GDK_KEY_Shift_L});
+    KeyTo(SeeWindow(OpenProjectTitle), GDK_KEY_Down);
     WalkAndLeave(OpenProjectTitle);
     EXPECT_EQ(Look([] { return gint{ProjData.Parm2[0]}; }), 99);
     KeyTo(PtrnWnd, GDK_KEY_o, {GDK_KEY_Control_L, GDK_KEY_Shift_L});
@@ -234,11 +239,12 @@ TEST_F(KeyboardReach, ColoursAndMarks) {
     const gint mark = goToMark();
     WalkAndLeave(MarkPicker);
     EXPECT_EQ(goToMark(), mark);
+    // It begins at the mark that is there.
     picker = SeeWindow(MarkPicker);
     KeyTo(picker, GDK_KEY_Right);
     KeyTo(picker, GDK_KEY_Return);
     EXPECT_TRUE(SeeGone(MarkPicker));
-    EXPECT_TRUE(See([] { return PtrnData.Parm[MarkSlot::Mark] == 1; }));
+    EXPECT_TRUE(See([mark] { return PtrnData.Parm[MarkSlot::Mark] == mark + 1; }));
   });
 }
 
