@@ -195,6 +195,40 @@ void StopReporting(GtkWidget* view, TreeState* state) {
   state->Source = 0;
 }
 
+// Goes into an open folder, opens a closed one.
+void GoIn(const TreeState* state, GtkTreePath* path) {
+  GtkTreeIter row;
+  gtk_tree_model_get_iter(GTK_TREE_MODEL(state->Store), &row, path);
+  LookInto(state->Store, &row);
+  if (!gtk_tree_view_row_expanded(state->View, path)) {
+    gtk_tree_view_expand_row(state->View, path, FALSE);
+  } else {
+    gtk_tree_path_down(path);
+    gtk_tree_view_set_cursor(state->View, path, nullptr, FALSE);
+  }
+}
+
+// Closes an open folder, goes out of a closed one.
+void GoOut(const TreeState* state, GtkTreePath* path) {
+  if (gtk_tree_view_collapse_row(state->View, path)) return;
+  if (gtk_tree_path_get_depth(path) == 1) return;
+  gtk_tree_path_up(path);
+  gtk_tree_view_set_cursor(state->View, path, nullptr, FALSE);
+}
+
+// Left and right alone; with other keys held they scroll.
+gboolean MoveByArrows(GtkWidget* /*view*/, const GdkEventKey* event, const TreeState* state) {
+  const bool in = event->keyval == GDK_KEY_Right || event->keyval == GDK_KEY_KP_Right;
+  const bool out = event->keyval == GDK_KEY_Left || event->keyval == GDK_KEY_KP_Left;
+  if ((!in && !out) || (event->state & gtk_accelerator_get_default_mod_mask()) != 0) return FALSE;
+  GtkTreePath* path = nullptr;
+  gtk_tree_view_get_cursor(state->View, &path, nullptr);
+  if (path == nullptr) return FALSE;
+  (in ? GoIn : GoOut)(state, path);
+  gtk_tree_path_free(path);
+  return TRUE;
+}
+
 gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, GtkTreePath* path,
                    gboolean selected, gpointer /*data*/) {
   return selected || gtk_tree_path_get_depth(path) > 1;
@@ -223,6 +257,7 @@ GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
   gtk_tree_selection_set_select_function(selection, BelowRoot, nullptr, nullptr);
   state->View = GTK_TREE_VIEW(view);
   g_signal_connect(view, "draw", G_CALLBACK(LookAfterPainting), state);
+  g_signal_connect(view, "key-press-event", G_CALLBACK(MoveByArrows), state);
   g_signal_connect(view, "test-expand-row", G_CALLBACK(FillBeforeUnfolding), state);
   g_signal_connect(selection, "changed", G_CALLBACK(ReportSelection), state);
   g_signal_connect(view, "destroy", G_CALLBACK(StopReporting), state);

@@ -239,6 +239,49 @@ TEST_F(Choosers, APathThatNoRecordHoldsIsRefusedNotCut) {
             "");
 }
 
+TEST_F(Choosers, RightOpensAFolderAndGoesIntoItLeftGoesOutAndCloses) {
+  MakeFolder("a/b/c");
+  Folder([this](GtkWidget* dialog) {
+    GtkWidget* tree = TreeOf(dialog);
+    gtk_window_present(GTK_WINDOW(dialog));
+    gtk_widget_grab_focus(tree);
+    ASSERT_TRUE(WaitFor([tree] { return gtk_widget_has_focus(tree) != FALSE; }));
+    const auto at = [tree] {
+      GtkTreePath* path = nullptr;
+      gtk_tree_view_get_cursor(GTK_TREE_VIEW(tree), &path, nullptr);
+      gchar* text = path != nullptr ? gtk_tree_path_to_string(path) : g_strdup("");
+      const bool open = path != nullptr && gtk_tree_view_row_expanded(GTK_TREE_VIEW(tree), path);
+      const std::string place = std::string(text) + (open ? " open" : "");
+      g_free(text);
+      gtk_tree_path_free(path);
+      return place;
+    };
+    const auto after = [&](guint key) {
+      PressKey(dialog, key);
+      return at();
+    };
+    EXPECT_EQ(at(), "0 open");
+    EXPECT_EQ(after(GDK_KEY_Right), "0:0");
+    EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("a"));
+    EXPECT_EQ(after(GDK_KEY_Right), "0:0 open");
+    EXPECT_EQ(after(GDK_KEY_KP_Right), "0:0:0");
+    EXPECT_EQ(after(GDK_KEY_Right), "0:0:0 open");
+    EXPECT_EQ(after(GDK_KEY_Right), "0:0:0:0");
+    EXPECT_EQ(after(GDK_KEY_Right), "0:0:0:0") << "nothing is in it";
+    EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("a/b/c"));
+    EXPECT_EQ(after(GDK_KEY_Left), "0:0:0 open");
+    EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("a/b"));
+    EXPECT_EQ(after(GDK_KEY_KP_Left), "0:0:0");
+    EXPECT_EQ(after(GDK_KEY_Left), "0:0 open");
+    EXPECT_EQ(after(GDK_KEY_Left), "0:0");
+    EXPECT_EQ(after(GDK_KEY_Left), "0 open");
+    EXPECT_EQ(after(GDK_KEY_Left), "0");
+    EXPECT_EQ(after(GDK_KEY_Left), "0");
+    EXPECT_EQ(after(GDK_KEY_Right), "0 open");
+    CloseByManager(dialog);
+  });
+}
+
 TEST_F(Choosers, AFileIsNoFolder) {
   Home.Write("plain", "x");
   EXPECT_EQ(Folder([this](GtkWidget* dialog) {
