@@ -1,12 +1,13 @@
 // Choosing a folder; one that does not exist is made on request.
-#include <cstring>
 #include <string>
 
 #include "dialogs/Accessible.h"
 #include "dialogs/Cells.h"
 #include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
+#include "dialogs/EntryLook.h"
 #include "dialogs/FolderTree.h"
+#include "dialogs/TypedFolder.h"
 #include "layout/Screen.h"
 #include "support/Files.h"
 #include "support/Text.h"
@@ -17,10 +18,15 @@ gchar FolderName[PathSize];
 namespace {
 
 constexpr const gchar* Title = "フォルダー選択";
+// Of the entry in characters, of the records in bytes.
 constexpr gint EntryLimit = 256;
 
 GtkWidget* FolderSelect_Entry = nullptr;
 GtkWidget* FolderSelect_Button = nullptr;
+// The folder that the tree gave last, and what the entry shows for it: the path as far as it goes
+// in.
+std::string GivenFolder;
+std::string GivenText;
 
 void FolderSelect_Input(GtkEditable* entry, gpointer /*data*/) {
   const gchar* text = gtk_entry_get_text(GTK_ENTRY(entry));
@@ -28,9 +34,30 @@ void FolderSelect_Input(GtkEditable* entry, gpointer /*data*/) {
   gtk_widget_set_sensitive(FolderSelect_Button, *text != '\0');
 }
 
+// The entry itself takes no more characters than its limit.
+void FolderSelect_Insert(GtkEditable* entry, const gchar* text, gint length, const gint* /*at*/,
+                         gpointer /*data*/) {
+  const glong held = gtk_entry_get_text_length(GTK_ENTRY(entry));
+  if (held + g_utf8_strlen(text, length) <= EntryLimit)
+    UnmarkEntry(GTK_WIDGET(entry));
+  else
+    MarkEntry(GTK_WIDGET(entry), held < EntryLimit ? EntryTookAPart : EntryTakesNoMore);
+}
+
+void FolderSelect_Erase(GtkEditable* entry, gint /*start*/, gint /*end*/, gpointer /*data*/) {
+  UnmarkEntry(GTK_WIDGET(entry));
+}
+
+void Give(const std::string& path) {
+  gtk_entry_set_text(GTK_ENTRY(FolderSelect_Entry), DisplayText(path).c_str());
+  UnmarkEntry(FolderSelect_Entry);
+  GivenFolder = path;
+  GivenText = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
+}
+
 void FolderSelect_Slct(const std::string& path) {
   if (path.empty()) return;
-  gtk_entry_set_text(GTK_ENTRY(FolderSelect_Entry), DisplayText(path).c_str());
+  Give(path);
   CopyText(FolderName, path);
   gtk_widget_set_sensitive(FolderSelect_Button, TRUE);
 }
@@ -40,16 +67,13 @@ void Tell(GtkWidget* window, const gchar* text) {
 }
 
 void FolderSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
-  // A folder from the tree may have a name that is not text; then its bytes stand, not what the
-  // entry shows for them.
-  const gchar* text = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
-  if (DisplayText(FolderName) != text) {
-    if (std::strlen(text) >= sizeof FolderName) {
-      Tell(window, "フォルダーへのパスが長すぎます。");
-      return;
-    }
-    CopyText(FolderName, text);
+  const std::string text = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
+  const std::string folder = text == GivenText ? GivenFolder : TypedFolder(text, GivenFolder);
+  if (folder.size() > EntryLimit) {
+    Tell(window, "フォルダーへのパスが長すぎます。");
+    return;
   }
+  CopyText(FolderName, folder);
   if (FolderName[0] == '\0') {
     Tell(window, "フォルダーが設定されていません。");
     return;
@@ -91,10 +115,12 @@ gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
   GtkWidget* entry = gtk_entry_new();
   SetAccessibleName(entry, Title);
   gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
-  gtk_entry_set_text(GTK_ENTRY(entry), DisplayText(home).c_str());
   gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
-  g_signal_connect(entry, "changed", G_CALLBACK(FolderSelect_Input), nullptr);
   KeepWidget(&FolderSelect_Entry, entry);
+  Give(home);
+  g_signal_connect(entry, "insert-text", G_CALLBACK(FolderSelect_Insert), nullptr);
+  g_signal_connect(entry, "delete-text", G_CALLBACK(FolderSelect_Erase), nullptr);
+  g_signal_connect(entry, "changed", G_CALLBACK(FolderSelect_Input), nullptr);
   gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 5);
   gtk_widget_show(entry);
   GtkWidget* tree = NewFolderTree(home, FolderSelect_Slct);

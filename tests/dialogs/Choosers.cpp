@@ -12,6 +12,7 @@
 
 #include "common/TempFolder.h"
 #include "dialogs/Controls.h"
+#include "support/Text.h"
 #include "window/Widgets.h"
 
 namespace {
@@ -89,6 +90,29 @@ void SelectFolder(GtkWidget* dialog, std::initializer_list<std::string> names) {
 
 void SetPath(GtkWidget* dialog, const std::string& path) {
   gtk_entry_set_text(GTK_ENTRY(EntryOf(dialog)), path.c_str());
+}
+
+// Types behind what the entry shows.
+void TypeBehind(GtkWidget* dialog, const std::string& text) {
+  gtk_editable_set_position(GTK_EDITABLE(EntryOf(dialog)), -1);
+  Type(EntryOf(dialog), text);
+}
+
+// Presses " 選択 " and has the folder made that is not there.
+void ChooseNew(GtkWidget* dialog) {
+  const DialogAnswer answer(MessageTitle, PressButton(" はい "));
+  PressButton(" 選択 ")(dialog);
+}
+
+void ExpectTooLong(GtkWidget* dialog) {
+  {
+    const DialogAnswer answer(MessageTitle, [](GtkWidget* message) {
+      EXPECT_NE(FindLabel(message, "フォルダーへのパスが長すぎます。"), nullptr);
+      PressButton(" 確認 ")(message);
+    });
+    PressButton(" 選択 ")(dialog);
+  }
+  EXPECT_EQ(FindWindow(Title), dialog);
 }
 
 // A chooser that a failed test leaves open would not come back from its loop.
@@ -237,6 +261,150 @@ TEST_F(Choosers, APathThatNoRecordHoldsIsRefusedNotCut) {
               CloseByManager(dialog);
             }),
             "");
+}
+
+// "日本", "語" and "新" in EUC-JP.
+constexpr const gchar* Nihon = "\xC6\xFC\xCB\xDC";
+constexpr const gchar* Go = "\xB8\xEC";
+constexpr const gchar* Shin = "\xBF\xB7";
+
+TEST_F(Choosers, WhatIsTypedBelowAnEucJpFolderIsEucJpAndTheFolderTheSame) {
+  MakeFolder(Nihon);
+  const std::string wanted = Home.Path(std::string(Nihon) + "/" + Shin + "/x");
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"日本"});
+              TypeBehind(dialog, "/新/x");
+              ChooseNew(dialog);
+            }),
+            wanted);
+  EXPECT_TRUE(fs::is_directory(wanted));
+  EXPECT_FALSE(Home.Exists("日本"));
+}
+
+TEST_F(Choosers, WhatIsTypedRightBehindAnEucJpNameGoesOnInIt) {
+  MakeFolder(Nihon);
+  MakeFolder(std::string(Nihon) + Go);
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"日本"});
+              TypeBehind(dialog, "語");
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(std::string(Nihon) + Go));
+}
+
+TEST_F(Choosers, WhatEucJpCannotHoldIsUtf8BelowAnEucJpFolder) {
+  MakeFolder(Nihon);
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"日本"});
+              TypeBehind(dialog, "/新\U0001F600");
+              ChooseNew(dialog);
+            }),
+            Home.Path(std::string(Nihon) + "/新\U0001F600"));
+}
+
+TEST_F(Choosers, WhatIsTypedBelowOtherFoldersIsUtf8) {
+  for (const std::string folder : {"plain", "にほん"}) {
+    MakeFolder(folder);
+    EXPECT_EQ(Folder([&folder](GtkWidget* dialog) {
+                SelectFolder(dialog, {folder});
+                TypeBehind(dialog, "/新");
+                ChooseNew(dialog);
+              }),
+              Home.Path(folder + "/新"));
+  }
+}
+
+TEST_F(Choosers, AShortenedPathKeepsTheBytesOfWhatIsLeft) {
+  MakeFolder(std::string(Nihon) + "/sub");
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              SelectFolder(dialog, {"日本", "sub"});
+              GtkEditable* entry = GTK_EDITABLE(EntryOf(dialog));
+              const auto length = static_cast<gint>(gtk_entry_get_text_length(GTK_ENTRY(entry)));
+              gtk_editable_delete_text(entry, length - 4, length);
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(Nihon));
+}
+
+TEST_F(Choosers, ATypedNameLeadsToTheFolderThatShowsIt) {
+  MakeFolder(Nihon);
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              TypeBehind(dialog, "/日本");
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(Nihon));
+  MakeFolder("日本");
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              TypeBehind(dialog, "/日本");
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path("日本"));
+}
+
+TEST_F(Choosers, AChosenFolderThatNoRecordHoldsIsRefusedNotCut) {
+  const gsize room = 256 - Home.Path().size() - 1 - 202;
+  const std::string parent(200, 'p');
+  const std::string fits(room + 1, 'f');
+  const std::string over(room + 2, 'o');
+  MakeFolder(parent + "/" + fits);
+  MakeFolder(parent + "/" + over);
+  MakeFolder(parent + "/" + over.substr(0, over.size() - 1));
+  EXPECT_EQ(Folder([&](GtkWidget* dialog) {
+              SelectFolder(dialog, {parent, over});
+              ExpectTooLong(dialog);
+              SelectFolder(dialog, {parent, fits});
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(parent + "/" + fits));
+}
+
+TEST_F(Choosers, APathIsAsLongAsItsBytes) {
+  // 130 characters, 260 bytes.
+  std::string shown;
+  std::string bytes;
+  for (gint count = 0; count < 65; count++) {
+    shown += "日本";
+    bytes += Nihon;
+  }
+  const std::string half = bytes.substr(0, bytes.size() / 2);
+  MakeFolder(half + "/" + half);
+  EXPECT_EQ(Folder([&](GtkWidget* dialog) {
+              const std::string name = DisplayText(half);
+              SelectFolder(dialog, {name, name});
+              ExpectTooLong(dialog);
+              CloseByManager(dialog);
+            }),
+            "");
+}
+
+TEST_F(Choosers, ANameThatShowsLongerThanTheEntryIsChosenWhole) {
+  const std::string odd(100, '\xFF');
+  MakeFolder(odd);
+  EXPECT_EQ(Folder([](GtkWidget* dialog) {
+              std::string shown;
+              for (gint count = 0; count < 100; count++) shown += "\\xFF";
+              SelectFolder(dialog, {shown});
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(odd));
+}
+
+TEST_F(Choosers, ThePathSaysWhenItTakesNoMore) {
+  Folder([](GtkWidget* dialog) {
+    GtkWidget* entry = EntryOf(dialog);
+    const auto marked = [entry] {
+      return gtk_entry_get_icon_name(GTK_ENTRY(entry), GTK_ENTRY_ICON_SECONDARY) != nullptr;
+    };
+    SetPath(dialog, "");
+    Type(entry, std::string(256, 'x'));
+    EXPECT_FALSE(marked());
+    Type(entry, "yz");
+    EXPECT_EQ(EntryText(entry), std::string(256, 'x'));
+    EXPECT_TRUE(marked());
+    gtk_editable_delete_text(GTK_EDITABLE(entry), 0, 1);
+    EXPECT_FALSE(marked());
+    CloseByManager(dialog);
+  });
 }
 
 TEST_F(Choosers, RightOpensAFolderAndGoesIntoItLeftGoesOutAndCloses) {
