@@ -186,6 +186,26 @@ TEST_F(PaintedLayouts, LeaveTheClockAloneWhileItShowsTheSame) {
   EXPECT_EQ(painted_.Paint(picture_).size(), 2u);
 }
 
+// Whatever lies across the edges of a small surface.
+TEST_F(PaintedLayouts, TilesOfAnySizeEqualTheWhole) {
+  const auto whole = PaintLayout();
+  for (const auto& [width, height] : {std::pair{7, 5}, std::pair{3, 40}, std::pair{50, 2}}) {
+    for (gint top = 0; top < Height; top += height) {
+      for (gint left = 0; left < Width; left += width) {
+        Drawable tile(width, height, left, top);
+        DrawGc gc;
+        DrawWindow1(&tile, &gc);
+        for (gint row = 0; row < std::min(height, Height - top); ++row) {
+          const auto length = static_cast<std::size_t>(std::min(width, Width - left));
+          ASSERT_EQ(
+              std::memcmp(tile.Row(row), whole->Row(top + row) + left, length * sizeof(guint32)), 0)
+              << "row " << row << " of the tile at " << left << ", " << top;
+        }
+      }
+    }
+  }
+}
+
 TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
   EXPECT_TRUE(PaintsTheWhole());
 }
