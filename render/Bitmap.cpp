@@ -10,6 +10,7 @@ void DrawBmap(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint heig
     return;
   }
   const FilePicture file = PictureFile(PicturePathInside(path, name));
+  ShownPictures::Note(path, name, file.state);
   if (file.picture == nullptr) {
     return;
   }

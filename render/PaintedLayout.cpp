@@ -4,6 +4,7 @@
 #include <cstring>
 #include <new>
 
+#include "PictureFiles.h"
 #include "ProjData.h"
 #include "layout/EditState.h"
 #include "layout/Guards.h"
@@ -75,11 +76,11 @@ PaintedLayout::Clock PaintedLayout::PresentClock(const Drawable& picture) {
   return clock;
 }
 
-std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture, const std::string& look,
-                                                  const Clock& clock) const {
-  std::vector<DrawnBox> whole{{0, 0, picture.Width(), picture.Height()}};
-  if (!painted_ || look != look_) {
-    return whole;
+std::optional<std::vector<DrawnBox>> PaintedLayout::ChangedBoxes(const Drawable& picture,
+                                                                 const std::string& look,
+                                                                 const Clock& clock) const {
+  if (!painted_ || look != look_ || pictures_.Changed()) {
+    return std::nullopt;
   }
   // A commit changes one item, appends some or takes some out: the others stand before and behind.
   const auto oldCount = items_.size();
@@ -97,7 +98,7 @@ std::vector<DrawnBox> PaintedLayout::ChangedBoxes(const Drawable& picture, const
   }
   const std::size_t changed = oldCount + newCount - 2 * (before + behind);
   if (changed == 0 || changed > MaxChanged) {
-    return whole;
+    return std::nullopt;
   }
   DrawnBox oldBox, newBox;
   for (std::size_t no = before; no < oldCount - behind; ++no) {
@@ -138,8 +139,14 @@ void PaintedLayout::Remember(std::string look, Clock clock) {
 std::vector<DrawnBox> PaintedLayout::Paint(Drawable& picture) {
   std::string look = PresentLook();
   Clock clock = PresentClock(picture);
-  std::vector<DrawnBox> boxes = ChangedBoxes(picture, look, clock);
-  for (const DrawnBox& box : boxes) PaintPart(picture, box);
+  const KeptPicturePaths paths;
+  std::optional<std::vector<DrawnBox>> boxes = ChangedBoxes(picture, look, clock);
+  if (!boxes) {
+    pictures_.Clear();
+    boxes = {{0, 0, picture.Width(), picture.Height()}};
+  }
+  const ShownPictures::Noting noting(pictures_);
+  for (const DrawnBox& box : *boxes) PaintPart(picture, box);
   Remember(std::move(look), std::move(clock));
-  return boxes;
+  return *std::move(boxes);
 }

@@ -14,17 +14,6 @@ constexpr gint64 MaxPictureBytes = gint64{128} << 20;
 constexpr gint64 MaxKeptBytes = gint64{256} << 20;
 constexpr std::size_t MaxKeptFiles = 64;
 
-// What tells one state of a file from another.
-struct FileState {
-  dev_t device;
-  ino_t inode;
-  off_t size;
-  gint64 seconds;
-  gint64 nanoseconds;
-
-  bool operator==(const FileState&) const = default;
-};
-
 struct KeptPicture {
   std::string path;
   FileState state;
@@ -59,27 +48,34 @@ void DropOldest() {
 
 }  // namespace
 
-FilePicture PictureFile(const std::string& path) {
+std::optional<FileState> PictureFileState(const std::string& path) {
   struct stat info = {};
   if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) {
-    return {nullptr, 0};
+    return std::nullopt;
   }
-  const FileState state{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec,
-                        info.st_mtim.tv_nsec};
+  return FileState{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec,
+                   info.st_mtim.tv_nsec};
+}
+
+FilePicture PictureFile(const std::string& path) {
+  const std::optional<FileState> state = PictureFileState(path);
+  if (!state) {
+    return {nullptr, 0, state};
+  }
   for (auto entry = kept.begin(); entry != kept.end(); ++entry) {
     if (entry->path != path) {
       continue;
     }
     if (entry->state == state) {
       kept.splice(kept.begin(), kept, entry);
-      return {entry->picture.get(), entry->source};
+      return {entry->picture.get(), entry->source, state};
     }
     kept.erase(entry);
     break;
   }
   PixbufPtr picture = ReadPicture(path);
   const gint64 bytes = picture ? static_cast<gint64>(gdk_pixbuf_get_byte_length(picture.get())) : 0;
-  kept.push_front({path, state, std::move(picture), bytes, NewPictureSource()});
+  kept.push_front({path, *state, std::move(picture), bytes, NewPictureSource()});
   DropOldest();
-  return {kept.front().picture.get(), kept.front().source};
+  return {kept.front().picture.get(), kept.front().source, state};
 }

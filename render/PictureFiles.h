@@ -3,12 +3,17 @@
 
 #include <string>
 
+#include "render/ShownPictures.h"
 #include "render/Surface.h"
 
 struct FilePicture {
-  GdkPixbuf* picture;  // null: the file cannot be read or holds none
-  guint64 source;      // number of the file's state
+  GdkPixbuf* picture;              // null: the file cannot be read or holds none
+  guint64 source;                  // number of the file's state
+  std::optional<FileState> state;  // none: there is no such file
 };
+
+// The present state of a regular file, none when there is no such file.
+std::optional<FileState> PictureFileState(const std::string& path);
 
 // The picture in a regular file. Kept until the file's time or size changes or newer pictures need
 // the room, so it is valid until the next call.

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <filesystem>
 #include <random>
 
 #include "render/ItemSamples.h"
@@ -204,6 +205,100 @@ TEST_F(PaintedLayouts, TilesOfAnySizeEqualTheWhole) {
       }
     }
   }
+}
+
+// The items that show a picture are not those that are changed.
+class PaintedPictures : public PaintedLayouts {
+ protected:
+  PaintedPictures() {
+    IntPtrnData();
+    Add(FrameItem(10, 200, 30, 230, 2));
+    Add(BitmapItem(200, 100, 264, 148, 0));
+    Paint(Ink::Red);
+    painted_.Paint(picture_);
+  }
+  static void Add(const PTRNDATA& item) { AddPtrnData(&item); }
+  // Puts a picture of one colour in place of a file, as a new file.
+  void Paint(gint colour, const std::string& name = "house.png") {
+    Drawable picture(8, 6);
+    PaintBack(picture, colour);
+    WritePng(picture, Path(name).c_str());
+  }
+  static std::string Path(const std::string& name) { return std::string(BmapPath) + "/" + name; }
+  void MoveTheFrame() {
+    PTRNDATA item;
+    GetPtrnData(0, &item);
+    item.Point1.x += 5;
+    item.Point2.x += 5;
+    SetPtrnData(0, &item);
+  }
+  void ExpectShown(gint x, gint y, gint colour) {
+    MoveTheFrame();
+    painted_.Paint(picture_);
+    EXPECT_EQ(picture_.At(x, y), InkPixel[colour]);
+    ExpectUpToDate("another picture");
+  }
+};
+
+TEST_F(PaintedPictures, FollowAFileThatIsReplaced) {
+  ExpectShown(230, 120, Ink::Red);
+  Paint(Ink::Green);
+  ExpectShown(230, 120, Ink::Green);
+  Paint(Ink::Blue);
+  ExpectShown(230, 120, Ink::Blue);
+}
+
+TEST_F(PaintedPictures, FollowAFileThatGoesAndComes) {
+  std::filesystem::remove(Path("house.png"));
+  ExpectShown(230, 120, Ink::Cream);
+  Paint(Ink::Green);
+  ExpectShown(230, 120, Ink::Green);
+}
+
+TEST_F(PaintedPictures, FollowTheFileOfAnItemThatCameLater) {
+  Paint(Ink::Red, "later.png");
+  PTRNDATA item = BitmapItem(20, 20, 84, 68, 0);
+  CopyText(item.Text1, "later.png");
+  Add(item);
+  ExpectShown(50, 40, Ink::Red);
+  Paint(Ink::Green, "later.png");
+  ExpectShown(50, 40, Ink::Green);
+}
+
+TEST_F(PaintedPictures, FollowLogoAndBackground) {
+  SetTitleArea(24, "配水池");
+  PtrnHedr.Parm1[HedrSlot::LogoShown] = 1;
+  CopyText(PtrnHedr.LogoName, "logo.png");
+  CopyText(PtrnHedr.BmapName, "ground.png");
+  Paint(Ink::Red, "logo.png");
+  Paint(Ink::Red, "ground.png");
+  const gint height = FontHeight[PtrnHedr.Parm1[HedrSlot::TitleFont]];
+  const gint middle = (24 - height) / 2 + height / 2;
+  ExpectShown(middle, middle, Ink::Red);
+  Paint(Ink::Green, "logo.png");
+  ExpectShown(middle, middle, Ink::Green);
+  Paint(Ink::Blue, "ground.png");
+  ExpectShown(150, 150, Ink::Blue);
+}
+
+TEST_F(PaintedPictures, PaintAPartWhileTheFilesStayTheSame) {
+  MoveTheFrame();
+  EXPECT_FALSE(PaintsTheWhole());
+  Paint(Ink::Green);
+  MoveTheFrame();
+  EXPECT_TRUE(PaintsTheWhole());
+  MoveTheFrame();
+  EXPECT_FALSE(PaintsTheWhole()) << "the new file is known now";
+}
+
+// A picture that no item shows any more is of no account.
+TEST_F(PaintedPictures, ForgetAFileThatIsNotShown) {
+  DelPtrnData(1);
+  EXPECT_FALSE(PaintsTheWhole());
+  EXPECT_TRUE(PaintsTheWhole()) << "nothing changed";
+  Paint(Ink::Green);
+  MoveTheFrame();
+  EXPECT_FALSE(PaintsTheWhole());
 }
 
 TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
