@@ -3,32 +3,18 @@
 #include <string>
 
 #include "AsciiPicture.h"
+#include "render/OnePixelBitmap.h"
 #include "render/PictureFiles.h"
-#include "tests/common/Bytes.h"
 #include "tests/common/TempFolder.h"
 
 namespace {
 
-using namespace std::string_literals;
-
-// One black pixel of a bitmap whose header claims the given size.
-std::string BlackBitmap(gint width, gint height) {
-  return Bytes()
-      .Raw("BM")
-      .Ints({58, 0, 54})          // file size, reserved, place of the pixels
-      .Ints({40, width, height})  // header size, width, height
-      .Raw("\x01\x00\x18\x00"s)   // planes, 24 bits a pixel
-      .Ints({0, 4, 0, 0, 0, 0})   // no compression, bytes of pixels
-      .Raw("\x00\x00\x00\x00"s)   // the pixel, padding
-      .Str();
-}
-
 class BitmapFolder : public testing::Test {
  protected:
   BitmapFolder() {
-    outside_ = root_.Write("outside.bmp", BlackBitmap(1, 1));
-    root_.Write("Bitmaps/inside.bmp", BlackBitmap(1, 1));
-    root_.Write("Bitmaps2/beside.bmp", BlackBitmap(1, 1));
+    outside_ = root_.Write("outside.bmp", OnePixelBitmap());
+    root_.Write("Bitmaps/inside.bmp", OnePixelBitmap());
+    root_.Write("Bitmaps2/beside.bmp", OnePixelBitmap());
   }
   bool Draws(const std::string& name) { return DrawsFrom(root_.Path("Bitmaps"), name); }
   bool DrawsFrom(const std::string& folder, const std::string& name) {
@@ -44,7 +30,7 @@ class BitmapFolder : public testing::Test {
 };
 
 TEST_F(BitmapFolder, ItsOwnPicturesAreDrawn) {
-  root_.Write("Bitmaps/deep/a.bmp", BlackBitmap(1, 1));
+  root_.Write("Bitmaps/deep/a.bmp", OnePixelBitmap());
   EXPECT_TRUE(Draws("inside.bmp"));
   EXPECT_TRUE(Draws("deep/a.bmp"));
 }
@@ -83,7 +69,7 @@ TEST_F(BitmapFolder, WhatAPaintingKeepsOfItEndsWithThePainting) {
   {
     const KeptPicturePaths outer;
     EXPECT_FALSE(Draws("new.bmp"));
-    root_.Write("Bitmaps/new.bmp", BlackBitmap(1, 1));
+    root_.Write("Bitmaps/new.bmp", OnePixelBitmap());
     const KeptPicturePaths inner;
     EXPECT_FALSE(Draws("new.bmp")) << "looked up once more";
     EXPECT_TRUE(Draws("inside.bmp"));

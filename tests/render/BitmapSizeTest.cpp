@@ -6,7 +6,7 @@
 #include <string>
 
 #include "AsciiPicture.h"
-#include "tests/common/Bytes.h"
+#include "render/OnePixelBitmap.h"
 #include "tests/common/Child.h"
 #include "tests/common/PeakMemory.h"
 #include "tests/common/TempFolder.h"
@@ -56,15 +56,6 @@ std::string Png(guint32 side, const std::string& rows) {
          Chunk("IDAT", Packed(rows)) + Chunk("IEND", "");
 }
 
-std::string Bmp(gint width, gint height) {
-  return Bytes()
-      .Raw("BM")
-      .Ints({58, 0, 54, 40, width, height})
-      .Raw("\x01\x00\x18\x00"s)  // planes, 24 bits a pixel
-      .Ints({0, 4, 0, 0, 0, 0, 0})
-      .Str();
-}
-
 std::string LittleEndian(gint value) {
   return {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8 & 0xFF)};
 }
@@ -106,7 +97,7 @@ class BitmapSize : public testing::Test {
 
 TEST_F(BitmapSize, ItsPicturesAreGoodWhenTheirSizesAre) {
   folder_.Write("a.png", Png(1, std::string(2, '\0')));
-  folder_.Write("a.bmp", Bmp(1, 1));
+  folder_.Write("a.bmp", OnePixelBitmap());
   folder_.Write("a.gif", Gif(1, 1));
   folder_.Write("a.xpm", Xpm("1"));
   for (const char* name : {"a.png", "a.bmp", "a.gif", "a.xpm"})
@@ -115,9 +106,9 @@ TEST_F(BitmapSize, ItsPicturesAreGoodWhenTheirSizesAre) {
 
 TEST_F(BitmapSize, HeadersThatClaimAbsurdSizes) {
   EXPECT_TRUE(IsRefused("a.png", Png(60000, std::string(100, '\0'))));
-  EXPECT_TRUE(IsRefused("a.bmp", Bmp(60000, 60000)));
-  EXPECT_TRUE(IsRefused("b.bmp", Bmp(60000, -60000)));
-  EXPECT_TRUE(IsRefused("c.bmp", Bmp(0x7fffffff, 1)));
+  EXPECT_TRUE(IsRefused("a.bmp", OnePixelBitmap(60000, 60000)));
+  EXPECT_TRUE(IsRefused("b.bmp", OnePixelBitmap(60000, -60000)));
+  EXPECT_TRUE(IsRefused("c.bmp", OnePixelBitmap(0x7fffffff, 1)));
   EXPECT_TRUE(IsRefused("a.gif", Gif(60000, 60000)));
 #ifndef __SANITIZE_ADDRESS__
   // Its loader takes address space for all pixels and touches none; the sanitizer's notes on that

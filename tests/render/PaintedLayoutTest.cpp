@@ -83,8 +83,10 @@ class PaintedLayouts : public testing::Test {
     return boxes.size() == 1 && boxes[0].x1 == 0 && boxes[0].y1 == 0 && boxes[0].x2 == Width &&
            boxes[0].y2 == Height;
   }
+  // Another change of an item each time.
   void Change() {
-    const PTRNDATA item = FrameItem(100, 100, 140, 130, 2);
+    ++changes_;
+    const PTRNDATA item = FrameItem(100 + changes_, 100, 140, 130, 2);
     SetPtrnData(3, &item);
   }
 
@@ -93,6 +95,7 @@ class PaintedLayouts : public testing::Test {
   std::mt19937 random_{7};
   Drawable picture_{Width, Height};
   PaintedLayout painted_;
+  gint changes_ = 0;
 };
 
 TEST_F(PaintedLayouts, FollowEveryChangeOfAnItem) {
@@ -314,27 +317,96 @@ TEST_F(PaintedLayouts, PaintTheWholeWhenAllItemsChanged) {
   ExpectUpToDate("all items");
 }
 
-TEST_F(PaintedLayouts, PaintTheWholeWhenTheLookChanged) {
-  const auto expectWhole = [this](const char* what, auto change) {
+TEST_F(PaintedLayouts, PaintAPartWhenOneItemChanged) {
+  Change();
+  EXPECT_FALSE(PaintsTheWhole());
+  Change();
+  EXPECT_FALSE(PaintsTheWhole());
+}
+
+// What the picture shows besides its items, each changed together with one item.
+class PaintedLooks : public PaintedLayouts {
+ protected:
+  template <typename Change>
+  void ExpectWhole(Change change) {
     painted_.Paint(picture_);
-    Change();
+    PaintedLayouts::Change();
     change();
-    EXPECT_TRUE(PaintsTheWhole()) << what;
-    ExpectUpToDate(what);
-  };
-  expectWhole("palette", [] { DrawColr[Ink::Cream] = DrawColr[Ink::Red]; });
-  expectWhole("colour system", [] { ColorCode = 1; });
-  expectWhole("language", [] { Language = 1; });
-  expectWhole("header", [] { PtrnHedr.Parm1[HedrSlot::WorkAreaColour] = Ink::Sky; });
-  expectWhole("mark", [] {
+    EXPECT_TRUE(PaintsTheWhole());
+    ExpectUpToDate("change of the look");
+  }
+};
+
+TEST_F(PaintedLooks, Palette) {
+  ExpectWhole([] { DrawColr[Ink::Cream] = DrawColr[Ink::Red]; });
+}
+
+// A gradation is made from the palette itself.
+TEST_F(PaintedLooks, PaletteOfAGradation) {
+  PtrnHedr.Parm1[HedrSlot::Gradation] = 1;
+  ExpectWhole([] { ColrData[Ink::Cream].red = 0; });
+}
+
+TEST_F(PaintedLooks, ColourSystem) {
+  ExpectWhole([] { ColorCode = 1; });
+}
+
+TEST_F(PaintedLooks, Language) {
+  ExpectWhole([] { ::Language = 1; });
+}
+
+TEST_F(PaintedLooks, Header) {
+  ExpectWhole([] { PtrnHedr.Parm1[HedrSlot::WorkAreaColour] = Ink::Sky; });
+}
+
+TEST_F(PaintedLooks, View) {
+  ExpectWhole([] { PtrnHedr.Parm2[ViewSlot::GridColour] = Ink::Sky; });
+}
+
+TEST_F(PaintedLooks, TitlesOfAllLanguages) {
+  SetTitleArea(24, "配水池");
+  ExpectWhole([] { CopyText(PtrnHedr.PtrnName1, Euc("浄水場")); });
+  ::Language = 1;
+  ExpectWhole([] { CopyText(PtrnHedr.PtrnName2, "Plant"); });
+  ::Language = 2;
+  ExpectWhole([] { CopyText(PtrnHedr.PtrnName3, "Werk"); });
+}
+
+TEST_F(PaintedLooks, Logo) {
+  SetTitleArea(24, "配水池");
+  PtrnHedr.Parm1[HedrSlot::LogoShown] = 1;
+  ExpectWhole([] { CopyText(PtrnHedr.LogoName, "house.png"); });
+  ExpectWhole([] { PtrnHedr.LogoName[0] = '\0'; });
+}
+
+TEST_F(PaintedLooks, Background) {
+  ExpectWhole([] { CopyText(PtrnHedr.BmapName, "house.png"); });
+  ExpectWhole([] { PtrnHedr.BmapName[0] = '\0'; });
+}
+
+TEST_F(PaintedLooks, BitmapFolder) {
+  const PTRNDATA item = BitmapItem(200, 100, 264, 148, 0);
+  AddPtrnData(&item);
+  const TempFolder empty;
+  ExpectWhole([&] { g_strlcpy(BmapPath, empty.Path().c_str(), sizeof BmapPath); });
+}
+
+TEST_F(PaintedLooks, Mark) {
+  ExpectWhole([] {
     MarkData[SceneMark::Disc32x32].mark[0] ^= 0xff;
     SetDrawMark();
   });
-  expectWhole("font", [] {
+}
+
+TEST_F(PaintedLooks, Font) {
+  ExpectWhole([] {
     g_strlcpy(FontName[Font16], FontName[Font24], sizeof FontName[Font16]);
     SetDrawFont();
   });
-  ColorCode = Language = 0;
+}
+
+TEST_F(PaintedLooks, FontHeight) {
+  ExpectWhole([] { FontHeight[Font16] = 40; });
 }
 
 }  // namespace

@@ -93,6 +93,74 @@ rr#
 )");
 }
 
+TEST_F(Pictures, OfTwoColoursOfALetterTheFirstCounts) {
+  const gchar* picture[] = {"2 1 3 1", "  c #000000", "X c #FF0000", "X c #00FF00", "X "};
+  Paper paper(2, 1);
+  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  EXPECT_EQ(paper.Text(), R"(
+r#
+)");
+  // So it does when it is the first colour of all, which letters without one take, too.
+  const gchar* first[] = {"3 1 3 1", "X c #FF0000", "X c #00FF00", "  c #000000", "X .", nullptr};
+  Paper other(3, 1);
+  DrawXpm(&other.surface, &other.gc, 0, 0, 3, 1, first);
+  EXPECT_EQ(other.Text(), R"(
+r#r
+)");
+}
+
+TEST_F(Pictures, AColourLineWithoutALetterIsPassedOver) {
+  const gchar* picture[] = {"3 1 3 1", "X c #FF0000", "", "  c #00FF00", "X "};
+  Paper paper(3, 1);
+  DrawXpm(&paper.surface, &paper.gc, 0, 0, 3, 1, picture);
+  EXPECT_EQ(paper.Text(), R"(
+rgr
+)");
+}
+
+TEST_F(Pictures, PixelsThatARowLacksTakeTheFirstColour) {
+  const gchar* picture[] = {"3 2 2 1", "  c #FF0000", "X c #000000", "X", "XXX"};
+  Paper paper(3, 2);
+  DrawXpm(&paper.surface, &paper.gc, 0, 0, 3, 2, picture);
+  EXPECT_EQ(paper.Text(), R"(
+#rr
+###
+)");
+}
+
+TEST_F(Pictures, DigitsOfAColourAreOfEitherCase) {
+  const gchar* picture[] = {"2 1 2 1", "  c #ff0000", "X c #00Ff00", " X"};
+  Paper paper(2, 1);
+  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  EXPECT_EQ(paper.Text(), R"(
+rg
+)");
+}
+
+TEST_F(Pictures, OfTheGreatestSizesAreDrawn) {
+  // One row or column, one dot for each of its pixels.
+  const auto draws = [](gint width, gint height, gint colours) {
+    const std::string header =
+        std::to_string(width) + " " + std::to_string(height) + " " + std::to_string(colours) + " 1";
+    const std::string row(static_cast<std::size_t>(std::max(width, 1)), 'X');
+    std::vector<const gchar*> picture{header.c_str()};
+    picture.insert(picture.end(), static_cast<std::size_t>(std::max(colours, 1)), "X c #000000");
+    picture.insert(picture.end(), static_cast<std::size_t>(std::max(height, 1)), row.c_str());
+    Paper paper(1, 1);
+    DrawXpm(&paper.surface, &paper.gc, 0, 0, 1, 1, picture.data());
+    return paper.surface.At(0, 0) == 0;
+  };
+  EXPECT_TRUE(draws(256, 1, 1));
+  EXPECT_FALSE(draws(257, 1, 1));
+  EXPECT_TRUE(draws(1, 256, 1));
+  EXPECT_FALSE(draws(1, 257, 1));
+  EXPECT_TRUE(draws(1, 1, 16));
+  EXPECT_FALSE(draws(1, 1, 17));
+  EXPECT_FALSE(draws(0, 1, 1));
+  EXPECT_FALSE(draws(1, 0, 1));
+  EXPECT_FALSE(draws(1, 1, 0));
+}
+
 TEST_F(Pictures, ColoursThatAreNoNumbersAreBlack) {
   const gchar* picture[] = {"2 1 2 1", "  c #zzzzzz", "X c None", " X"};
   Paper paper(2, 1);
