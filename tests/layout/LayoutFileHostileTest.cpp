@@ -3,7 +3,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <filesystem>
+#include <vector>
 
 #include "tests/common/PeakMemory.h"
 #include "tests/layout/LayoutFixture.h"
@@ -12,16 +14,34 @@ namespace {
 
 class LayoutFileHostileTest : public LayoutFixture {
  protected:
-  // What the rest of the program does with a layout that has just been read.
-  void UseWhatWasRead() {
-    for (gint no = 0; no < GetPtrnCount(); ++no) {
-      const PTRNDATA item = Item(no);
-      ASSERT_GE(item.Type, 1);
-      ASSERT_LE(item.Type, 15);
-      ASSERT_LT(std::strlen(item.Text1), sizeof item.Text1);
-      ASSERT_LT(std::strlen(item.ID_Code), sizeof item.ID_Code);
+  static std::vector<PTRNDATA> Items() {
+    std::vector<PTRNDATA> items;
+    for (gint no = 0; no < GetPtrnCount(); ++no) items.push_back(Item(no));
+    return items;
+  }
+  // What the rest of the program does with a layout that has just been read: the file stands as it
+  // was, every item is of a known type and its texts end, and what is written is whole and reads
+  // back alike.
+  void UseWhatWasRead(const std::string& file) {
+    EXPECT_EQ(folder_.Read("Main.ptn"), file);
+    const std::vector<PTRNDATA> items = Items();
+    for (const PTRNDATA& item : items) {
+      EXPECT_GE(item.Type, 1);
+      EXPECT_LE(item.Type, 15);
+      EXPECT_LT(strnlen(item.Text1, sizeof item.Text1), sizeof item.Text1);
+      EXPECT_LT(strnlen(item.ID_Code, sizeof item.ID_Code), sizeof item.ID_Code);
     }
     PtrnFileWrite(folder_.Path().c_str(), "Copy");
+    EXPECT_EQ(CheckPtrnFile(folder_.Path().c_str(), "Copy"), LayoutFileState::Whole);
+    const std::string copy = folder_.Read("Copy.ptn");
+    constexpr std::size_t Settings = offsetof(PTRNHEDR, Parm1);
+    constexpr std::size_t View = offsetof(PTRNHEDR, Parm2);
+    EXPECT_EQ(copy.substr(Settings, View - Settings), file.substr(Settings, View - Settings));
+    Clear();
+    PtrnFileRead(folder_.Path().c_str(), "Copy");
+    EXPECT_EQ(Items().size(), items.size());
+    PtrnFileWrite(folder_.Path().c_str(), "Copy");
+    EXPECT_EQ(folder_.Read("Copy.ptn"), copy);
   }
 };
 
@@ -78,9 +98,10 @@ TEST_F(LayoutFileHostileTest, CountsThatLie) {
   };
   for (const Claim& claim : claims) {
     SCOPED_TRACE(testing::Message() << claim.items << " items, " << claim.texts << " bytes");
-    EXPECT_EQ(Read(HeaderWithCounts(claim.items, claim.texts, 0).Raw(body).Str()), claim.result);
+    const std::string file = HeaderWithCounts(claim.items, claim.texts, 0).Raw(body).Str();
+    EXPECT_EQ(Read(file), claim.result);
     EXPECT_EQ(GetPtrnCount(), claim.kept);
-    UseWhatWasRead();
+    UseWhatWasRead(file);
   }
 }
 
@@ -105,7 +126,7 @@ TEST_F(LayoutFileHostileTest, TextsWithoutAnyTerminator) {
   EXPECT_EQ(Item(0).Text1, std::string(100, '\xA4'));
   EXPECT_EQ(Item(0).ID_Name, std::string(80, '\xA4'));
   EXPECT_EQ(Item(0).ID_Code, std::string(20, '\xA4'));
-  UseWhatWasRead();
+  UseWhatWasRead(bytes);
 }
 
 TEST_F(LayoutFileHostileTest, EveryTypeOutOfRangeIsDropped) {
@@ -116,9 +137,22 @@ TEST_F(LayoutFileHostileTest, EveryTypeOutOfRangeIsDropped) {
 }
 
 TEST_F(LayoutFileHostileTest, EveryByteOfAllOnesAndAllZeros) {
-  for (const char byte : {'\xFF', '\x00', '\x7F', '\x80'}) {
-    Read(std::string(5000, byte));
-    UseWhatWasRead();
+  const struct {
+    char Byte;
+    LayoutFileState State;
+  } files[] = {
+      {'\xFF', LayoutFileState::Broken},  // -1 items
+      {'\x00', LayoutFileState::Whole},   // no items, and bytes behind the end
+      {'\x7F', LayoutFileState::Broken},  // two thousand million items, none of a known type
+      {'\x80', LayoutFileState::Broken},  // fewer than none
+  };
+  for (const auto& [byte, state] : files) {
+    SCOPED_TRACE(testing::Message() << "bytes of " << static_cast<int>(byte));
+    const std::string file(5000, byte);
+    EXPECT_EQ(Read(file), 0) << "nothing to show";
+    EXPECT_EQ(GetPtrnCount(), 0);
+    EXPECT_EQ(CheckPtrnFile(folder_.Path().c_str(), "Main"), state);
+    UseWhatWasRead(file);
   }
 }
 
