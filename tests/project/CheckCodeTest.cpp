@@ -8,38 +8,34 @@ using testing::IsEmpty;
 namespace {
 
 TEST(CheckCodeTest, CodeNeeded) {
-  EXPECT_THAT(Found(ProjectWith({Numeric("", 0)})), ElementsAre("code-missing Main 0 ID_Code"));
+  EXPECT_THAT(Found("code-missing", ProjectWith({Numeric("", 0)})), ElementsAre("Main 0 ID_Code"));
   CheckedProject project = ProjectWith({Button("Go")});
   PTRNDATA& button = project.Layouts[0].Items[0];
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("code-missing", project), IsEmpty());
   button.ID_Type = 4;
-  EXPECT_THAT(Found(project), ElementsAre("code-missing Main 0 ID_Code"));
+  EXPECT_THAT(Found("code-missing", project), ElementsAre("Main 0 ID_Code"));
   button.ID_Type = 9;
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("code-missing", project), IsEmpty());
 }
 
 TEST(CheckCodeTest, CodeMustBeAnIdentifier) {
   for (const char* code : {"A-B", "A B", "9A", "A.", "\xC6\xFC"}) {
-    CheckedProject project = ProjectWith({Numeric(code, 0)});
-    Register(project, code, 1);
-    EXPECT_THAT(Found(project), ElementsAre("code-malformed Main 0 ID_Code")) << code;
+    EXPECT_THAT(Found("code-malformed", ProjectWith({Numeric(code, 0)})),
+                ElementsAre("Main 0 ID_Code"))
+        << code;
   }
   for (const char* code : {"A_9", "_", "a"}) {
-    CheckedProject project = ProjectWith({Numeric(code, 0)});
-    Register(project, code, 1);
-    EXPECT_THAT(Found(project), IsEmpty()) << code;
+    EXPECT_THAT(Found("code-malformed", ProjectWith({Numeric(code, 0)})), IsEmpty()) << code;
   }
 }
 
 TEST(CheckCodeTest, CodeMustBeNoWordOfTheSources) {
   for (const char* code : {"return", "NULL", "BOOL", "while", "name", "auto"}) {
-    CheckedProject project = ProjectWith({Numeric(code, 0)});
-    Register(project, code, 1);
-    EXPECT_THAT(Found(project), ElementsAre("code-reserved Main 0 ID_Code")) << code;
+    EXPECT_THAT(Found("code-reserved", ProjectWith({Numeric(code, 0)})),
+                ElementsAre("Main 0 ID_Code"))
+        << code;
   }
-  CheckedProject project = ProjectWith({Numeric("Return", 0)});
-  Register(project, "Return", 1);
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("code-reserved", ProjectWith({Numeric("Return", 0)})), IsEmpty());
 }
 
 TEST(CheckCodeTest, OneCodeOfDifferentKinds) {
@@ -47,15 +43,14 @@ TEST(CheckCodeTest, OneCodeOfDifferentKinds) {
   text.Parm[TextSlot::Length] = 4;
   std::strcpy(text.ID_Code, "FLOW");
   PTRNDATA bar = CheckedItem(TypeBarGraph, 10, 10, 20, 50);
-  bar.Parm[BarSlot::BackColour] = bar.Parm[BarSlot::BackColour + 1] = White;
   std::strcpy(bar.ID_Code, "FLOW");
   CheckedProject project = ProjectWith({Numeric("FLOW", 0), bar});
-  Register(project, "FLOW", 1);
-  EXPECT_THAT(Found(project), IsEmpty()) << "a number shown as digits and as a bar";
+  EXPECT_THAT(Found("code-kind-mixed", project), IsEmpty())
+      << "a number shown as digits and as a bar";
   project.Layouts.push_back(project.Layouts[0]);
   project.Layouts[1].Name = "Other";
   project.Layouts[1].Items = {text};
-  EXPECT_THAT(Found(project), ElementsAre("code-kind-mixed Other 0 ID_Code"));
+  EXPECT_THAT(Found("code-kind-mixed", project), ElementsAre("Other 0 ID_Code"));
 }
 
 PTRNDATA RadioButton(gint y, gint group, gint number) {
@@ -69,27 +64,26 @@ PTRNDATA RadioButton(gint y, gint group, gint number) {
 TEST(CheckCodeTest, RadioNumbersWithinAGroup) {
   CheckedProject project =
       ProjectWith({RadioButton(10, 0, 0), RadioButton(30, 0, 1), RadioButton(50, 1, 1)});
-  Register(project, "MODE", 2);
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("radio-number-double", project), IsEmpty());
   project.Layouts[0].Items[2].ID_No = 0;
-  EXPECT_THAT(Found(project), ElementsAre("radio-number-double Main 2 Number"));
+  EXPECT_THAT(Found("radio-number-double", project), ElementsAre("Main 2 Number"));
   // The same group may be shown on another layout.
   project.Layouts.push_back(project.Layouts[0]);
   project.Layouts[1].Name = "Other";
   project.Layouts[0].Items.resize(2);
   project.Layouts[1].Items.resize(2);
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("radio-number-double", project), IsEmpty());
 }
 
 TEST(CheckCodeTest, RegistryMustHoldCodeAndSlots) {
   CheckedProject project = ProjectWith({Numeric("FLOW", 4)});
-  EXPECT_THAT(Found(project), ElementsAre("registry-behind Main 0 ID_Code"));
+  EXPECT_THAT(Found("registry-behind", project), ElementsAre("Main 0 ID_Code"));
   Register(project, "FLOW", 4);
-  const std::vector<Finding> findings = CheckProject(project);
+  const std::vector<Finding> findings = FindingsOf("registry-behind", project);
   ASSERT_EQ(findings.size(), 1u);
   EXPECT_EQ(findings[0].Message, "\"FLOW\" has 4 slots in the code registry, number 4 needs 5");
   project.Registry[0].DataCount = 5;
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("registry-behind", project), IsEmpty());
 }
 
 TEST(CheckSourceTest, NamesMustNotBreakSources) {
@@ -97,16 +91,16 @@ TEST(CheckSourceTest, NamesMustNotBreakSources) {
     CheckedProject project = PlainProject();
     project.Layouts.push_back(project.Layouts[0]);
     project.Layouts[1].Name = name;
-    EXPECT_THAT(Found(project),
-                ElementsAre("name-breaks-source " + std::string(name) + " - PtrnName"));
+    EXPECT_THAT(Found("name-breaks-source", project),
+                ElementsAre(std::string(name) + " - PtrnName"));
     project = PlainProject();
     project.Name = name;
-    EXPECT_THAT(Found(project), ElementsAre("name-breaks-source - - ProjName"));
+    EXPECT_THAT(Found("name-breaks-source", project), ElementsAre("- - ProjName"));
   }
   CheckedProject project = PlainProject();
   project.Layouts.push_back(project.Layouts[0]);
   project.Layouts[1].Name = "\xB7\xD7\xC2\xAC 'A' <1>";  // Japanese and harmless marks
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("name-breaks-source", project), IsEmpty());
 }
 
 TEST(CheckSourceTest, ScreensOfTheProjectMustNotBreakTheRuntimeProfile) {
@@ -120,11 +114,14 @@ TEST(CheckSourceTest, ScreensOfTheProjectMustNotBreakTheRuntimeProfile) {
   EXPECT_THAT(fields, ElementsAre("PtrnStart", "PtrnStop"));
 }
 
+TEST(CheckCodeTest, CodeWithALineBreakIsMalformed) {
+  EXPECT_THAT(Found("code-malformed", ProjectWith({Numeric("A\nB", 0)})),
+              ElementsAre("Main 0 ID_Code"));
+}
+
 TEST(CheckSourceTest, MessagesStayOnOneLine) {
-  CheckedProject project = ProjectWith({Numeric("A\nB", 0)});
-  Register(project, "A\nB", 1);
-  EXPECT_THAT(Found(project),
-              ElementsAre("code-malformed Main 0 ID_Code", "name-breaks-source Main 0 ID_Code"));
+  const CheckedProject project = ProjectWith({Numeric("A\nB", 0)});
+  EXPECT_THAT(Found("name-breaks-source", project), ElementsAre("Main 0 ID_Code"));
   const std::vector<Finding> findings = RunCheckRule(SourceNameRule(), project);
   ASSERT_EQ(findings.size(), 1u);
   EXPECT_THAT(findings[0].Message, HasSubstr("\"A\\x0AB\""));

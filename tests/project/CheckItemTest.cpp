@@ -9,19 +9,19 @@ namespace {
 TEST(CheckItemTest, IncompleteItem) {
   CheckedProject project = ProjectWith({Button("Go"), FixedString(0, 0, "Ready")});
   project.Layouts[0].Items[1].UndfFlag = 1;
-  EXPECT_THAT(Found(project), ElementsAre("item-incomplete Main 1 UndfFlag"));
+  EXPECT_THAT(Found("item-incomplete", project), ElementsAre("Main 1 UndfFlag"));
 }
 
 TEST(CheckItemTest, ItemThatTheToolBoxWouldRefuse) {
   CheckedProject project = ProjectWith({Button("Go")});
   PTRNDATA& button = project.Layouts[0].Items[0];
   button.Parm[ButtonSlot::BorderWidth] = 0;
-  EXPECT_THAT(Found(project), ElementsAre("item-invalid Main 0 BorderWidth"));
+  EXPECT_THAT(Found("item-invalid", project), ElementsAre("Main 0 BorderWidth"));
   button.Parm[ButtonSlot::BorderWidth] = 1;
   button.ID_No = -1;
-  EXPECT_THAT(Found(project), ElementsAre("item-invalid Main 0 ID_No"));
+  EXPECT_THAT(Found("item-invalid", project), ElementsAre("Main 0 ID_No"));
   button.ID_No = 9999;
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("item-invalid", project), IsEmpty());
 }
 
 TEST(CheckItemTest, RefusedItemNamesTheParameterThatIsMeant) {
@@ -66,7 +66,7 @@ TEST(CheckItemTest, RefusedItemNamesTheParameterThatIsMeant) {
     }
     if (type == TypeButton) item.Parm[ButtonSlot::BorderWidth] = 1;
     item.Parm[slot] = value;
-    EXPECT_THAT(Found(project), testing::Contains("item-invalid Main 0 " + std::string(field)))
+    EXPECT_THAT(Found("item-invalid", project), testing::Contains("Main 0 " + std::string(field)))
         << "type " << type << ", slot " << slot;
   }
 }
@@ -74,21 +74,21 @@ TEST(CheckItemTest, RefusedItemNamesTheParameterThatIsMeant) {
 TEST(CheckItemTest, TwoPointItemMayEndAtTheEdge) {
   CheckedProject project = ProjectWith({CheckedItem(TypeFrame, 0, 0, 200, 100)});
   PTRNDATA& frame = project.Layouts[0].Items[0];
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("item-outside", project), IsEmpty());
   frame.Point2 = {201, 100};
-  EXPECT_THAT(Found(project), ElementsAre("item-outside Main 0 Point2"));
+  EXPECT_THAT(Found("item-outside", project), ElementsAre("Main 0 Point2"));
   frame.Point2 = {200, 101};
-  EXPECT_THAT(Found(project), ElementsAre("item-outside Main 0 Point2"));
+  EXPECT_THAT(Found("item-outside", project), ElementsAre("Main 0 Point2"));
   frame.Point1 = {-1, 0};
-  EXPECT_THAT(Found(project), ElementsAre("item-outside Main 0 Point1")) << "told once";
+  EXPECT_THAT(Found("item-outside", project), ElementsAre("Main 0 Point1")) << "told once";
 }
 
 TEST(CheckItemTest, AnchorOutside) {
   CheckedProject project = ProjectWith({FixedString(10, -1, "Ready")});
   project.Layouts[0].Items[0].Point2 = {999, 999};  // means nothing for a one-point item
-  EXPECT_THAT(Found(project), ElementsAre("item-outside Main 0 Point1"));
+  EXPECT_THAT(Found("item-outside", project), ElementsAre("Main 0 Point1"));
   project.Layouts[0].Items[0].Point1.y = 0;
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("item-outside", project), IsEmpty());
 }
 
 }  // namespace

@@ -9,9 +9,9 @@ namespace {
 TEST(CheckLookTest, LayoutThatFollowsTheLook) {
   CheckedProject project = PlainProject();
   project.Settings.Parm4[3] = 4;
-  EXPECT_THAT(Found(project), ElementsAre("look-differs Main - GridX"));
+  EXPECT_THAT(Found("look-differs", project), ElementsAre("Main - GridX"));
   project.Layouts[0].Header.Parm2[ViewSlot::GridX] = 4;
-  EXPECT_THAT(Found(project), IsEmpty());
+  EXPECT_THAT(Found("look-differs", project), IsEmpty());
 }
 
 TEST(CheckLookTest, ParentWindowAndItsLogo) {
@@ -20,10 +20,10 @@ TEST(CheckLookTest, ParentWindowAndItsLogo) {
   header.Parm1[HedrSlot::Kind] = 0;
   project.Settings.Parm2[11] = White;
   std::strcpy(project.Settings.LogoName, "good.png");
-  EXPECT_THAT(Found(project), ElementsAre("look-differs Main - Width", "look-differs Main - Height",
-                                          "look-differs Main - LogoName"));
+  EXPECT_THAT(Found("look-differs", project),
+              ElementsAre("Main - Width", "Main - Height", "Main - LogoName"));
   header.Parm1[HedrSlot::KeepAsIs] = 1;
-  EXPECT_THAT(Found(project), IsEmpty()) << "it does not follow";
+  EXPECT_THAT(Found("look-differs", project), IsEmpty()) << "it does not follow";
 }
 
 }  // namespace

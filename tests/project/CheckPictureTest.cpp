@@ -12,34 +12,52 @@ PTRNDATA Bitmap(const char* name) {
   return item;
 }
 
-TEST(CheckPictureTest, BitmapItems) {
-  EXPECT_THAT(Found(ProjectWith({Bitmap("good.png")})), IsEmpty());
-  EXPECT_THAT(Found(ProjectWith({Bitmap("none.png")})), ElementsAre("bitmap-missing Main 0 Text1"));
-  EXPECT_THAT(Found(ProjectWith({Bitmap("")})), ElementsAre("bitmap-missing Main 0 Text1"));
-  EXPECT_THAT(Found(ProjectWith({Bitmap("broken.png")})),
-              ElementsAre("bitmap-unreadable Main 0 Text1"));
-}
-
-TEST(CheckPictureTest, PicturesOfTheLayout) {
+// The plain project with a logo and a background.
+CheckedProject ProjectOfPictures(const char* logo, bool shown, const char* background) {
   CheckedProject project = PlainProject();
   PTRNHEDR& header = project.Layouts[0].Header;
-  std::strcpy(header.LogoName, "none.png");
-  EXPECT_THAT(Found(project), IsEmpty()) << "a logo that is not shown";
-  header.Parm1[HedrSlot::LogoShown] = 1;
-  EXPECT_THAT(Found(project), ElementsAre("bitmap-missing Main - LogoName"));
-  std::strcpy(header.LogoName, "good.png");
-  std::strcpy(header.BmapName, "broken.png");
-  EXPECT_THAT(Found(project), ElementsAre("bitmap-unreadable Main - BmapName"));
+  std::strcpy(header.LogoName, logo);
+  header.Parm1[HedrSlot::LogoShown] = shown ? 1 : 0;
+  std::strcpy(header.BmapName, background);
+  return project;
+}
+
+TEST(CheckPictureTest, BitmapThatIsMissing) {
+  for (const char* name : {"none.png", ""})
+    EXPECT_THAT(Found("bitmap-missing", ProjectWith({Bitmap(name)})), ElementsAre("Main 0 Text1"))
+        << name;
+  for (const char* name : {"good.png", "broken.png"})
+    EXPECT_THAT(Found("bitmap-missing", ProjectWith({Bitmap(name)})), IsEmpty()) << name;
+  EXPECT_THAT(Found("bitmap-missing", ProjectOfPictures("none.png", false, "good.png")), IsEmpty())
+      << "a logo that is not shown";
+  EXPECT_THAT(Found("bitmap-missing", ProjectOfPictures("none.png", true, "broken.png")),
+              ElementsAre("Main - LogoName"));
+  EXPECT_THAT(Found("bitmap-missing", ProjectOfPictures("good.png", true, "none.png")),
+              ElementsAre("Main - BmapName"));
+}
+
+TEST(CheckPictureTest, BitmapThatCannotBeRead) {
+  EXPECT_THAT(Found("bitmap-unreadable", ProjectWith({Bitmap("broken.png")})),
+              ElementsAre("Main 0 Text1"));
+  for (const char* name : {"good.png", "none.png", ""})
+    EXPECT_THAT(Found("bitmap-unreadable", ProjectWith({Bitmap(name)})), IsEmpty()) << name;
+  EXPECT_THAT(Found("bitmap-unreadable", ProjectOfPictures("broken.png", false, "none.png")),
+              IsEmpty())
+      << "a logo that is not shown";
+  EXPECT_THAT(Found("bitmap-unreadable", ProjectOfPictures("broken.png", true, "none.png")),
+              ElementsAre("Main - LogoName"));
+  EXPECT_THAT(Found("bitmap-unreadable", ProjectOfPictures("none.png", true, "broken.png")),
+              ElementsAre("Main - BmapName"));
 }
 
 TEST(CheckPictureTest, MarksOfTheColourSystemsInUse) {
-  EXPECT_THAT(Found(ProjectWith({Mark(7, 7, 0)})), IsEmpty()) << "two systems only";
-  EXPECT_THAT(Found(ProjectWith({Mark(7, 8, 7)})), ElementsAre("mark-empty Main 0 Mark"));
-  EXPECT_THAT(Found(ProjectWith({Mark(7, 350, 7)})), ElementsAre("mark-empty Main 0 Mark"));
-  EXPECT_THAT(Found(ProjectWith({Mark(-1, 7, 7)})), ElementsAre("mark-empty Main 0 Mark"));
+  EXPECT_THAT(Found("mark-empty", ProjectWith({Mark(7, 7, 0)})), IsEmpty()) << "two systems only";
+  EXPECT_THAT(Found("mark-empty", ProjectWith({Mark(7, 8, 7)})), ElementsAre("Main 0 Mark"));
+  EXPECT_THAT(Found("mark-empty", ProjectWith({Mark(7, 350, 7)})), ElementsAre("Main 0 Mark"));
+  EXPECT_THAT(Found("mark-empty", ProjectWith({Mark(-1, 7, 7)})), ElementsAre("Main 0 Mark"));
   CheckedProject project = ProjectWith({Mark(7, 7, 0)});
   project.Settings.Parm1[2] = 1;
-  EXPECT_THAT(Found(project), ElementsAre("mark-empty Main 0 Mark")) << "told once per mark";
+  EXPECT_THAT(Found("mark-empty", project), ElementsAre("Main 0 Mark")) << "told once per mark";
 }
 
 }  // namespace
