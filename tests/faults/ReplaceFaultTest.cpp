@@ -65,9 +65,10 @@ TEST_F(ReplaceFault, InPlaceTheOldContentIsPutBack) {
   FileCalls::RefuseNewFiles(true);
   for (const std::size_t offset : {0, 2, 70000}) {
     SCOPED_TRACE(offset);
-    SweepOf(
-        {{"a", "the old content"}}, [&] { return ReplaceFile(path_, "new", offset); }, true)
-        .FailWithEveryError();
+    Sweep sweep = SweepOf(
+        {{"a", "the old content"}}, [&] { return ReplaceFile(path_, "new", offset); }, true);
+    sweep.FailWithEveryError();
+    EXPECT_GE(sweep.Calls(), 6) << "look, open, write, set the length, flush, close";
   }
 }
 

@@ -98,13 +98,3 @@ GtkWidget* LooksTest::PickSample(gint type) {
   EXPECT_NE(panel, nullptr) << PtrnTypeList[type - 1];
   return panel;
 }
-
-void EscapeFrom(const std::string& title) {
-  PressKey(GDK_KEY_Escape);
-  EXPECT_TRUE(SeeGone(title)) << "Escape leaves " << title << " open";
-}
-
-void ShowAndLeave(const std::string& name, const std::string& title) {
-  Show(name, title);
-  EscapeFrom(title);
-}

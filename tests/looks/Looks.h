@@ -17,8 +17,3 @@ class LooksTest : public RoadTest {
  private:
   TempFolder home_;
 };
-
-// Closes the window with this title by Escape.
-void EscapeFrom(const std::string& title);
-// Shows a dialog and leaves it by Escape.
-void ShowAndLeave(const std::string& name, const std::string& title);

@@ -1,6 +1,10 @@
+#include <set>
+
 #include "Constant.h"
 #include "PtrnData.h"
+#include "app/Window.h"
 #include "looks/Looks.h"
+#include "render/Surface.h"
 #include "support/Resource.h"
 
 namespace {
@@ -29,12 +33,32 @@ TEST_F(Panels, EachType) {
   });
 }
 
-// The samples themselves, each in its cell of the layout.
+// The bytes of a part of the canvas as the display shows it.
+std::string Shown(const GdkRectangle& part) {
+  return Look([&] {
+    const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(PtrnDraw), part.x, part.y,
+                                                    part.width, part.height));
+    return std::string(reinterpret_cast<const char*>(gdk_pixbuf_read_pixels(shot.get())),
+                       gdk_pixbuf_get_byte_length(shot.get()));
+  });
+}
+
+// The samples themselves, each in its cell of the layout: none is missing or like another.
 TEST_F(Panels, Items) {
   Play([this] {
     OpenSamples();
-    for (gint no = 0; no < 15; ++no)
-      ShowCanvas("item-" + std::to_string(no + 1), {no % 3 * 220, no / 3 * 128, 200, 120});
+    // Between two columns of cells nothing lies.
+    const std::string ground = Shown({200, 0, 1, 1});
+    std::set<std::string> looks;
+    for (gint no = 0; no < 15; ++no) {
+      const GdkRectangle cell{no % 3 * 220, no / 3 * 128, 200, 120};
+      ShowCanvas("item-" + std::to_string(no + 1), cell);
+      const std::string look = Shown(cell);
+      EXPECT_TRUE(looks.insert(look).second) << PtrnTypeList[no] << " looks like another";
+      std::string empty;
+      while (empty.size() < look.size()) empty += ground;
+      EXPECT_NE(look, empty) << PtrnTypeList[no] << " shows nothing";
+    }
   });
 }
 

@@ -98,6 +98,16 @@ void Show(const std::string& name, const std::string& title) {
   Show(name, window);
 }
 
+void EscapeFrom(const std::string& title) {
+  PressKey(GDK_KEY_Escape);
+  EXPECT_TRUE(SeeGone(title)) << "Escape leaves " << title << " open";
+}
+
+void ShowAndLeave(const std::string& name, const std::string& title) {
+  Show(name, title);
+  EscapeFrom(title);
+}
+
 void ShowScreen(const std::string& name, GtkWidget* window) {
   Paint(window);
   Look([&] { Keep(name, gdk_get_default_root_window(), FrameOf(window)); });

@@ -11,6 +11,10 @@
 void Show(const std::string& name, GtkWidget* window);
 // The same for the window with this title; fails the test when none comes.
 void Show(const std::string& name, const std::string& title);
+// Leaves the window with this title by Escape; fails the test when that does not close it.
+void EscapeFrom(const std::string& title);
+// Shows a dialog and leaves it by Escape.
+void ShowAndLeave(const std::string& name, const std::string& title);
 // Keeps the part of the screen that the window takes, menus and windows over it included.
 void ShowScreen(const std::string& name, GtkWidget* window);
 // Keeps windows that stand beside each other, with their frames, on a plain ground.
