@@ -1,5 +1,6 @@
 #include "road/RoadTest.h"
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <fstream>
@@ -67,10 +68,16 @@ guint WindowCount() {
   });
 }
 
-gint64 ResidentBytes() {
-  std::ifstream file("/proc/self/statm");
-  gint64 all = 0;
-  gint64 resident = 0;
-  file >> all >> resident;
-  return resident * sysconf(_SC_PAGESIZE);
+Memory MemoryNow() {
+  Settle();
+  return Look([] {
+    const struct mallinfo2 info = mallinfo2();
+    std::ifstream file("/proc/self/statm");
+    gint64 all = 0;
+    gint64 resident = 0;
+    gint64 shared = 0;
+    file >> all >> resident >> shared;
+    return Memory{static_cast<gint64>(info.uordblks + info.hblkhd),
+                  (resident - shared) * sysconf(_SC_PAGESIZE)};
+  });
 }

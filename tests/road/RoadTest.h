@@ -32,5 +32,13 @@ void ClickCanvas(gint x, gint y, Button button = LeftButton);
 void SaveByKey();
 // The program's windows of every kind, hidden ones included.
 guint WindowCount();
-// The process's memory that is in RAM, in bytes.
-gint64 ResidentBytes();
+
+// What the process holds, in bytes.
+struct Memory {
+  gint64 InUse = 0;     // handed out by the allocator
+  gint64 Resident = 0;  // in RAM and shared with nobody
+};
+// Once everything has settled. What is shared tells nothing of the program: a picture on its way to
+// the display takes a second place there, of the canvas' size, whenever the display has not fetched
+// the one before, and the place stays.
+Memory MemoryNow();

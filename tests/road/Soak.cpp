@@ -1,5 +1,3 @@
-#include <malloc.h>
-
 #include <cstdlib>
 #include <iostream>
 
@@ -19,18 +17,6 @@ struct Drawn {
 constexpr Drawn Kinds[] = {{"矩形枠", {64, 44}}, {"直線", {90, 72}},   {"矩形", {64, 44}},
                            {"楕円", {125, 52}},  {"ボタン", {64, 44}}, {"マーク", {64, 44}}};
 constexpr gint EditsPerRound = 5;
-
-struct Memory {
-  gint64 InUse = 0;     // handed out by the allocator
-  gint64 Resident = 0;  // of the process in RAM
-};
-
-Memory MemoryNow() {
-  return Look([] {
-    const struct mallinfo2 info = mallinfo2();
-    return Memory{static_cast<gint64>(info.uordblks + info.hblkhd), ResidentBytes()};
-  });
-}
 
 void Pick(const POINT& at, const std::string& type) {
   ClickCanvas(at.x, at.y);

@@ -110,6 +110,11 @@ Spot SpotOf(GtkWidget* widget, gint x, gint y) {
   return spot;
 }
 
+void MoveTo(GtkWidget* widget, const Spot& spot) {
+  const gint scale = gtk_widget_get_scale_factor(widget);
+  Hands->MovePointer(spot.X * scale, spot.Y * scale);
+}
+
 GdkWindow* WindowUnderPointer() {
   GdkSeat* seat = gdk_display_get_default_seat(gdk_display_get_default());
   GdkWindow* window =
@@ -219,8 +224,7 @@ void PointAt(GtkWidget* widget, gint x, gint y) {
   const bool there = See([&] {
     const Spot spot = SpotOf(widget, x, y);
     if (!spot.Ready) return false;
-    const gint scale = gtk_widget_get_scale_factor(widget);
-    Hands->MovePointer(spot.X * scale, spot.Y * scale);
+    MoveTo(widget, spot);
     // A window that is just being framed moves down by its title while it comes under the pointer.
     return WindowUnderPointer() == gtk_widget_get_window(gtk_widget_get_toplevel(widget)) &&
            SpotOf(widget, x, y) == spot;
@@ -270,6 +274,11 @@ void Click(GtkWidget* widget, Button button) {
 
 void ClickHere(Button button) {
   ExpectPress([button] { Hands->SendClick(button); });
+}
+
+void ClickFast(GtkWidget* widget, gint x, gint y, gint times, Button button) {
+  Look([=] { MoveTo(widget, SpotOf(widget, x, y)); });
+  for (gint i = 0; i < times; i++) Hands->SendClick(button);
 }
 
 void PointBy(gint x, gint y) {

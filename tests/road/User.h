@@ -53,6 +53,9 @@ void Click(GtkWidget* widget, Button button = LeftButton);
 // Presses and releases where the pointer is, at once: GTK closes a menu again whose press was held
 // for half a second.
 void ClickHere(Button button);
+// Moves the pointer to a place of a widget and clicks there so many times, as fast as the display
+// takes it; waits for nothing, so what the clicks lead to is to be seen.
+void ClickFast(GtkWidget* widget, gint x, gint y, gint times, Button button = LeftButton);
 // Moves the pointer by so many dots on the screen, whatever lies there.
 void PointBy(gint x, gint y);
 
