@@ -22,7 +22,7 @@ struct MarkEdit {
   SIZE Size;
   MARKDATA Data;
   gint Result;
-  std::optional<POINT> Last;  // mark pixel under the latest press or drag while a button is held
+  std::optional<POINT> Last;  // where the line of this drag has come to; nothing before its start
   POINT Cursor;               // mark pixel that the keyboard draws
 };
 
@@ -111,10 +111,19 @@ gboolean MakeMarkData_Button(GtkWidget* /*view*/, const GdkEventButton* event, M
   if (event->type != GDK_BUTTON_PRESS || (event->button != 1 && event->button != 3)) return TRUE;
   const gint px = static_cast<gint>(std::lround(event->x));
   const gint py = static_cast<gint>(std::lround(event->y));
+  edit->Last.reset();
   if (px >= 0 && px <= edit->Size.cx * Cell && py >= 0 && py <= edit->Size.cy * Cell) {
     edit->Last = POINT{px / Cell, py / Cell};
     SetPixel(edit, px / Cell, py / Cell, event->button == 1 ? 1 : 0);
   }
+  return TRUE;
+}
+
+// The line ends with the last button that draws.
+gboolean MakeMarkData_Release(GtkWidget* /*view*/, const GdkEventButton* event, MarkEdit* edit) {
+  if (event->button != 1 && event->button != 3) return TRUE;
+  const guint other = event->button == 1 ? GDK_BUTTON3_MASK : GDK_BUTTON1_MASK;
+  if ((event->state & other) == 0) edit->Last.reset();
   return TRUE;
 }
 
@@ -180,6 +189,7 @@ void MakeMarkData_CAN(GtkWidget* /*button*/, MarkEdit* edit) {
 
 // Takes another mark over from the top-left corner; what does not fit is cut.
 void MakeMarkData_Search(GtkWidget* /*button*/, MarkEdit* edit) {
+  edit->Last.reset();
   const gint source = Dlg_MarkSearch(edit->Dialog, edit->Marks);
   if (source == -1) return;
   const MARKDATA from = edit->Marks[source].mark;
@@ -205,9 +215,10 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
   edit->ActualSize = NewView(size.cx + 32, size.cy + 8, G_CALLBACK(MakeMarkData_Expose1), edit);
   edit->Enlarged =
       NewView(size.cx * Cell + 2, size.cy * Cell + 2, G_CALLBACK(MakeMarkData_Expose2), edit);
-  gtk_widget_add_events(edit->Enlarged, GDK_BUTTON_PRESS_MASK | GDK_BUTTON_MOTION_MASK |
-                                            GDK_POINTER_MOTION_HINT_MASK);
+  gtk_widget_add_events(edit->Enlarged, GDK_BUTTON_PRESS_MASK | GDK_BUTTON_RELEASE_MASK |
+                                            GDK_BUTTON_MOTION_MASK | GDK_POINTER_MOTION_HINT_MASK);
   g_signal_connect(edit->Enlarged, "button-press-event", G_CALLBACK(MakeMarkData_Button), edit);
+  g_signal_connect(edit->Enlarged, "button-release-event", G_CALLBACK(MakeMarkData_Release), edit);
   g_signal_connect(edit->Enlarged, "motion-notify-event", G_CALLBACK(MakeMarkData_Motion), edit);
   g_signal_connect(edit->Enlarged, "key-press-event", G_CALLBACK(MakeMarkData_Key), edit);
   gtk_widget_set_can_focus(edit->Enlarged, TRUE);

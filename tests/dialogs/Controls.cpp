@@ -23,6 +23,16 @@ GdkSeat* SeatOf(GtkWidget* widget) {
   return gdk_display_get_default_seat(gtk_widget_get_display(widget));
 }
 
+void SendMouse(GtkWidget* area, GdkEventType type, guint button, guint held, gint x, gint y) {
+  const EventPtr event = NewEvent(type, area);
+  gdk_event_set_device(event.get(), gdk_seat_get_pointer(SeatOf(area)));
+  event->button.button = button;
+  event->button.state = held;
+  event->button.x = x;
+  event->button.y = y;
+  gtk_main_do_event(event.get());
+}
+
 std::vector<GtkWidget*> ChildrenOf(GtkWidget* grid) {
   std::vector<GtkWidget*> children;
   GList* list = gtk_container_get_children(GTK_CONTAINER(grid));
@@ -132,12 +142,11 @@ void Type(GtkWidget* entry, const std::string& text) {
 }
 
 void Press(GtkWidget* area, guint button, gint x, gint y) {
-  const EventPtr event = NewEvent(GDK_BUTTON_PRESS, area);
-  gdk_event_set_device(event.get(), gdk_seat_get_pointer(SeatOf(area)));
-  event->button.button = button;
-  event->button.x = x;
-  event->button.y = y;
-  gtk_main_do_event(event.get());
+  SendMouse(area, GDK_BUTTON_PRESS, button, 0, x, y);
+}
+
+void Release(GtkWidget* area, guint button, guint held, gint x, gint y) {
+  SendMouse(area, GDK_BUTTON_RELEASE, button, held, x, y);
 }
 
 void Move(GtkWidget* area, gint x, gint y, guint state) {

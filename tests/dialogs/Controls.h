@@ -35,6 +35,8 @@ std::string ComboText(GtkWidget* combo);
 void Type(GtkWidget* entry, const std::string& text);
 // Presses a mouse button on a swatch or another drawing area.
 void Press(GtkWidget* area, guint button, gint x = 5, gint y = 5);
+// Lets a button go there; `held` = the buttons that were down, this one included.
+void Release(GtkWidget* area, guint button, guint held, gint x = 5, gint y = 5);
 // Moves the pointer over it with the buttons of `state` held.
 void Move(GtkWidget* area, gint x, gint y, guint state);
 // Presses a key in a window while modifiers are held.

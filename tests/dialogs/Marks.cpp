@@ -263,6 +263,72 @@ TEST_F(Marks, AButtonLetGoOutsideEndsTheLine) {
             "0,0 5,9");
 }
 
+TEST_F(Marks, APressOnTheBorderBeginsALineAtTheEdge) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 16 * 8, 4 * 8 + 4);
+                   Move(view, 12 * 8 + 4, 4 * 8 + 4, Left);
+                   Release(view, 1, Left);
+                   Press(view, 1, 3 * 8 + 4, 32 * 8);
+                   Move(view, 3 * 8 + 4, 29 * 8 + 4, Left);
+                 }),
+            "12,4 13,4 14,4 15,4 3,29 3,30 3,31");
+}
+
+TEST_F(Marks, ALineBeginsInItsOwnDrag) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 4, 4);
+                   Move(view, 4, 2 * 8 + 4, Left);
+                   Release(view, 1, Left);
+                   // Beside the view, which takes no such press.
+                   Press(view, 1, 16 * 8 + 1, 9 * 8 + 4);
+                   Move(view, 10 * 8 + 4, 9 * 8 + 4, Left);
+                   Release(view, 1, Left);
+                   // Pressed elsewhere.
+                   Move(view, 3 * 8 + 4, 20 * 8 + 4, Left);
+                 }),
+            "0,0 0,1 0,2 10,9 3,20");
+}
+
+TEST_F(Marks, APressThatIsNotTakenBeginsAnewWithoutARelease) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 4, 4);
+                   Press(view, 1, 16 * 8 + 1, 9 * 8 + 4);
+                   Move(view, 10 * 8 + 4, 9 * 8 + 4, Left);
+                 }),
+            "0,0 10,9");
+}
+
+TEST_F(Marks, ADragGoesOnWithTheButtonThatIsStillHeld) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 4, 4);
+                   Press(view, 3, 4, 4);
+                   Move(view, 2 * 8 + 4, 4, Left | Right);
+                   Release(view, 3, Left | Right);
+                   Move(view, 5 * 8 + 4, 4, Left);
+                 }),
+            "0,0 1,0 2,0 3,0 4,0 5,0");
+}
+
+// The source is chosen by a press that may still be held when the editor is back.
+TEST_F(Marks, NoLineReachesBackOverASource) {
+  EXPECT_EQ(Edit(7,
+                 [](GtkWidget* view) {
+                   Press(view, 1, 4, 4);
+                   Move(view, 4, 5 * 8 + 4, Left);
+                   {
+                     const DialogAnswer search(
+                         PickTitle, [](GtkWidget* picker) { Press(SwatchOf(picker, 300), 1); });
+                     PressButton("参照")(gtk_widget_get_toplevel(view));
+                   }
+                   Move(view, 9 * 8 + 4, 5 * 8 + 4, Left);
+                 }),
+            "9,5");
+}
+
 TEST_F(Marks, TheLastPixelOfTheLargestCanBeDrawn) {
   EXPECT_EQ(Edit(349, [](GtkWidget* view) { Press(view, 1, 63 * 8 + 4, 63 * 8 + 4); }), "63,63");
 }
