@@ -8,6 +8,7 @@
 #include "dialogs/Accessible.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
+#include "dialogs/ScreenRoom.h"
 
 namespace {
 
@@ -164,6 +165,18 @@ std::optional<POINT> Moved(const MarkEdit* edit, guint key) {
   }
 }
 
+// Where the screen is too low for all of a mark.
+void ScrollToCursor(const MarkEdit* edit) {
+  constexpr gint Frame = 1;  // of the cursor, around the pixel
+  ScrollTo(edit->Enlarged, {edit->Cursor.x * Cell - Frame, edit->Cursor.y * Cell - Frame,
+                            Cell + 2 * Frame, Cell + 2 * Frame});
+}
+
+gboolean MakeMarkData_Focus(GtkWidget* /*view*/, GdkEvent* /*event*/, const MarkEdit* edit) {
+  ScrollToCursor(edit);
+  return FALSE;
+}
+
 // The arrow keys move from pixel to pixel, Space turns one over.
 gboolean MakeMarkData_Key(GtkWidget* view, const GdkEventKey* event, MarkEdit* edit) {
   const POINT at = edit->Cursor;
@@ -174,6 +187,7 @@ gboolean MakeMarkData_Key(GtkWidget* view, const GdkEventKey* event, MarkEdit* e
   else
     return FALSE;
   TellCursor(edit);
+  ScrollToCursor(edit);
   gtk_widget_queue_draw(view);
   return TRUE;
 }
@@ -221,6 +235,7 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
   g_signal_connect(edit->Enlarged, "button-release-event", G_CALLBACK(MakeMarkData_Release), edit);
   g_signal_connect(edit->Enlarged, "motion-notify-event", G_CALLBACK(MakeMarkData_Motion), edit);
   g_signal_connect(edit->Enlarged, "key-press-event", G_CALLBACK(MakeMarkData_Key), edit);
+  g_signal_connect(edit->Enlarged, "focus-in-event", G_CALLBACK(MakeMarkData_Focus), edit);
   gtk_widget_set_can_focus(edit->Enlarged, TRUE);
   TellCursor(edit);
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);

@@ -74,3 +74,18 @@ POINT PlaceOnScreen(GtkWidget* window, const POINT& place) {
   return {within(place.x, screen.x, screen.width - size.width - FrameRoom.cx),
           within(place.y, screen.y, screen.height - size.height - FrameRoom.cy)};
 }
+
+void ScrollTo(GtkWidget* control, const GdkRectangle& part) {
+  GtkWidget* port = gtk_widget_get_ancestor(control, GTK_TYPE_VIEWPORT);
+  if (port == nullptr) return;
+  gint x = 0;
+  gint y = 0;
+  if (!gtk_widget_translate_coordinates(control, gtk_bin_get_child(GTK_BIN(port)), part.x, part.y,
+                                        &x, &y))
+    return;
+  const auto show = [](GtkAdjustment* place, gint from, gint extent) {
+    gtk_adjustment_clamp_page(place, from, from + extent);
+  };
+  show(gtk_scrollable_get_hadjustment(GTK_SCROLLABLE(port)), x, part.width);
+  show(gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(port)), y, part.height);
+}

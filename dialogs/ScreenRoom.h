@@ -11,3 +11,5 @@ void SetDialogContent(GtkWidget* window, GtkWidget* content);
 void FitToScreen(GtkWidget* window);
 // Where the window lies whole on the screen, as near to `place` as can be.
 POINT PlaceOnScreen(GtkWidget* window, const POINT& place);
+// Scrolls what the control stands in, if that scrolls, until this part of the control is seen.
+void ScrollTo(GtkWidget* control, const GdkRectangle& part);

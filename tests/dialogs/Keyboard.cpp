@@ -15,6 +15,7 @@
 #include "dialogs/RecentColours.h"
 #include "dialogs/ToolBox.h"
 #include "layout/Screen.h"
+#include "window/LowScreen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 
@@ -331,4 +332,38 @@ TEST_F(Keyboard, TheArrowsStayInTheMark) {
   });
   EXPECT_EQ(MakeMarkData(PtrnWnd, 7, Boxes.data()), 1);
   EXPECT_EQ(MarkDataGet(7, &Boxes[7].mark, 15, 31), 1);
+}
+
+TEST_F(Keyboard, TheCursorOfALargeMarkIsScrolledIntoSight) {
+  const LowScreen low(600);
+  const DialogAnswer answer(MarkDialog, [](GtkWidget* editor) {
+    WaitForKeyboard(editor);
+    GtkWidget* view = Focus(editor);
+    GtkWidget* port = gtk_widget_get_ancestor(view, GTK_TYPE_VIEWPORT);
+    ASSERT_NE(port, nullptr) << "all of it has room";
+    // Whether the pixel's place in the view, 8 dots for each, lies in the part that is seen.
+    const auto seen = [&](gint pixel) {
+      gint y = 0;
+      gtk_widget_translate_coordinates(view, port, 0, pixel * 8, nullptr, &y);
+      return y >= 0 && y + 8 <= gtk_widget_get_allocated_height(port);
+    };
+    EXPECT_TRUE(WaitFor([&] { return seen(0); }));
+    EXPECT_FALSE(seen(63));
+    for (gint i = 0; i < 63; i++) PressKey(editor, GDK_KEY_Down);
+    EXPECT_TRUE(WaitFor([&] { return seen(63); }));
+    // Looked for elsewhere, it comes back with the keyboard and with a key.
+    GtkAdjustment* place = gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(port));
+    gtk_adjustment_set_value(place, 0);
+    EXPECT_FALSE(seen(63));
+    PressKey(editor, GDK_KEY_Tab);
+    gtk_widget_grab_focus(view);
+    EXPECT_TRUE(WaitFor([&] { return seen(63); }));
+    gtk_adjustment_set_value(place, 0);
+    PressKey(editor, GDK_KEY_space);
+    EXPECT_TRUE(WaitFor([&] { return seen(63); }));
+    for (gint i = 0; i < 63; i++) PressKey(editor, GDK_KEY_Up);
+    EXPECT_TRUE(WaitFor([&] { return seen(0); }));
+    CloseByManager(editor);
+  });
+  MakeMarkData(PtrnWnd, 349, Boxes.data());
 }
