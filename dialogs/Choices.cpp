@@ -3,6 +3,7 @@
 
 #include "dialogs/Cells.h"
 #include "dialogs/Kit.h"
+#include "dialogs/Wheel.h"
 
 GtkWidget* Dlg_RadioButn_Parent = nullptr;
 GtkWidget* Dlg_CheckButn_Parent = nullptr;
@@ -46,6 +47,7 @@ GtkWidget* NewCombo(DLG_COMBOBOX& row, gint count) {
   if (shown > count) shown = 0;
   gtk_combo_box_set_active(GTK_COMBO_BOX(combo), shown >= 0 && shown < count ? shown : -1);
   g_signal_connect(combo, "changed", G_CALLBACK(Dlg_ComboBox_Slct), &row);
+  KeepFromWheel(combo);
   gtk_widget_show(combo);
   return combo;
 }

@@ -4,6 +4,7 @@
 #include "dialogs/Accessible.h"
 #include "dialogs/DialogWindow.h"
 #include "dialogs/Editors.h"
+#include "dialogs/Wheel.h"
 
 namespace {
 
@@ -50,6 +51,12 @@ void NameLeftOut(GtkWidget* widget, gpointer /*data*/) {
   if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), NameLeftOut, nullptr);
 }
 
+void KeepSlidersFromWheel(GtkWidget* widget, gpointer /*data*/) {
+  if (GTK_IS_SCALE(widget)) KeepFromWheel(widget);
+  if (GTK_IS_CONTAINER(widget))
+    gtk_container_forall(GTK_CONTAINER(widget), KeepSlidersFromWheel, nullptr);
+}
+
 void LabelButton(GtkWidget* dialog, gint response, const gchar* label) {
   GtkWidget* button = gtk_dialog_get_widget_for_response(GTK_DIALOG(dialog), response);
   if (button != nullptr) gtk_button_set_label(GTK_BUTTON(button), label);
@@ -71,6 +78,7 @@ gint MakeColrData(GtkWidget* parent, gint colrno, COLRBOX* colrbox) {
   gtk_color_chooser_set_rgba(GTK_COLOR_CHOOSER(dialog), &start);
   g_object_set(dialog, "show-editor", TRUE, nullptr);
   NameLeftOut(dialog, nullptr);
+  KeepSlidersFromWheel(dialog, nullptr);
   g_signal_connect(dialog, "response", G_CALLBACK(MakeColrData_Response), nullptr);
   RunModal(dialog, parent);
   if (MakeColr_Result == 1) colrbox[colrno].colr = MakeColr_Data;

@@ -4,6 +4,7 @@
 
 #include "dialogs/Cells.h"
 #include "dialogs/Kit.h"
+#include "dialogs/Wheel.h"
 
 GtkWidget* Dlg_NumrBox_Parent = nullptr;
 
@@ -43,6 +44,7 @@ void Dlg_NumrBox(GtkWidget* parent, GtkWidget* table, DLG_NUMRBOX* rows) {
     gtk_entry_set_activates_default(GTK_ENTRY(spin), TRUE);
     g_signal_connect(adjustment, "value-changed", G_CALLBACK(Dlg_NumrBox_Change), &row);
     g_signal_connect(spin, "input", G_CALLBACK(Dlg_NumrBox_Input), &row);
+    KeepFromWheel(spin);
     ShowRange(spin, "設定範囲", row.min, row.max);
     gtk_widget_show(spin);
 

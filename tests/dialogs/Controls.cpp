@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "render/Surface.h"
 #include "window/Widgets.h"
 
 namespace {
@@ -17,6 +18,17 @@ EventPtr NewEvent(GdkEventType type, GtkWidget* widget) {
   event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(widget)));
   event->any.send_event = TRUE;
   return event;
+}
+
+// The window below `root` that gets the widget's events, null = none; many widgets stand in their
+// parent's window with one for events of their own.
+GdkWindow* EventWindow(GdkWindow* root, GtkWidget* widget) {
+  gpointer owner = nullptr;
+  gdk_window_get_user_data(root, &owner);
+  if (owner == widget) return root;
+  for (GList* link = gdk_window_peek_children(root); link != nullptr; link = link->next)
+    if (GdkWindow* found = EventWindow(GDK_WINDOW(link->data), widget)) return found;
+  return nullptr;
 }
 
 GdkSeat* SeatOf(GtkWidget* widget) {
@@ -158,6 +170,18 @@ void Move(GtkWidget* area, gint x, gint y, guint state) {
   gtk_main_do_event(event.get());
 }
 
+void TurnWheel(GtkWidget* over, GdkScrollDirection direction) {
+  ASSERT_NE(over, nullptr);
+  GdkWindow* window = EventWindow(gtk_widget_get_window(over), over);
+  ASSERT_NE(window, nullptr) << "gets no events";
+  const EventPtr event(gdk_event_new(GDK_SCROLL));
+  event->any.window = GDK_WINDOW(g_object_ref(window));
+  event->any.send_event = TRUE;
+  gdk_event_set_device(event.get(), gdk_seat_get_pointer(SeatOf(over)));
+  event->scroll.direction = direction;
+  gtk_main_do_event(event.get());
+}
+
 void PressKey(GtkWidget* window, guint key, GdkModifierType held) {
   const EventPtr event = NewEvent(GDK_KEY_PRESS, window);
   gdk_event_set_device(event.get(), gdk_seat_get_keyboard(SeatOf(window)));
@@ -237,4 +261,11 @@ void ChooseFirstFile(GtkWidget* chooser) {
                        }),
             "0");
   PressButton(" 選択 ")(chooser);
+}
+
+guint32 PixelOf(GtkWidget* area, gint x, gint y) {
+  FinishFrame(area);
+  const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(area), x, y, 1, 1));
+  const guint8* pixel = gdk_pixbuf_read_pixels(shot.get());
+  return static_cast<guint32>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
 }

@@ -39,6 +39,8 @@ void Press(GtkWidget* area, guint button, gint x = 5, gint y = 5);
 void Release(GtkWidget* area, guint button, guint held, gint x = 5, gint y = 5);
 // Moves the pointer over it with the buttons of `state` held.
 void Move(GtkWidget* area, gint x, gint y, guint state);
+// Turns the wheel one step over a control.
+void TurnWheel(GtkWidget* over, GdkScrollDirection direction);
 // Presses a key in a window while modifiers are held.
 void PressKey(GtkWidget* window, guint key, GdkModifierType held = {});
 // Asks a window to close as the window manager does.
@@ -56,3 +58,5 @@ void ExpectUnusable(GtkWidget* list, const std::string& text, const std::string&
 std::vector<std::string> RowTexts(GtkWidget* list);
 // Takes the first file of the first folder in a file chooser.
 void ChooseFirstFile(GtkWidget* chooser);
+// 0xRRGGBB of what a drawing area shows there once it has painted what is queued.
+guint32 PixelOf(GtkWidget* area, gint x, gint y);

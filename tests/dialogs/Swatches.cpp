@@ -24,13 +24,6 @@ GtkWidget* MarkIn(GtkWidget* picker, gint number) {
   return ControlAt(FindGrid(picker), number / 10, number % 10, GTK_TYPE_DRAWING_AREA);
 }
 
-guint32 PixelOf(GtkWidget* area, gint x, gint y) {
-  FinishFrame(area);
-  const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(area), x, y, 1, 1));
-  const guint8* pixel = gdk_pixbuf_read_pixels(shot.get());
-  return static_cast<guint32>(pixel[0] << 16 | pixel[1] << 8 | pixel[2]);
-}
-
 // The last row of black in the columns left of `width`, -1 for none.
 gint LowestInk(GtkWidget* area, gint width) {
   FinishFrame(area);

@@ -3,6 +3,7 @@
 #include "app/Window.h"
 #include "dialogs/ToolBox.h"
 #include "road/RoadTest.h"
+#include "window/LowScreen.h"
 
 namespace {
 // The tool box as the user meets it: a window to be pushed aside that tells of the item in hand.
@@ -217,6 +218,39 @@ TEST_F(ToolBoxPanel, ButtonsFollowTheState) {
     EXPECT_EQ(Usable(), "00001");
     Panel("矩形").Press(" 再表示 ");
     EXPECT_TRUE(See([] { return ToolBox == nullptr && PtrnType == 0; }));
+  });
+}
+
+// A step down over the control scrolls the panel.
+testing::AssertionResult Scrolls(GtkWidget* control) {
+  GtkAdjustment* place = Look([&] {
+    GtkWidget* port = gtk_widget_get_ancestor(control, GTK_TYPE_VIEWPORT);
+    GtkAdjustment* vertical = gtk_scrollable_get_vadjustment(GTK_SCROLLABLE(port));
+    gtk_adjustment_set_value(vertical, 0);
+    return vertical;
+  });
+  Settle(Look([] { return ToolBox; }));
+  PointAt(control);
+  TurnWheelHere();
+  if (See([&] { return gtk_adjustment_get_value(place) > 0; })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "the panel does not scroll";
+}
+
+TEST_F(ToolBoxPanel, TheWheelScrollsALowScreensPanelOverEveryControl) {
+  const LowScreen low(600);
+  Play([this] {
+    NewLayout(640, 480);
+    Open("数値データ");
+    const Panel panel("数値データ");
+    const gint digits = Look([] { return PtrnData.Parm[TextSlot::Length]; });
+    const gint font = Look([] { return PtrnData.Parm[TextSlot::Font]; });
+    EXPECT_TRUE(Scrolls(panel.Control({"表示桁数"}, GTK_TYPE_SPIN_BUTTON)));
+    EXPECT_TRUE(Scrolls(panel.Control({"フォント"}, GTK_TYPE_COMBO_BOX)));
+    EXPECT_TRUE(Scrolls(panel.Control({"前景色"}, GTK_TYPE_DRAWING_AREA)));
+    EXPECT_TRUE(Scrolls(Look([&] { return FindLabel(panel.Window(), "ゼロサプレスしない"); })));
+    EXPECT_TRUE(Scrolls(Look([&] { return FindLabel(panel.Window(), "前景色"); })));
+    EXPECT_EQ(Look([] { return PtrnData.Parm[TextSlot::Length]; }), digits);
+    EXPECT_EQ(Look([] { return PtrnData.Parm[TextSlot::Font]; }), font);
   });
 }
 }  // namespace

@@ -281,6 +281,12 @@ void ClickFast(GtkWidget* widget, gint x, gint y, gint times, Button button) {
   for (gint i = 0; i < times; i++) Hands->SendClick(button);
 }
 
+void TurnWheelHere() {
+  constexpr guint WheelDown = 5;
+  Hands->SendClick(WheelDown);
+  WhenIdle();
+}
+
 void PointBy(gint x, gint y) {
   Hands->MovePointerBy(x, y);
   EXPECT_TRUE(See([] {

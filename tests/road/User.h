@@ -56,6 +56,8 @@ void ClickHere(Button button);
 // Moves the pointer to a place of a widget and clicks there so many times, as fast as the display
 // takes it; waits for nothing, so what the clicks lead to is to be seen.
 void ClickFast(GtkWidget* widget, gint x, gint y, gint times, Button button = LeftButton);
+// Turns the wheel one step down where the pointer is.
+void TurnWheelHere();
 // Moves the pointer by so many dots on the screen, whatever lies there.
 void PointBy(gint x, gint y);
 

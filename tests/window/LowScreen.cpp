@@ -25,6 +25,7 @@ bool HasRoom(gint height) {
 }  // namespace
 
 LowScreen::LowScreen(gint height) : bar_(gtk_window_new(GTK_WINDOW_TOPLEVEL)) {
+  g_object_add_weak_pointer(G_OBJECT(bar_), reinterpret_cast<gpointer*>(&bar_));
   const GdkRectangle screen = WholeScreen();
   gtk_window_set_type_hint(GTK_WINDOW(bar_), GDK_WINDOW_TYPE_HINT_DOCK);
   gtk_widget_set_size_request(bar_, 50, 10);
@@ -40,6 +41,6 @@ LowScreen::LowScreen(gint height) : bar_(gtk_window_new(GTK_WINDOW_TOPLEVEL)) {
 }
 
 LowScreen::~LowScreen() {
-  gtk_widget_destroy(bar_);
+  if (bar_ != nullptr) gtk_widget_destroy(bar_);
   EXPECT_TRUE(HasRoom(WholeScreen().height));
 }

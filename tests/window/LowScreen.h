@@ -13,5 +13,5 @@ class LowScreen {
   LowScreen& operator=(const LowScreen&) = delete;
 
  private:
-  GtkWidget* bar_;
+  GtkWidget* bar_;  // null once somebody has closed it
 };
