@@ -1,5 +1,6 @@
 #include "dialogs/Cells.h"
 
+#include "dialogs/SwatchArea.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 
@@ -50,5 +51,6 @@ void KeepWidget(GtkWidget** slot, GtkWidget* widget) {
 }
 
 void RedrawLayout() {
+  RedrawSwatches();
   if (PtrnFlag != 0) DrawRequest(1);
 }

@@ -38,7 +38,7 @@ void KeepWidget(GtkWidget** slot, GtkWidget* widget);
 void ShowRecordText(GtkWidget* entry, const gchar* text);
 // Stores a text that was chosen, not typed, in the row's field as it is and shows it.
 void ShowChoice(DLG_EDITBOX* row, const std::string& text);
-// Renders an open layout anew after its colours or marks have changed.
+// Renders an open layout anew, and the swatches of all windows, after colours or marks have changed.
 void RedrawLayout();
 
 // Bound integers may lie at odd addresses of a packed record.

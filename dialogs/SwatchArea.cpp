@@ -146,6 +146,11 @@ void swatch_accessible_class_init(SwatchAccessibleClass* type) {
 
 void swatch_accessible_init(SwatchAccessible* /*accessible*/) {}
 
+void RedrawWithin(GtkWidget* widget, gpointer /*data*/) {
+  if (IsSwatchArea(widget)) gtk_widget_queue_draw(widget);
+  if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), RedrawWithin, nullptr);
+}
+
 gint CountActions(AtkAction* /*accessible*/) {
   return 1;
 }
@@ -180,6 +185,13 @@ void ResizeSwatchArea(GtkWidget* area, SIZE size) {
 
 bool IsSwatchArea(GtkWidget* widget) {
   return G_TYPE_CHECK_INSTANCE_TYPE(widget, swatch_area_get_type()) != FALSE;
+}
+
+void RedrawSwatches() {
+  GList* windows = gtk_window_list_toplevels();
+  for (GList* link = windows; link != nullptr; link = link->next)
+    RedrawWithin(static_cast<GtkWidget*>(link->data), nullptr);
+  g_list_free(windows);
 }
 
 void SetSwatchLabel(GtkWidget* area, const std::string& label) {

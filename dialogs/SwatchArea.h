@@ -17,6 +17,8 @@ GtkWidget* NewSwatchArea(SIZE size, SwatchPaint paint, SwatchPress press, gpoint
 // Asks for another size.
 void ResizeSwatchArea(GtkWidget* area, SIZE size);
 bool IsSwatchArea(GtkWidget* widget);
+// Paints the swatches of all windows anew, as after a change of the colours or marks they show.
+void RedrawSwatches();
 
 // What assistive technology reads: what the swatch is for ("" in a picker) and what it shows.
 void SetSwatchLabel(GtkWidget* area, const std::string& label);

@@ -12,6 +12,7 @@
 #include "common/TempFolder.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
+#include "dialogs/ToolBox.h"
 #include "layout/Screen.h"
 #include "render/Surface.h"
 #include "window/Widgets.h"
@@ -118,6 +119,27 @@ TEST_F(Marks, ARightClickInThePickerIsSavedAtOnce) {
     CloseByManager(picker);
   });
   EXPECT_EQ(Dlg_MarkSelect(PtrnWnd), -1);
+}
+
+TEST_F(Marks, ARightClickIsShownAtOnceInThePanelBeneath) {
+  // Where no dialog in the middle of the screen hides it.
+  ToolBox_PointFlag = 1;
+  ToolBox_PointData[TypeMark - 1] = {20, 20};
+  PtrnData.Parm[MarkSlot::Mark] = 7;
+  Dlg_ToolBox(PtrnWnd, TypeMark);
+  ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
+  GtkWidget* swatch = ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_DRAWING_AREA);
+  EXPECT_EQ(PixelOf(swatch, 26 + 4, 1 + 5), 0xFFFFFFU);
+  const DialogAnswer answer(PickTitle, [swatch](GtkWidget* picker) {
+    {
+      const DialogAnswer editor(EditTitle, DrawOnePixel);
+      Press(SwatchOf(picker, 7), 3);
+    }
+    EXPECT_EQ(PixelOf(swatch, 26 + 4, 1 + 5), 0U);
+    CloseByManager(picker);
+  });
+  Dlg_MarkSelect(PtrnWnd);
+  ToolBox_PointData[TypeMark - 1] = {0, 0};
 }
 
 TEST_F(Marks, TheSettingsKeepTheirChangesOnlyWhenSet) {

@@ -10,6 +10,9 @@
 #include "common/TempFolder.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
+#include "dialogs/GridWindow.h"
+#include "dialogs/Kit.h"
+#include "dialogs/ToolBox.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
@@ -245,4 +248,61 @@ TEST_F(Palette, TheOpenLayoutShowsARightClicksColourAtOnce) {
     CloseByManager(picker);
   });
   Dlg_ColrSelect(PtrnWnd);
+}
+
+// Swatches of colour 37 in the panel and in a dialog, at the screen's corners, where no dialog in
+// the middle hides them.
+struct ShownSwatches {
+  ShownSwatches() {
+    constexpr gint SpinButton = 15;
+    ToolBox_PointFlag = 1;
+    ToolBox_PointData[SpinButton - 1] = {20, 20};
+    PtrnData.Parm[ItemSlot::EraseColour] = 37;
+    Dlg_ToolBox(PtrnWnd, SpinButton);
+    EXPECT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
+    InPanel = ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_DRAWING_AREA);
+    Dlg_ColrData(Form.Window, Form.Grid, Rows);
+    InDialog = ControlAt(Form.Grid, 0, 0, GTK_TYPE_DRAWING_AREA);
+    gtk_window_move(GTK_WINDOW(Form.Window), 1300, 20);
+    Form.Show();
+  }
+  ~ShownSwatches() { ToolBox_PointData[14] = {0, 0}; }
+  ShownSwatches(const ShownSwatches&) = delete;
+  ShownSwatches& operator=(const ShownSwatches&) = delete;
+
+  gint Number = 37;
+  DLG_COLRDATA Rows[2] = {{0, 0, 0, &Number, ""}, {-1, 0, 0, nullptr, nullptr}};
+  GridWindow Form;
+  GtkWidget* InPanel = nullptr;
+  GtkWidget* InDialog = nullptr;
+};
+
+TEST_F(Palette, ARightClickIsShownAtOnceInTheWindowsBeneath) {
+  const ShownSwatches shown;
+  EXPECT_EQ(PixelOf(shown.InPanel, 40, 10), 0U);
+  EXPECT_EQ(PixelOf(shown.InDialog, 40, 10), 0U);
+  const DialogAnswer answer(PickerTitle, [&shown](GtkWidget* picker) {
+    {
+      const DialogAnswer colour(ColourTitle, Choose({0x1200, 0x3400, 0x5600}));
+      Press(SwatchAt(picker, 7, 3), 3);
+    }
+    EXPECT_EQ(PixelOf(shown.InPanel, 40, 10), 0x123456U);
+    EXPECT_EQ(PixelOf(shown.InDialog, 40, 10), 0x123456U);
+    CloseByManager(picker);
+  });
+  Dlg_ColrSelect(PtrnWnd);
+}
+
+TEST_F(Palette, TheEditorsColoursAreShownAtOnceInTheWindowsBeneath) {
+  const ShownSwatches shown;
+  EXPECT_EQ(PixelOf(shown.InDialog, 40, 10), 0U);
+  const DialogAnswer answer(EditorTitle, [](GtkWidget* editor) {
+    {
+      const DialogAnswer colour(ColourTitle, Choose({0x1200, 0x3400, 0x5600}));
+      Press(SwatchAt(editor, 7, 3), 1);
+    }
+    PressButton(" 設定 ")(editor);
+  });
+  EditColrData(nullptr, nullptr);
+  EXPECT_EQ(PixelOf(shown.InDialog, 40, 10), 0x123456U);
 }
