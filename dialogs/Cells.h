@@ -38,6 +38,8 @@ void KeepWidget(GtkWidget** slot, GtkWidget* widget);
 void ShowRecordText(GtkWidget* entry, const gchar* text);
 // Stores a text that was chosen, not typed, in the row's field as it is and shows it.
 void ShowChoice(DLG_EDITBOX* row, const std::string& text);
+// Has every check button below `root` show what its bound flag holds, which stays as it is.
+void ShowChecks(GtkWidget* root);
 // Renders an open layout anew, and the swatches of all windows, after colours or marks have changed.
 void RedrawLayout();
 

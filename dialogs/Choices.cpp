@@ -11,12 +11,26 @@ GtkWidget* Dlg_ComboBox_Parent = nullptr;
 
 namespace {
 
+constexpr const gchar* CheckRowKey = "varnix-check-row";
+
 void Dlg_RadioButn_Slct(GtkToggleButton* button, const DLG_RADIOBUTN* row) {
   if (gtk_toggle_button_get_active(button)) StoreInt(row->data, row->code);
 }
 
 void Dlg_CheckButn_Slct(GtkToggleButton* button, const DLG_CHECKBUTN* row) {
   StoreInt(row->data, gtk_toggle_button_get_active(button) ? 1 : 0);
+}
+
+void ShowCheck(GtkWidget* widget, gpointer /*data*/) {
+  const auto* row =
+      static_cast<const DLG_CHECKBUTN*>(g_object_get_data(G_OBJECT(widget), CheckRowKey));
+  if (row != nullptr) {
+    const gpointer write = reinterpret_cast<gpointer>(Dlg_CheckButn_Slct);
+    g_signal_handlers_block_matched(widget, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, write, nullptr);
+    gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(widget), LoadInt(row->data) == 1);
+    g_signal_handlers_unblock_matched(widget, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, write, nullptr);
+  }
+  if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), ShowCheck, nullptr);
 }
 
 // Entries up to the empty text that ends the list.
@@ -76,8 +90,13 @@ void Dlg_CheckButn(GtkWidget* parent, GtkWidget* table, DLG_CHECKBUTN* rows) {
     GtkWidget* button = gtk_check_button_new_with_label(row.text);
     gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(button), LoadInt(row.data) == 1);
     g_signal_connect(button, "toggled", G_CALLBACK(Dlg_CheckButn_Slct), &row);
+    g_object_set_data(G_OBJECT(button), CheckRowKey, &row);
     PlaceControl(table, button, row);
   });
+}
+
+void ShowChecks(GtkWidget* root) {
+  ShowCheck(root, nullptr);
 }
 
 void Dlg_ComboBox(GtkWidget* parent, GtkWidget* table, DLG_COMBOBOX* rows) {

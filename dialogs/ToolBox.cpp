@@ -29,7 +29,11 @@ constexpr struct {
   gint Start;
 } Buttons[] = {
     {" 登録 ", 0, 1}, {" 削除 ", 1, 1}, {" 取消 ", 2, 1}, {" 再表示 ", 4, 0}, {" 複写 ", 3, 0}};
+constexpr gint RegisterCode = 0;
 constexpr gint RedisplayCode = 4;
+
+// Whether (0, 0) is where the panel of each type stood, not that it stood nowhere yet.
+bool IsParkedInCorner[15];
 
 // Origin that the window manager told the panel last; nothing until it has told one.
 std::optional<POINT> ToldOrigin;
@@ -70,9 +74,14 @@ void ToolBox_Destroy(GtkWidget* window, gpointer /*data*/) {
   if (ToolBox == window) ToolBox = nullptr;
 }
 
-void PlaceToolBox(GtkWidget* window, const POINT& remembered) {
+bool IsCorner(const POINT& place) {
+  return place.x == 0 && place.y == 0;
+}
+
+void PlaceToolBox(GtkWidget* window, gint type) {
+  const POINT& remembered = ToolBox_PointData[type - 1];
   FitToScreen(window);
-  if (remembered.x == 0 && remembered.y == 0) {
+  if (IsCorner(remembered) && !IsParkedInCorner[type - 1]) {
     gtk_window_set_position(GTK_WINDOW(window), GTK_WIN_POS_CENTER);
     return;
   }
@@ -125,6 +134,7 @@ GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint star
 void Dlg_ToolBox(GtkWidget* parent, gint type) {
   if (ToolBox_PointFlag == 0) {
     for (POINT& place : ToolBox_PointData) place = {0, 0};
+    for (bool& parked : IsParkedInCorner) parked = false;
     ToolBox_PointFlag = 1;
   }
   if (ToolBox != nullptr) {
@@ -151,9 +161,10 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   BuildToolBoxPage(dialog.Window, PageOfType(type));
   for (const auto& button : Buttons)
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
+  SetDefaultButton(ToolBoxButton[RegisterCode]);
   SetDialogParent(dialog.Window, parent);
   ShareKeyboard(GTK_WINDOW(dialog.Window), parent);
-  PlaceToolBox(dialog.Window, ToolBox_PointData[type - 1]);
+  PlaceToolBox(dialog.Window, type);
   gtk_widget_show(dialog.Window);
 }
 
@@ -162,6 +173,7 @@ void SaveToolBox() {
   if (!IsItemType(ToolBox_Type) || !IsPlaced(ToolBox)) return;
   POINT& place = ToolBox_PointData[ToolBox_Type - 1];
   gtk_window_get_position(GTK_WINDOW(ToolBox), &place.x, &place.y);
+  IsParkedInCorner[ToolBox_Type - 1] = IsCorner(place);
 }
 
 void SetToolBoxButton(gint mode) {
@@ -169,4 +181,8 @@ void SetToolBoxButton(gint mode) {
   for (gint code = 0; code < 5; ++code)
     if (ToolBoxButton[code] != nullptr)
       gtk_widget_set_sensitive(ToolBoxButton[code], (mode >> code & 1) != 0);
+  // The buttons change with the state of the item in hand. What registering moved onto the grid or
+  // took as done is shown as it is held now.
+  SetToolBoxPoint();
+  ShowChecks(ToolBox);
 }

@@ -5,7 +5,11 @@
 
 #include <string>
 
+#include "ProjData.h"
 #include "PtrnData.h"
+#include "PtrnMisc.h"
+#include "app/Menus.h"
+#include "common/TempFolder.h"
 #include "dialogs/Controls.h"
 #include "window/ServerGrab.h"
 #include "window/Widgets.h"
@@ -53,6 +57,36 @@ bool MovesTo(const POINT& place) {
   return placed && StandsAt(place);
 }
 
+// Whether the window manager's frame comes to stand in the screen's corner, the panel in it.
+bool FrameStandsInCorner() {
+  return WaitFor([] {
+    GdkRectangle frame;
+    POINT origin;
+    GdkWindow* window = gtk_widget_get_window(ToolBox);
+    gdk_window_get_frame_extents(window, &frame);
+    gdk_window_get_origin(window, &origin.x, &origin.y);
+    return frame.x == 0 && frame.y == 0 && origin.y > 0;
+  });
+}
+
+// Tells the panel that it stands where it does.
+void TellOrigin() {
+  POINT origin;
+  gdk_window_get_origin(gtk_widget_get_window(ToolBox), &origin.x, &origin.y);
+  GdkEvent* told = gdk_event_new(GDK_CONFIGURE);
+  told->configure.x = origin.x;
+  told->configure.y = origin.y;
+  gboolean handled = FALSE;
+  g_signal_emit_by_name(ToolBox, "configure-event", told, &handled);
+  gdk_event_free(told);
+}
+
+void GiveKeyboard(GtkWidget* control) {
+  gtk_window_present(GTK_WINDOW(ToolBox));
+  ASSERT_TRUE(WaitFor([] { return gtk_window_is_active(GTK_WINDOW(ToolBox)) != FALSE; }));
+  gtk_widget_grab_focus(control);
+}
+
 }  // namespace
 
 class ToolBoxWindow : public WindowTest {
@@ -60,7 +94,17 @@ class ToolBoxWindow : public WindowTest {
   ToolBoxWindow() {
     WriteProfile("");
     OpenWindow();
-    for (POINT& place : ToolBox_PointData) place = {0, 0};
+    // The first panel forgets every place.
+    ToolBox_PointFlag = 0;
+  }
+  // A new item with its panel, ready to be registered.
+  static void TakeInHand(const PTRNDATA& item) {
+    PtrnData = item;
+    PtrnNo = -1;
+    PtrnType = item.Type;
+    PtrnMode = ModeSelected;
+    ASSERT_TRUE(Opens(item.Type));
+    SetMenuActive2(1 | 4 | 16);
   }
 };
 
@@ -157,6 +201,98 @@ TEST_F(ToolBoxWindow, MovingFiguresLeaveTheRestOfThePanelAsItIs) {
   EXPECT_TRUE(WaitFor([&] { return layouts > 0; }));
 }
 
+// Points snap to the half of a grid of 40 dots.
+TEST_F(ToolBoxWindow, ReadOutsShowWhatWasRegistered) {
+  ShowLayout(320, 240, 2);
+  PtrnHedr.Parm2[2] = PtrnHedr.Parm2[3] = 11;
+  TakeInHand(BoxItem(13, 27, 155, 118, 8));
+  EXPECT_EQ(LabelText(ToolBox_Label1), "   13 /    27");
+  gtk_button_clicked(GTK_BUTTON(ToolBoxButton[0]));
+  EXPECT_EQ(GetPtrnCount(), 1);
+  EXPECT_EQ(LabelText(ToolBox_Label1), "   20 /    20");
+  EXPECT_EQ(LabelText(ToolBox_Label2), "  160 /   120");
+}
+
+TEST_F(ToolBoxWindow, TicksShowWhatIsHeldOnceRegistered) {
+  const TempFolder project;
+  CopyText(ProjPath, project.Path());
+  ShowLayout(320, 240, 2);
+  PTRNDATA item{};
+  item.Type = TypeFixedString;
+  CopyText(item.Text1, "abc");
+  TakeInHand(item);
+  const auto tick = [](const gchar* label) {
+    return GTK_TOGGLE_BUTTON(FindLabel(ToolBox, label));
+  };
+  for (const gchar* label :
+       {"文字列一覧へ登録", "次回からの初期値として保存", "後で設定"})
+    gtk_button_clicked(GTK_BUTTON(tick(label)));
+  EXPECT_EQ(gint{PtrnData.RegstFlag}, 1);
+  // Refused, it keeps what it holds.
+  CopyText(PtrnData.Text1, "");
+  {
+    const DialogAnswer refusal("入力エラー", CloseByManager);
+    ToolBoxButn(nullptr, GINT_TO_POINTER(0));
+  }
+  EXPECT_TRUE(gtk_toggle_button_get_active(tick("文字列一覧へ登録")));
+  CopyText(PtrnData.Text1, "abc");
+  ToolBoxButn(nullptr, GINT_TO_POINTER(0));
+  EXPECT_FALSE(gtk_toggle_button_get_active(tick("文字列一覧へ登録")));
+  EXPECT_FALSE(gtk_toggle_button_get_active(tick("次回からの初期値として保存")));
+  EXPECT_TRUE(gtk_toggle_button_get_active(tick("後で設定")));
+  EXPECT_EQ(gint{PtrnData.UndfFlag}, 1);
+  // Shown once more, the switch works as before.
+  gtk_button_clicked(GTK_BUTTON(tick("文字列一覧へ登録")));
+  EXPECT_EQ(gint{PtrnData.RegstFlag}, 1);
+  ProjPath[0] = '\0';
+}
+
+// A flag of another number shows as not set and is kept.
+TEST_F(ToolBoxWindow, ShowingTheTicksChangesNothing) {
+  ShowLayout(320, 240, 2);
+  TakeInHand(BoxItem(13, 27, 155, 118, 8));
+  PtrnData.UndfFlag = 2;
+  SetToolBoxButton(16);
+  EXPECT_EQ(gint{PtrnData.UndfFlag}, 2);
+  PtrnData.UndfFlag = 1;
+  SetToolBoxButton(16);
+  PtrnData.UndfFlag = 2;
+  SetToolBoxButton(16);
+  EXPECT_FALSE(gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(FindLabel(ToolBox, "後で設定"))));
+  EXPECT_EQ(gint{PtrnData.UndfFlag}, 2);
+}
+
+TEST_F(ToolBoxWindow, ReturnInAnEntryRegisters) {
+  ShowLayout(320, 240, 2);
+  TakeInHand(BoxItem(20, 20, 160, 120, 8));
+  GtkWidget* code = ControlAt(FindGrid(ToolBox), 10, 1, GTK_TYPE_ENTRY);
+  GiveKeyboard(code);
+  Type(code, "abc");
+  PressKey(ToolBox, GDK_KEY_Return);
+  // A button that a key presses is seen to go down first.
+  ASSERT_TRUE(WaitFor([] { return GetPtrnCount() == 1; }));
+  PTRNDATA stored;
+  GetPtrnData(0, &stored);
+  EXPECT_STREQ(stored.ID_Code, "abc");
+  EXPECT_EQ(PtrnMode, ModeIdle);
+  EXPECT_FALSE(gtk_widget_get_sensitive(ToolBoxButton[0]));
+}
+
+TEST_F(ToolBoxWindow, ReturnInANumberRegistersWhatWasTyped) {
+  ShowLayout(320, 240, 2);
+  TakeInHand(BoxItem(20, 20, 160, 120, 8));
+  GtkWidget* width = ControlAt(FindGrid(ToolBox), 2, 1, GTK_TYPE_SPIN_BUTTON);
+  GiveKeyboard(width);
+  gtk_editable_delete_text(GTK_EDITABLE(width), 0, -1);
+  Type(width, "7");
+  PressKey(ToolBox, GDK_KEY_Return);
+  // A button that a key presses is seen to go down first.
+  ASSERT_TRUE(WaitFor([] { return GetPtrnCount() == 1; }));
+  PTRNDATA stored;
+  GetPtrnData(0, &stored);
+  EXPECT_EQ(+stored.Parm[ShapeSlot::Width], 7);
+}
+
 TEST_F(ToolBoxWindow, OnlyTypesWithTwoPointsShowTheirEnd) {
   const std::string onePoint = ".....678.ab....";  // fixed, variable, numeric, radio, check
   for (gint type = 1; type <= LastType; type++) {
@@ -211,14 +347,7 @@ TEST_F(ToolBoxWindow, APanelThatIsNotYetOnTheScreenChangesNoPlace) {
   {
     const ServerGrab unframed;
     Dlg_ToolBox(PtrnWnd, Type);
-    POINT origin;
-    gdk_window_get_origin(gtk_widget_get_window(ToolBox), &origin.x, &origin.y);
-    GdkEvent* told = gdk_event_new(GDK_CONFIGURE);
-    told->configure.x = origin.x;
-    told->configure.y = origin.y;
-    gboolean handled = FALSE;
-    g_signal_emit_by_name(ToolBox, "configure-event", told, &handled);
-    gdk_event_free(told);
+    TellOrigin();
     ToolBox_PointData[Type - 1] = Before;
     SaveToolBox();
   }
@@ -228,6 +357,36 @@ TEST_F(ToolBoxWindow, APanelThatIsNotYetOnTheScreenChangesNoPlace) {
     SaveToolBox();
     return kept().x != Before.x && kept().y != Before.y;
   }));
+}
+
+TEST_F(ToolBoxWindow, APanelParkedInTheCornerOpensAgainThere) {
+  ASSERT_TRUE(Opens(4));
+  ASSERT_TRUE(MovesTo({0, 0}));
+  ASSERT_TRUE(FrameStandsInCorner());
+  for (gint round = 0; round < 3; round++) {
+    Dlg_ToolBox(PtrnWnd, 4);
+    ASSERT_TRUE(Opens(4));
+    EXPECT_TRUE(FrameStandsInCorner()) << round;
+  }
+  // Elsewhere and forgotten, it opens in the middle again.
+  gtk_window_move(GTK_WINDOW(ToolBox), 100, 150);
+  ASSERT_TRUE(StandsAt({100, 150}));
+  Dlg_ToolBox(PtrnWnd, 0);
+  ToolBox_PointData[3] = {0, 0};
+  ASSERT_TRUE(Opens(4));
+  EXPECT_TRUE(WaitFor([] { return PositionOf(ToolBox).x > 400; }));
+}
+
+TEST_F(ToolBoxWindow, APanelThatIsNotYetOnTheScreenIsNotParkedInTheCorner) {
+  {
+    const ServerGrab unframed;
+    Dlg_ToolBox(PtrnWnd, 4);
+    gdk_window_move(gtk_widget_get_window(ToolBox), 0, 0);
+    TellOrigin();
+    Dlg_ToolBox(PtrnWnd, 0);
+  }
+  ASSERT_TRUE(Opens(4));
+  EXPECT_TRUE(WaitFor([] { return PositionOf(ToolBox).x > 400; }));
 }
 
 TEST_F(ToolBoxWindow, EachTypeHasAPlaceOfItsOwn) {
