@@ -40,7 +40,7 @@ void ShowRecordText(GtkWidget* entry, const gchar* text);
 void ShowChoice(DLG_EDITBOX* row, const std::string& text);
 // Has every check button below `root` show what its bound flag holds, which stays as it is.
 void ShowChecks(GtkWidget* root);
-// Renders an open layout anew, and the swatches of all windows, after colours or marks have changed.
+// Renders an open layout anew, and the swatches of all windows, after colours or marks changed.
 void RedrawLayout();
 
 // Bound integers may lie at odd addresses of a packed record.

@@ -221,11 +221,8 @@ TEST_F(ToolBoxWindow, TicksShowWhatIsHeldOnceRegistered) {
   item.Type = TypeFixedString;
   CopyText(item.Text1, "abc");
   TakeInHand(item);
-  const auto tick = [](const gchar* label) {
-    return GTK_TOGGLE_BUTTON(FindLabel(ToolBox, label));
-  };
-  for (const gchar* label :
-       {"文字列一覧へ登録", "次回からの初期値として保存", "後で設定"})
+  const auto tick = [](const gchar* label) { return GTK_TOGGLE_BUTTON(FindLabel(ToolBox, label)); };
+  for (const gchar* label : {"文字列一覧へ登録", "次回からの初期値として保存", "後で設定"})
     gtk_button_clicked(GTK_BUTTON(tick(label)));
   EXPECT_EQ(gint{PtrnData.RegstFlag}, 1);
   // Refused, it keeps what it holds.
