@@ -12,10 +12,15 @@
 #include "app/Window.h"
 
 namespace {
-// The middle of what is seen of a layout, in its dots.
+// A place of the layout in one direction, in its dots, and where in what is seen it stands, in
+// pixels: in the middle when nothing.
+struct Anchor {
+  double Dot = 0;
+  std::optional<double> Seen;
+};
 struct Place {
-  double x;
-  double y;
+  Anchor Across;
+  Anchor Down;
 };
 
 // By project folder and name; for as long as the program runs.
@@ -31,28 +36,48 @@ GtkScrolledWindow* Scrolled() {
   return GTK_SCROLLED_WINDOW(gtk_widget_get_ancestor(PtrnDraw, GTK_TYPE_SCROLLED_WINDOW));
 }
 
-double Middle(GtkAdjustment* bar, gint dots, gint zoomedDots) {
-  const double seen = std::min<double>(gtk_adjustment_get_page_size(bar), zoomedDots);
-  return (gtk_adjustment_get_value(bar) + seen / 2) * dots / zoomedDots;
+// One direction of the canvas.
+struct Axis {
+  GtkAdjustment* Bar;
+  gint Dots;
+  gint ZoomedDots;
+  Anchor Place::*Part;
+};
+
+Axis Across() {
+  return {gtk_scrolled_window_get_hadjustment(Scrolled()), PtrnDraw_Size1.cx, PtrnDraw_Size2.cx,
+          &Place::Across};
 }
 
-Place ShownPlace() {
-  return {
-      Middle(gtk_scrolled_window_get_hadjustment(Scrolled()), PtrnDraw_Size1.cx, PtrnDraw_Size2.cx),
-      Middle(gtk_scrolled_window_get_vadjustment(Scrolled()), PtrnDraw_Size1.cy,
-             PtrnDraw_Size2.cy)};
+Axis Down() {
+  return {gtk_scrolled_window_get_vadjustment(Scrolled()), PtrnDraw_Size1.cy, PtrnDraw_Size2.cy,
+          &Place::Down};
 }
 
-void SetMiddle(GtkAdjustment* bar, double middle, gint dots, gint zoomedDots) {
-  const double left = middle * zoomedDots / dots - gtk_adjustment_get_page_size(bar) / 2;
-  gtk_adjustment_set_value(bar, std::round(left));
+// The canvas's first pixel that is seen when the layout stands so, however far it can be scrolled.
+double Start(const Axis& axis, const Place& place) {
+  const Anchor& anchor = place.*axis.Part;
+  const double seen = anchor.Seen.value_or(gtk_adjustment_get_page_size(axis.Bar) / 2);
+  return anchor.Dot * axis.ZoomedDots / axis.Dots - seen;
+}
+
+double ShownStart(const Axis& axis) {
+  return Wanted ? Start(axis, *Wanted) : gtk_adjustment_get_value(axis.Bar);
+}
+
+double DotAt(const Axis& axis, double seen) {
+  return (ShownStart(axis) + seen) * axis.Dots / axis.ZoomedDots;
+}
+
+// The middle of what is seen of the layout.
+Anchor Middle(const Axis& axis) {
+  const double seen = std::min<double>(gtk_adjustment_get_page_size(axis.Bar), axis.ZoomedDots);
+  return {DotAt(axis, seen / 2), {}};
 }
 
 void ScrollTo(const Place& place) {
-  SetMiddle(gtk_scrolled_window_get_hadjustment(Scrolled()), place.x, PtrnDraw_Size1.cx,
-            PtrnDraw_Size2.cx);
-  SetMiddle(gtk_scrolled_window_get_vadjustment(Scrolled()), place.y, PtrnDraw_Size1.cy,
-            PtrnDraw_Size2.cy);
+  for (const Axis& axis : {Across(), Down()})
+    gtk_adjustment_set_value(axis.Bar, std::round(Start(axis, place)));
 }
 
 // At once as far as the canvas's present size allows, and again when it has its new one.
@@ -61,9 +86,12 @@ void Want(const Place& place) {
   ScrollTo(place);
 }
 
-void ScrollWhenSized(GtkWidget* /*canvas*/, GdkRectangle* place, gpointer) {
-  if (!Wanted || PtrnDraw_Mode == 0) return;
-  if (place->width < PtrnDraw_Size2.cx || place->height < PtrnDraw_Size2.cy) return;
+// After the scroll bars have come or gone, which takes from what is seen or adds to it.
+void ScrollWhenSized(GtkWidget* /*scrolled*/, GdkRectangle* /*place*/, gpointer) {
+  if (!Wanted || PtrnDraw == nullptr || PtrnDraw_Mode == 0) return;
+  if (gtk_widget_get_allocated_width(PtrnDraw) < PtrnDraw_Size2.cx ||
+      gtk_widget_get_allocated_height(PtrnDraw) < PtrnDraw_Size2.cy)
+    return;
   ScrollTo(*Wanted);
   Wanted.reset();
 }
@@ -100,44 +128,50 @@ gint WheelSteps(const GdkEventScroll* event) {
   if (event->direction == GDK_SCROLL_DOWN) return 1;
   if (event->direction != GDK_SCROLL_SMOOTH) return 0;
   Turned += event->delta_y;
-  const gint steps = static_cast<gint>(std::clamp(Turned, -10.0, 10.0));
-  Turned -= steps;
-  return steps;
+  const double whole = std::trunc(Turned);
+  Turned -= whole;
+  return static_cast<gint>(std::clamp(whole, -10.0, 10.0));
 }
 
-// The layout point under the pointer stays under it.
+// The layout point that is seen there stays there.
 void ZoomAround(gint index, double x, double y) {
-  const Place before = Wanted.value_or(ShownPlace());
-  const double zoom = static_cast<double>(PtrnDraw_Size2.cx) / PtrnDraw_Size1.cx;
+  const Place under = {{DotAt(Across(), x), x}, {DotAt(Down(), y), y}};
   gtk_check_menu_item_set_active(GTK_CHECK_MENU_ITEM(PtrnZoom1[index]), TRUE);
-  const double ratio = zoom * PtrnDraw_Size1.cx / PtrnDraw_Size2.cx;
-  const Place under = {x / zoom, y / zoom};
-  Want({under.x + (before.x - under.x) * ratio, under.y + (before.y - under.y) * ratio});
+  Want(under);
+}
+
+void ZoomUnderPointer(gint index, const GdkEventScroll* event) {
+  GtkWidget* viewport = gtk_widget_get_parent(PtrnDraw);
+  POINT from{0, 0};
+  POINT seen{0, 0};
+  gdk_window_get_origin(event->window, &from.x, &from.y);
+  gdk_window_get_origin(gtk_viewport_get_view_window(GTK_VIEWPORT(viewport)), &seen.x, &seen.y);
+  ZoomAround(index, event->x + from.x - seen.x, event->y + from.y - seen.y);
 }
 
 // Zooming gives up what is being edited, so the wheel zooms only while nothing is.
 gboolean ZoomWheel(GtkWidget*, GdkEventScroll* event, gpointer) {
-  if (PtrnFlag == 0 || (event->state & GDK_CONTROL_MASK) == 0) return FALSE;
-  if (PtrnMode != ModeIdle || PtrnType != 0) return TRUE;
+  const bool zooms = PtrnFlag != 0 && (event->state & GDK_CONTROL_MASK) != 0;
+  const bool idle = PtrnMode == ModeIdle && PtrnType == 0;
+  if (!zooms || !idle) {
+    Turned = 0;
+    return zooms;
+  }
   constexpr gint Last = 4;
   const gint index = std::clamp(PtrnHedr.Parm2[ViewSlot::Zoom] + WheelSteps(event), 0, Last);
-  if (index == PtrnHedr.Parm2[ViewSlot::Zoom]) return TRUE;
-  gint x = 0;
-  gint y = 0;
-  gdk_window_get_device_position(gtk_widget_get_window(PtrnDraw), event->device, &x, &y, nullptr);
-  ZoomAround(index, x, y);
+  if (index != PtrnHedr.Parm2[ViewSlot::Zoom]) ZoomUnderPointer(index, event);
   return TRUE;
 }
 }  // namespace
 
 void ConnectScroll(GtkWidget* window, GtkWidget* scrolled) {
-  g_signal_connect(PtrnDraw, "size-allocate", G_CALLBACK(ScrollWhenSized), nullptr);
+  g_signal_connect(scrolled, "size-allocate", G_CALLBACK(ScrollWhenSized), nullptr);
   g_signal_connect(window, "key-press-event", G_CALLBACK(ScrollKey), scrolled);
   g_signal_connect(scrolled, "scroll-event", G_CALLBACK(ZoomWheel), nullptr);
 }
 
 void KeepScrollPlace() {
-  if (!Shown.empty()) Places[Shown] = Wanted.value_or(ShownPlace());
+  if (!Shown.empty()) Places[Shown] = {Middle(Across()), Middle(Down())};
   Shown.clear();
   Wanted.reset();
 }
@@ -146,5 +180,5 @@ void RestoreScrollPlace() {
   Shown = LayoutKey();
   if (Shown.empty()) return;
   const auto kept = Places.find(Shown);
-  Want(kept != Places.end() ? kept->second : Place{0, 0});
+  Want(kept != Places.end() ? kept->second : Place{});
 }

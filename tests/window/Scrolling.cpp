@@ -27,6 +27,16 @@ void ScrollTo(gint x, gint y) {
   gtk_adjustment_set_value(Bar(true), x);
   gtk_adjustment_set_value(Bar(false), y);
 }
+// Turns the wheel by one step with Control held over a point of what is seen.
+void ZoomAt(gint x, gint y, GdkScrollDirection direction) {
+  SendWheel(direction, X() + x, Y() + y, GDK_CONTROL_MASK);
+  FinishFrame(PtrnDraw);
+}
+// Turns a fine wheel with Control held; the zoom that is then chosen.
+gint ZoomAfter(gdouble steps) {
+  SendFineWheel(steps, GDK_CONTROL_MASK);
+  return PtrnHedr.Parm2[ViewSlot::Zoom];
+}
 bool StandsAt(gint x, gint y) {
   return WaitFor([=] { return X() == x && Y() == y; });
 }
@@ -38,9 +48,9 @@ class Scrolling : public WindowTest {
     CopyText(ProjPath, Program.Path());
     ProjFlag = 1;
   }
-  void Show(const gchar* name, gint zoomIndex = Zoom100) {
+  void Show(const gchar* name, gint zoomIndex = Zoom100, SIZE size = {3000, 2500}) {
     CopyText(PtrnName, name);
-    ShowLayout(3000, 2500, zoomIndex);
+    ShowLayout(size.cx, size.cy, zoomIndex);
     FinishFrame(PtrnDraw);
   }
   static void Close() {
@@ -132,6 +142,98 @@ TEST_F(Scrolling, TheWheelZoomsWithControlUnlessSomethingIsEdited) {
   PtrnType = 0;
   for (gint i = 0; i < 9; i++) SendWheel(GDK_SCROLL_DOWN, 100, 100, GDK_CONTROL_MASK);
   EXPECT_EQ(+PtrnHedr.Parm2[ViewSlot::Zoom], Zoom50);
+}
+
+TEST_F(Scrolling, ThePointUnderThePointerStaysInALayoutSmallerThanTheWindow) {
+  Show("small", Zoom100, {600, 400});
+  ZoomAt(300, 200, GDK_SCROLL_UP);
+  EXPECT_TRUE(StandsAt(300, 200));
+  ZoomAt(300, 200, GDK_SCROLL_UP);
+  EXPECT_TRUE(StandsAt(1200, 800));
+  ZoomAt(300, 200, GDK_SCROLL_DOWN);
+  EXPECT_TRUE(StandsAt(300, 200));
+  ZoomAt(300, 200, GDK_SCROLL_DOWN);
+  EXPECT_TRUE(StandsAt(0, 0));
+}
+
+TEST_F(Scrolling, StepsTurnedAtOnceKeepThePointTheUserSaw) {
+  Show("small", Zoom100, {600, 400});
+  SendWheel(GDK_SCROLL_UP, 300, 200, GDK_CONTROL_MASK);
+  ZoomAt(300, 200, GDK_SCROLL_UP);
+  EXPECT_TRUE(StandsAt(1200, 800));
+}
+
+// One direction: where it must be scrolled to for a dot at `seen` to stay there, as far as it can.
+gint Expected(gdouble dot, gint zoomIndex, gint seen, bool horizontal) {
+  const gint dots = PtrnHedr.Parm1[horizontal ? HedrSlot::Width : HedrSlot::Height];
+  const gint zoom = ZoomFactorData[zoomIndex];
+  const gint range = std::max(0, dots * zoom / 100 - Seen(horizontal));
+  return std::clamp(static_cast<gint>(dot * zoom / 100) - seen, 0, range);
+}
+
+TEST_F(Scrolling, ThePointUnderThePointerStaysAtEveryZoomInEveryWindow) {
+  for (const SIZE window : {SIZE{500, 400}, SIZE{1200, 900}}) {
+    gtk_window_resize(GTK_WINDOW(PtrnWnd), window.cx, window.cy);
+    ASSERT_TRUE(WaitFor([&] {
+      return gtk_widget_get_allocated_width(PtrnWnd) == window.cx &&
+             gtk_widget_get_allocated_height(PtrnWnd) == window.cy;
+    }));
+    for (const SIZE layout : {SIZE{90, 70}, SIZE{640, 480}, SIZE{3000, 200}})
+      for (const POINT seen : {POINT{13, 17}, POINT{250, 180}, POINT{470, 330}}) {
+        Show("", Zoom50, layout);
+        for (const GdkScrollDirection turn : {GDK_SCROLL_UP, GDK_SCROLL_DOWN})
+          for (gint step = 0; step < 4; step++) {
+            const gdouble zoom = ZoomFactorData[PtrnHedr.Parm2[ViewSlot::Zoom]] / 100.0;
+            const gdouble x = (X() + seen.x) / zoom;
+            const gdouble y = (Y() + seen.y) / zoom;
+            ZoomAt(seen.x, seen.y, turn);
+            const gint index = PtrnHedr.Parm2[ViewSlot::Zoom];
+            EXPECT_EQ(index, turn == GDK_SCROLL_UP ? 3 - step : step + 1);
+            EXPECT_NEAR(X(), Expected(x, index, seen.x, true), 1)
+                << layout.cx << " at " << seen.x << " zoom " << index << " in " << window.cx;
+            EXPECT_NEAR(Y(), Expected(y, index, seen.y, false), 1)
+                << layout.cy << " at " << seen.y << " zoom " << index << " in " << window.cy;
+          }
+      }
+  }
+}
+
+TEST_F(Scrolling, PartsOfAWheelStepAddUp) {
+  Show("one");
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom100);
+  EXPECT_EQ(ZoomAfter(-0.25), Zoom100);
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom200);
+  // A quarter is left.
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom200);
+  EXPECT_EQ(ZoomAfter(-0.25), Zoom500);
+  EXPECT_EQ(ZoomAfter(0.75), Zoom500);
+  EXPECT_EQ(ZoomAfter(-0.75), Zoom500);
+  EXPECT_EQ(ZoomAfter(0.75), Zoom500);
+  EXPECT_EQ(ZoomAfter(0.25), Zoom200);
+}
+
+TEST_F(Scrolling, SeveralWheelStepsAtOnceCountOnce) {
+  Show("one", Zoom500);
+  EXPECT_EQ(ZoomAfter(2.5), Zoom100);
+  EXPECT_EQ(ZoomAfter(0.25), Zoom100);
+  EXPECT_EQ(ZoomAfter(0.25), Zoom75);
+  // What goes beyond the last zoom is spent.
+  EXPECT_EQ(ZoomAfter(40), Zoom50);
+  EXPECT_EQ(ZoomAfter(-1), Zoom75);
+  EXPECT_EQ(ZoomAfter(-40), Zoom500);
+  EXPECT_EQ(ZoomAfter(1), Zoom200);
+}
+
+TEST_F(Scrolling, PartsTurnedWithoutZoomingDoNotCount) {
+  Show("one");
+  EXPECT_EQ(ZoomAfter(-0.75), Zoom100);
+  SendFineWheel(-0.5);
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom100);
+  PtrnType = TypeRectangle;
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom100);
+  PtrnType = 0;
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom100);
+  EXPECT_EQ(ZoomAfter(-0.5), Zoom200);
 }
 
 TEST_F(Scrolling, WithoutALayoutKeysAndWheelDoNothing) {

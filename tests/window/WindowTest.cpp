@@ -140,6 +140,14 @@ void SendWheel(GdkScrollDirection direction, gint x, gint y, GdkModifierType hel
   gtk_main_do_event(event.get());
 }
 
+void SendFineWheel(gdouble steps, GdkModifierType held) {
+  const EventPtr event = NewCanvasEvent(GDK_SCROLL);
+  event->scroll.direction = GDK_SCROLL_SMOOTH;
+  event->scroll.delta_y = steps;
+  event->scroll.state = held;
+  gtk_main_do_event(event.get());
+}
+
 void Drag(gint x1, gint y1, gint x2, gint y2) {
   SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, x1, y1);
   SendMotion(x2, y2);

@@ -39,6 +39,8 @@ void SendButton(GdkEventType type, guint button, gint x, gint y);
 void SendMotion(gint x, gint y);
 // One step of the wheel.
 void SendWheel(GdkScrollDirection direction, gint x, gint y, GdkModifierType held = {});
+// A part of a step, or several at once, as a fine wheel sends them; upwards negative.
+void SendFineWheel(gdouble steps, GdkModifierType held = {});
 // Presses button 1 at one point, moves, and lets go at another.
 void Drag(gint x1, gint y1, gint x2, gint y2);
 // A key of the main window.
