@@ -77,15 +77,16 @@ void Show(cairo_t* cairo, Drawable& surface) {
   cairo_paint(cairo);
 }
 
-// Grid and overlay are drawn in zoomed pixels, only where they are looked at.
+// Grid and overlay are drawn in zoomed pixels, only where they are looked at. The grid's lines
+// reach one pixel past the layout; the ground beside it covers that.
 void ShowLayout(cairo_t* cairo, gint x, gint y, gint width, gint height) {
   Drawable view(width, height, x, y);
   DrawGc gc;
   const SIZE shown = PtrnPixmap && PtrnPixmap->Valid() ? PtrnDraw_Size2 : SIZE{0, 0};
-  FillPixels(&view, shown.cx, y, x + width - shown.cx, height, DeskColour);
-  FillPixels(&view, x, shown.cy, width, y + height - shown.cy, DeskColour);
   if (shown.cx > 0) PaintZoomed(view, *PtrnPixmap, shown.cx, shown.cy);
   DrawGridData(&view, &gc);
+  FillPixels(&view, shown.cx, y, x + width - shown.cx, height, DeskColour);
+  FillPixels(&view, x, shown.cy, width, y + height - shown.cy, DeskColour);
   DrawWindow2(&view, &gc);
   Show(cairo, view);
 }

@@ -127,6 +127,23 @@ TEST_F(Canvas, ShowsTheLayoutAtEveryZoomWithAndWithoutGrid) {
     }
 }
 
+TEST_F(Canvas, TheGridEndsWhereTheLayoutDoes) {
+  OpenWindow();
+  PtrnHedr.Parm2[ViewSlot::GridShown] = 1;
+  PtrnHedr.Parm2[ViewSlot::GridX] = 5;  // 10 dots
+  PtrnHedr.Parm2[ViewSlot::GridY] = 7;  // 16 dots
+  for (gint zoom = Zoom500; zoom <= Zoom50; zoom++) {
+    ShowLayout(110, 90, zoom);
+    const PixbufPtr shot = CanvasShot();
+    const gint right = 110 * ZoomFactorData[zoom] / 100;
+    const gint bottom = 90 * ZoomFactorData[zoom] / 100;
+    for (gint x = 0; x < right + 5; x++)
+      ASSERT_EQ(PixelAt(shot.get(), x, bottom), 0xd6d6d6u) << x << " zoom " << zoom;
+    for (gint y = 0; y < bottom + 5; y++)
+      ASSERT_EQ(PixelAt(shot.get(), right, y), 0xd6d6d6u) << y << " zoom " << zoom;
+  }
+}
+
 TEST_F(Canvas, ScrollingShowsTheSamePicture) {
   OpenWindow();
   IntPtrnData();
