@@ -80,7 +80,11 @@ void InitVarnixMaster() {
 }
 
 gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
-  if (ToolBox != nullptr) return TRUE;
+  if (ToolBox != nullptr) {
+    // What keeps the window open shows itself.
+    gtk_window_present(GTK_WINDOW(ToolBox));
+    return TRUE;
+  }
   return SavePtrnData() == 1 ? FALSE : TRUE;
 }
 

@@ -168,6 +168,33 @@ TEST_F(MainWindow, AnOpenToolBoxRefusesTheClose) {
   EXPECT_EQ(Delete_Event(PtrnWnd, nullptr, nullptr), TRUE);
 }
 
+TEST_F(MainWindow, ARefusedCloseRaisesTheToolBox) {
+  OpenWindow();
+  ShowLayout(400, 300, 2);
+  PtrnType = TypeRectangle;
+  DispToolBox(0, TypeRectangle);
+  ASSERT_TRUE(WaitFor([] { return gtk_window_is_active(GTK_WINDOW(PtrnWnd)) != FALSE; }));
+  CloseByManager();
+  EXPECT_TRUE(WaitFor([] { return gtk_window_is_active(GTK_WINDOW(ToolBox)) != FALSE; }));
+  EXPECT_EQ(PtrnType, TypeRectangle);
+}
+
+TEST_F(MainWindow, ARefusedCloseBringsAMinimisedToolBoxBack) {
+  OpenWindow();
+  ShowLayout(400, 300, 2);
+  PtrnType = TypeRectangle;
+  DispToolBox(0, TypeRectangle);
+  const auto minimised = [] {
+    GdkWindow* panel = gtk_widget_get_window(ToolBox);
+    return (gdk_window_get_state(panel) & GDK_WINDOW_STATE_ICONIFIED) != 0;
+  };
+  ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
+  gtk_window_iconify(GTK_WINDOW(ToolBox));
+  ASSERT_TRUE(WaitFor(minimised));
+  CloseByManager();
+  EXPECT_TRUE(WaitFor([&] { return !minimised(); }));
+}
+
 TEST_F(MainWindow, DestroyingItTakesTheToolBoxAlong) {
   OpenWindow();
   ShowLayout(400, 300, 2);
