@@ -1,6 +1,7 @@
 #include "CanvasEvents.h"
 
 #include "CanvasKeys.h"
+#include "PopupKeys.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
@@ -60,4 +61,5 @@ void ConnectCanvas(GtkWidget* canvas) {
   g_signal_connect(canvas, "button-press-event", G_CALLBACK(CanvasPress), nullptr);
   g_signal_connect(canvas, "button-release-event", G_CALLBACK(CanvasRelease), nullptr);
   g_signal_connect(canvas, "motion-notify-event", G_CALLBACK(PtrnDraw_Motion), nullptr);
+  g_signal_connect(canvas, "popup-menu", G_CALLBACK(OpenMenuByKey), nullptr);
 }

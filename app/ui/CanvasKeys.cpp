@@ -1,31 +1,35 @@
 #include "CanvasKeys.h"
 
+#include "AreaMenu.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
 
 namespace {
 // Button codes of the tool box and of the area menu.
-enum { ItemDelete = 1, ItemCancel = 2 };
-enum { AreaCancel = 0, AreaDelete = 1 };
+enum { ItemRegister = 0, ItemDelete = 1, ItemCancel = 2 };
+constexpr gint AreaDelete = 1;
 
 bool ItemInHand() {
   return PtrnType != 0 && PtrnMode == ModeSelected;
 }
 
+// Runs a command on the item in hand where its menu entry could.
+gboolean ItemCommand(gint command) {
+  GtkWidget* entry = ToolBoxMenu[command];
+  if (!ItemInHand() || entry == nullptr || !gtk_widget_get_sensitive(entry)) return FALSE;
+  ToolBoxButn(nullptr, GINT_TO_POINTER(command));
+  return TRUE;
+}
+
 gboolean DeleteKey() {
-  if (PtrnMode == ModeArea) {
-    AreaBoxButn(nullptr, GINT_TO_POINTER(AreaDelete));
-    return TRUE;
-  }
-  const bool stored = ToolBoxMenu[ItemDelete] && gtk_widget_get_sensitive(ToolBoxMenu[ItemDelete]);
-  if (!ItemInHand() || !stored) return FALSE;
-  ToolBoxButn(nullptr, GINT_TO_POINTER(ItemDelete));
+  if (PtrnMode != ModeArea) return ItemCommand(ItemDelete);
+  AreaBoxButn(nullptr, GINT_TO_POINTER(AreaDelete));
   return TRUE;
 }
 
 gboolean EscapeKey() {
   if (PtrnMode == ModeArea)
-    AreaBoxButn(nullptr, GINT_TO_POINTER(AreaCancel));
+    GiveUpArea();
   else if (PtrnMode != ModeIdle)
     ToolBoxButn(nullptr, GINT_TO_POINTER(ItemCancel));
   else if (PtrnType != 0)
@@ -57,7 +61,17 @@ gboolean MoveKey(guint key) {
 
 gboolean CanvasKey(GtkWidget*, GdkEventKey* event, gpointer) {
   if (PtrnFlag == 0 || (event->state & gtk_accelerator_get_default_mod_mask()) != 0) return FALSE;
-  if (event->keyval == GDK_KEY_Delete || event->keyval == GDK_KEY_KP_Delete) return DeleteKey();
-  if (event->keyval == GDK_KEY_Escape) return EscapeKey();
-  return MoveKey(event->keyval);
+  switch (event->keyval) {
+    case GDK_KEY_Delete:
+    case GDK_KEY_KP_Delete:
+      return DeleteKey();
+    case GDK_KEY_Escape:
+      return EscapeKey();
+    case GDK_KEY_Return:
+    case GDK_KEY_KP_Enter:
+    case GDK_KEY_ISO_Enter:
+      return ItemCommand(ItemRegister);
+    default:
+      return MoveKey(event->keyval);
+  }
 }

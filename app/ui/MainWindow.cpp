@@ -89,6 +89,7 @@ gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
 }
 
 void Destroy_Event(GtkWidget*, gpointer) {
+  LeavePopupMenus();
   if (ToolBox != nullptr) gtk_widget_destroy(ToolBox);
   if (MainLoop != nullptr) g_main_loop_quit(MainLoop);
 }

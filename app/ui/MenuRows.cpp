@@ -27,6 +27,10 @@ void FinishEntry(GtkWidget* entry, const MenuRow& row, GtkAccelGroup* keys) {
   GdkModifierType modifiers{};
   gtk_accelerator_parse(row.Key, &key, &modifiers);
   gtk_widget_add_accelerator(entry, "activate", keys, key, modifiers, GTK_ACCEL_VISIBLE);
+  // The number pad's is the same key to the user.
+  if (key == GDK_KEY_Delete)
+    gtk_widget_add_accelerator(entry, "activate", keys, GDK_KEY_KP_Delete, modifiers,
+                               GtkAccelFlags{});
 }
 }  // namespace
 

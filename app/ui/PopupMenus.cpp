@@ -1,8 +1,10 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "AreaMenu.h"
 #include "Holders.h"
 #include "MenuRows.h"
+#include "PopupKeys.h"
 #include "PtrnData.h"
 
 namespace {
@@ -33,9 +35,11 @@ constexpr MenuRow ItemRows[] = {
 };
 
 constexpr MenuRow AreaRows[] = {
-    Item(" 取消 ", AreaBoxButn, 0, nullptr, "Escape"), Separator,
-    Item(" 削除 ", AreaBoxButn, 1, nullptr, "Delete"), Item(" 移動 ", AreaBoxButn, 2, nullptr),
-    Item(" 複写 ", AreaBoxButn, 3, nullptr),
+    Item(" 取消 ", ChooseAreaCommand, 0, nullptr, "Escape"),
+    Separator,
+    Item(" 削除 ", ChooseAreaCommand, 1, nullptr, "Delete"),
+    Item(" 移動 ", ChooseAreaCommand, 2, nullptr),
+    Item(" 複写 ", ChooseAreaCommand, 3, nullptr),
 };
 
 constexpr std::span<const MenuRow> Menus[] = {ViewRows, ItemRows, AreaRows};
@@ -47,6 +51,14 @@ bool IsPress(const GdkEvent* event, guint button) {
 gboolean Open(GtkWidget* menu, const GdkEvent* event) {
   gtk_menu_popup_at_pointer(GTK_MENU(menu), event);
   return TRUE;
+}
+
+bool ViewMenuBelongs() {
+  return PtrnFlag != 0 && (PtrnType == 0 || PtrnMode == ModeIdle);
+}
+
+bool ItemMenuBelongs() {
+  return PtrnFlag != 0 && PtrnType != 0 && PtrnMode == ModeSelected;
 }
 
 bool AreaExceedsGrid() {
@@ -61,29 +73,48 @@ void CreatePopupMenu(GtkWidget* canvas) {
   for (gsize i = 0; i < std::size(Menus); i++) {
     GtkWidget* menu = gtk_menu_new();
     KeepWidget(&PopupMenu[i], menu);
-    // These keys are only shown; the main menu and the window's own key handler act on them.
-    BuildMenu(menu, Menus[i], NewKeys(menu));
+    GtkAccelGroup* keys = NewKeys(menu);
+    BuildMenu(menu, Menus[i], keys);
+    // Elsewhere the main menu and the window's own key handler act on them.
+    UseKeysIn(menu, keys);
+    GiveUpAreaWith(menu);
     gtk_menu_attach_to_widget(GTK_MENU(menu), canvas, nullptr);
   }
 }
 
+void LeavePopupMenus() {
+  for (GtkWidget* menu : PopupMenu)
+    if (menu != nullptr && gtk_widget_get_visible(menu))
+      gtk_menu_shell_cancel(GTK_MENU_SHELL(menu));
+}
+
 gboolean EventPopupMenu1(GtkWidget* menu, GdkEvent* event) {
   if (!IsPress(event, GDK_BUTTON_SECONDARY)) return FALSE;
-  if (PtrnFlag == 0 || (PtrnType != 0 && PtrnMode != ModeIdle)) return FALSE;
-  return Open(menu, event);
+  return ViewMenuBelongs() ? Open(menu, event) : FALSE;
 }
 
 gboolean EventPopupMenu2(GtkWidget* menu, GdkEvent* event) {
   if (!IsPress(event, GDK_BUTTON_SECONDARY)) return FALSE;
-  if (PtrnFlag == 0 || PtrnType == 0 || PtrnMode != ModeSelected) return FALSE;
-  return Open(menu, event);
+  return ItemMenuBelongs() ? Open(menu, event) : FALSE;
 }
 
 gboolean EventPopupMenu3(GtkWidget* menu, GdkEvent* event) {
   if (event->type != GDK_BUTTON_RELEASE || event->button.button != GDK_BUTTON_PRIMARY) return FALSE;
   if (PtrnFlag == 0 || PtrnMode != ModeArea) return FALSE;
-  if (AreaExceedsGrid()) return Open(menu, event);
+  if (AreaExceedsGrid()) {
+    Open(menu, event);
+    if (gtk_widget_get_visible(menu)) return TRUE;
+    // Another program holds the pointer.
+    GiveUpArea();
+    return FALSE;
+  }
   PtrnMode = ModeIdle;
   DrawRequest(0);
   return FALSE;
+}
+
+GtkWidget* PopupMenuOfState() {
+  if (PtrnFlag != 0 && PtrnMode == ModeArea) return AreaExceedsGrid() ? PopupMenu[2] : nullptr;
+  if (ItemMenuBelongs()) return PopupMenu[1];
+  return ViewMenuBelongs() ? PopupMenu[0] : nullptr;
 }

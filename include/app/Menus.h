@@ -36,6 +36,8 @@ GtkWidget* CreateMainMenu();
 GtkAccelGroup* MainMenuKeys();
 // Builds the pop-up menus and attaches them to the canvas.
 void CreatePopupMenu(GtkWidget* canvas);
+// Closes whichever is open, without a choice.
+void LeavePopupMenus();
 // Pop-up menus 1 to 3 of the canvas.
 extern GtkWidget* PopupMenu[3];
 
@@ -44,3 +46,5 @@ extern GtkWidget* PopupMenu[3];
 gboolean EventPopupMenu1(GtkWidget* menu, GdkEvent* event);
 gboolean EventPopupMenu2(GtkWidget* menu, GdkEvent* event);
 gboolean EventPopupMenu3(GtkWidget* menu, GdkEvent* event);
+// The one that belongs to the editing state, null = none does.
+GtkWidget* PopupMenuOfState();

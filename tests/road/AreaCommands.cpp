@@ -1,9 +1,14 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
+#include "app/Window.h"
 #include "road/RoadTest.h"
 
 namespace {
 using nlohmann::json;
+
+bool MenuOpen() {
+  return gtk_widget_get_mapped(PopupMenu[2]) != FALSE;
+}
 
 // A layout with a grid of 8 x 8 dots; two items lie in the area (80, 80) - (300, 240), one reaches
 // out of it.
@@ -25,7 +30,7 @@ class AreaCommands : public RoadTest {
 
   static void SpanArea() {
     DragOnCanvas(300, 240, 80, 80);
-    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) != FALSE; }));
+    EXPECT_TRUE(See(MenuOpen));
   }
 
   // The corners of all items as they are saved, in store order.
@@ -41,20 +46,16 @@ class AreaCommands : public RoadTest {
   }
 };
 
-bool MenuOpen() {
-  return Look([] { return gtk_widget_get_mapped(PopupMenu[2]) != FALSE; });
-}
-
 TEST_F(AreaCommands, AnAreaOfAGridStepOrLessIsDropped) {
   PlayWithItems([] {
     for (const POINT to : {POINT{28, 28}, POINT{28, 90}, POINT{90, 28}}) {
       DragOnCanvas(20, 20, to.x, to.y);
       Settle();
-      EXPECT_FALSE(MenuOpen()) << to.x << ", " << to.y;
+      EXPECT_FALSE(Look(MenuOpen)) << to.x << ", " << to.y;
       EXPECT_EQ(Look([] { return PtrnMode; }), ModeIdle);
     }
     DragOnCanvas(20, 20, 29, 29);
-    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) != FALSE; }));
+    EXPECT_TRUE(See(MenuOpen));
     ChooseMenu(PopupMenu[2], {" 取消 "});
     EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
   });
@@ -103,7 +104,7 @@ TEST_F(AreaCommands, AnAreaLetGoOutsideTakesWhatLiesInside) {
   PlayWithItems([this] {
     // The last point inside the layout is (420, 240), half way.
     DragOnCanvas(180, 80, 660, 400);
-    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) != FALSE; }));
+    EXPECT_TRUE(See(MenuOpen));
     ChooseMenu(PopupMenu[2], {" 移動 "});
     const Panel dialog("描画情報移動");
     dialog.Enter(Cell{"Ｘ方向ドット数"}, 8);
@@ -115,19 +116,31 @@ TEST_F(AreaCommands, AnAreaLetGoOutsideTakesWhatLiesInside) {
   });
 }
 
-TEST_F(AreaCommands, KeysCancelAndDeleteWhileTheAreaStands) {
+TEST_F(AreaCommands, KeysCancelAndDeleteInTheMenu) {
   PlayWithItems([] {
     SpanArea();
-    PressKey(GDK_KEY_Escape);  // closes the menu; the area stays
-    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) == FALSE; }));
-    EXPECT_EQ(Look([] { return PtrnMode; }), ModeArea);
     PressKey(GDK_KEY_Escape);
-    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle; }));
+    EXPECT_TRUE(See([] { return !MenuOpen() && PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Look([] { return GetPtrnCount(); }), 3);
     SpanArea();
-    PressKey(GDK_KEY_Escape);
-    EXPECT_TRUE(See([] { return gtk_widget_get_mapped(PopupMenu[2]) == FALSE; }));
     PressKey(GDK_KEY_Delete);
-    EXPECT_TRUE(See([] { return GetPtrnCount() == 1 && PtrnMode == ModeIdle; }));
+    EXPECT_TRUE(See([] { return !MenuOpen() && PtrnMode == ModeIdle; }));
+    EXPECT_EQ(Look([] { return GetPtrnCount(); }), 1);
+  });
+}
+
+TEST_F(AreaCommands, AClickElsewhereGivesTheAreaUp) {
+  PlayWithItems([] {
+    for (const Button button : {LeftButton, RightButton}) {
+      SpanArea();
+      // The same click does nothing else.
+      ClickCanvas(600, 400, button);
+      EXPECT_TRUE(See([] { return !MenuOpen() && PtrnMode == ModeIdle; }));
+      DragTo(PtrnDraw, 500, 300);
+      EXPECT_EQ(Look([] { return PtrnMode; }), ModeIdle);
+      EXPECT_EQ(Look([] { return gint{AreaPoint2.x}; }), 80);
+      EXPECT_EQ(Look([] { return GetPtrnCount(); }), 3);
+    }
   });
 }
 

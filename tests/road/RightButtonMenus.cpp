@@ -92,4 +92,55 @@ TEST_F(RightButtonMenus, ANumberJustTypedIsRegistered) {
     EXPECT_EQ(Saved(LayoutName)["Items"][0]["Parm"][15], 7);
   });
 }
+// Where a menu stands on the screen, from where the canvas does.
+POINT PlaceOf(GtkWidget* menu) {
+  POINT canvas{0, 0};
+  POINT place{0, 0};
+  gdk_window_get_origin(gtk_widget_get_window(PtrnDraw), &canvas.x, &canvas.y);
+  gdk_window_get_origin(gtk_widget_get_window(menu), &place.x, &place.y);
+  return {place.x - canvas.x, place.y - canvas.y};
+}
+
+// The key opens the menu there or some dots beside, as the theme frames it.
+void ExpectMenuAt(gint no, gint x, gint y) {
+  constexpr gint Frame = 12;
+  PressKey(GDK_KEY_F10, {GDK_KEY_Shift_L});
+  EXPECT_TRUE(See([no] { return gtk_widget_get_mapped(PopupMenu[no]) != FALSE; }));
+  const POINT place = Look([no] { return PlaceOf(PopupMenu[no]); });
+  EXPECT_NEAR(place.x, x, Frame);
+  EXPECT_NEAR(place.y, y, Frame);
+  PressKey(GDK_KEY_Escape);
+  EXPECT_EQ(OpenMenu(), 0);
+}
+
+TEST_F(RightButtonMenus, AKeyOpensThemAtThePointerOrWhereTheWorkIs) {
+  Play([this] {
+    NewLayout(640, 480);
+    Look([] {
+      const PTRNDATA box = BoxItem(200, 120, 320, 200, 8);
+      AddPtrnData(&box);
+      DrawRequest(1);
+    });
+    Settle();
+    PointAt(PtrnDraw, 410, 90);
+    ExpectMenuAt(0, 410, 90);
+    PointAway();
+    ExpectMenuAt(0, 0, 0);
+    ClickCanvas(230, 120);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeSelected; }));
+    ExpectMenuAt(1, 230, 120);
+    PointAway();
+    ExpectMenuAt(1, 200, 200);
+    PressKey(GDK_KEY_Return);
+    EXPECT_TRUE(See([] { return PtrnMode == ModeIdle && PtrnFlag == 2; }));
+    PressKey(GDK_KEY_Escape);
+    Look([] {
+      PtrnMode = ModeArea;
+      AreaPoint1 = {300, 240};
+      AreaPoint2 = {80, 80};
+    });
+    ExpectMenuAt(2, 80, 240);
+    EXPECT_EQ(Look([] { return PtrnMode; }), ModeIdle);
+  });
+}
 }  // namespace

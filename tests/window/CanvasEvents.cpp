@@ -155,6 +155,34 @@ TEST_F(CanvasEvents, EscapeGivesUpStepByStep) {
   EXPECT_EQ(ToolBox, nullptr);
 }
 
+TEST_F(CanvasEvents, ReturnRegistersTheItemInHand) {
+  gint x = 200;
+  for (const guint key : {GDK_KEY_Return, GDK_KEY_KP_Enter, GDK_KEY_ISO_Enter}) {
+    const gint before = GetPtrnCount();
+    DispToolBox(0, TypeRectangle);
+    PtrnType = TypeRectangle;
+    Drag(x, 200, x + 40, 250);
+    x += 60;
+    PtrnData.Parm[ShapeSlot::Filled] = 1;
+    SendKey(key);
+    EXPECT_EQ(GetPtrnCount(), before + 1);
+    EXPECT_EQ(PtrnMode, ModeIdle);
+    SendKey(GDK_KEY_Escape);
+  }
+}
+
+TEST_F(CanvasEvents, ReturnWithNothingInHandDoesNothing) {
+  SendKey(GDK_KEY_Return);
+  DispToolBox(0, TypeRectangle);
+  PtrnType = TypeRectangle;
+  SendKey(GDK_KEY_Return);
+  SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_PRIMARY, 200, 200);
+  SendKey(GDK_KEY_Return);
+  EXPECT_EQ(PtrnMode, ModeCreating);
+  EXPECT_EQ(GetPtrnCount(), 1);
+  EXPECT_EQ(PtrnFlag, 1);
+}
+
 TEST_F(CanvasEvents, KeysActOnTheArea) {
   PtrnMode = ModeArea;
   AreaPoint1 = {90, 90};
