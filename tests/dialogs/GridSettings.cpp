@@ -98,7 +98,8 @@ TEST_F(GridSettings, TheNewGridShowsAtOnce) {
   });
   PtrnGridSet(nullptr, nullptr);
   EXPECT_EQ(before, 0xF0F0E0U);
-  EXPECT_EQ(PixelAt(CanvasShot().get(), 12, 12), 0xC01030U);
+  // The window manager takes its time to take the dialog away from over it.
+  EXPECT_TRUE(WaitFor([] { return PixelAt(CanvasShot().get(), 12, 12) == 0xC01030U; }));
 }
 
 TEST_F(GridSettings, CancelAndCloseChangeNothing) {

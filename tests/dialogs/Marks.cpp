@@ -485,7 +485,8 @@ TEST_F(Marks, TheOpenLayoutShowsNewMarksAtOnce) {
     PressButton(" 設定 ")(settings);
   });
   EditMarkData(nullptr, nullptr);
-  EXPECT_EQ(PixelAt(CanvasShot().get(), 40 + 4, 40 + 5), 0xF0F0E0U);
+  // The window manager takes its time to take the dialog away from over it.
+  EXPECT_TRUE(WaitFor([] { return PixelAt(CanvasShot().get(), 40 + 4, 40 + 5) == 0xF0F0E0U; }));
   EXPECT_EQ(PixelAt(CanvasShot().get(), 40 + 5, 40 + 5), 0xC01030U);
   EXPECT_EQ(PtrnFlag, 1);
 }

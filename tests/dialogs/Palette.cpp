@@ -232,7 +232,8 @@ TEST_F(Palette, TheOpenLayoutShowsANewPaletteAtOnce) {
     PressButton(" 設定 ")(editor);
   });
   EditColrData(nullptr, nullptr);
-  EXPECT_EQ(PixelAt(CanvasShot().get(), 100, 100), 0x123456U);
+  // The window manager takes its time to take the editor away from over it.
+  EXPECT_TRUE(WaitFor([] { return PixelAt(CanvasShot().get(), 100, 100) == 0x123456U; }));
   EXPECT_EQ(PtrnFlag, 1);
 }
 
