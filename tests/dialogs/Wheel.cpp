@@ -47,6 +47,8 @@ class Wheel : public WindowTest {
     ASSERT_NE(Process, nullptr);
     Place = ScrollPlace(Digits);
     ASSERT_NE(Place, nullptr);
+    // A panel begins at its first field.
+    gtk_window_set_focus(GTK_WINDOW(ToolBox), nullptr);
   }
   // How far the panel scrolls for one step down over a control.
   double Scrolled(GtkWidget* over) const {
