@@ -80,7 +80,7 @@ class Accessibility : public testing::Test {
     PressKeys({"ctrl+o"});
     EXPECT_TRUE(WaitForTitle("レイアウトを開く"));
     Read("レイアウトを開く");
-    PressKeys({"Tab", "space", "Tab", "Tab", "Tab", "space"});
+    OpenFirstOfList();
     std::string title;
     EXPECT_TRUE(WaitFor([&title] {
       title = XDoTool({"getactivewindow", "getwindowname"});

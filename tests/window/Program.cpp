@@ -112,3 +112,8 @@ bool WaitForTitle(const std::string& title) {
 void PressKeys(const std::vector<std::string>& keys) {
   for (const std::string& key : keys) XDoTool({"key", key});
 }
+
+void OpenFirstOfList() {
+  // The row, and the third button after the list.
+  PressKeys({"space", "Tab", "Tab", "Tab", "space"});
+}

@@ -55,3 +55,5 @@ std::string XDoTool(const std::vector<std::string>& arguments);
 bool WaitForTitle(const std::string& title);
 // Presses keys one after the other, in the notation of xdotool.
 void PressKeys(const std::vector<std::string>& keys);
+// Opens the first layout of the list in the dialog that has just come up and begins on its list.
+void OpenFirstOfList();

@@ -98,8 +98,7 @@ class RealProgram : public WindowTest {
   void OpenOnlyLayout() {
     PressKeys({"ctrl+o"});
     ASSERT_TRUE(WaitForTitle("レイアウトを開く"));
-    // From the cancel button on to the list, its row, and the third button after it.
-    PressKeys({"Tab", "space", "Tab", "Tab", "Tab", "space"});
+    OpenFirstOfList();
   }
 
   ProgramFolder Folder;

@@ -33,21 +33,21 @@ class TwoPrograms : public WindowTest {
     ASSERT_TRUE(program.Activate(ProjectTitle));
     PressKeys({"ctrl+o"});
     ASSERT_TRUE(program.Activate("レイアウトを開く"));
-    // From the cancel button on to the list, its row, and the third button after it.
-    PressKeys({"Tab", "space", "Tab", "Tab", "Tab", "space"});
+    OpenFirstOfList();
     ASSERT_TRUE(program.Activate(OpenTitle(name)));
     fs::rename(file, Kept / file.filename());
   }
   static std::string OpenTitle(const std::string& name) {
     return "レイアウト作成  \\[WaterWorks / " + name + "\\]";
   }
-  // Types a number into the first control of the layout settings.
-  static void SetFirstNumber(const RunningProgram& program, const std::string& name,
+  // Types a number into the height of the title area, two controls before the title, where the
+  // layout settings begin.
+  static void SetTitleHeight(const RunningProgram& program, const std::string& name,
                              const gchar* settings, const std::vector<std::string>& digits) {
     ASSERT_TRUE(program.Activate(OpenTitle(name)));
     PressKeys({"ctrl+i"});
     ASSERT_TRUE(program.Activate(settings));
-    PressKeys({"ctrl+a"});
+    PressKeys({"shift+Tab", "shift+Tab", "ctrl+a"});
     PressKeys(digits);
     PressKeys({"Return"});
     ASSERT_TRUE(program.Activate(OpenTitle(name)));
@@ -76,13 +76,13 @@ TEST_F(TwoPrograms, KeepTheirStepsBackAndTheProfileApart) {
   Open(first, "全体監視");
   Open(second, "終了確認");
 
-  SetFirstNumber(first, "全体監視", ParentTitle, {"3", "3"});
-  SetFirstNumber(second, "終了確認", ChildTitle, {"4", "1", "1"});
-  SetFirstNumber(first, "全体監視", ParentTitle, {"3", "4"});
+  SetTitleHeight(first, "全体監視", ParentTitle, {"3", "3"});
+  SetTitleHeight(second, "終了確認", ChildTitle, {"4", "1"});
+  SetTitleHeight(first, "全体監視", ParentTitle, {"3", "4"});
   ASSERT_TRUE(WaitFor([&] { return fs::exists(Slot(first, 1)); }));
   EXPECT_EQ(+Header(Slot(first, 0)).Parm1[8], 40);
   EXPECT_EQ(+Header(Slot(first, 1)).Parm1[8], 33);
-  EXPECT_EQ(+Header(Slot(second, 0)).Parm1[1], 460);
+  EXPECT_EQ(+Header(Slot(second, 0)).Parm1[8], 32);
   EXPECT_FALSE(fs::exists(Slot(second, 1)));
 
   // Saving ends the second's steps back, and only those.
@@ -90,7 +90,7 @@ TEST_F(TwoPrograms, KeepTheirStepsBackAndTheProfileApart) {
   PressKeys({"ctrl+s"});
   ASSERT_TRUE(WaitFor([&] { return fs::exists(LayoutFile("終了確認")); }));
   ASSERT_TRUE(WaitFor([&] { return !fs::exists(Slot(second, 0)); }));
-  EXPECT_EQ(+Header(LayoutFile("終了確認")).Parm1[1], 411);
+  EXPECT_EQ(+Header(LayoutFile("終了確認")).Parm1[8], 41);
   EXPECT_TRUE(fs::exists(Slot(first, 0)));
   EXPECT_TRUE(fs::exists(Slot(first, 1)));
 
