@@ -32,10 +32,24 @@ GtkAdjustment* NewAdjustment(const DLG_NUMRBOX& row) {
   return adjustment;
 }
 
+// The toolkit sets a number to its limit for Control with the page keys, by which the pages of a
+// dialog are turned: turning on would change the number that a page begins with.
+void LeavePageKeysToPages() {
+  static const bool left = [] {
+    auto* type = static_cast<GObjectClass*>(g_type_class_ref(GTK_TYPE_SPIN_BUTTON));
+    for (const guint key : {GDK_KEY_Page_Up, GDK_KEY_Page_Down})
+      gtk_binding_entry_skip(gtk_binding_set_by_class(type), key, GDK_CONTROL_MASK);
+    g_type_class_unref(type);
+    return true;
+  }();
+  static_cast<void>(left);
+}
+
 }  // namespace
 
 void Dlg_NumrBox(GtkWidget* parent, GtkWidget* table, DLG_NUMRBOX* rows) {
   Dlg_NumrBox_Parent = parent;
+  LeavePageKeysToPages();
   ForEachRow(rows, [table](DLG_NUMRBOX& row) {
     GtkAdjustment* adjustment = NewAdjustment(row);
     GtkWidget* spin = gtk_spin_button_new(adjustment, 0.0, 0);

@@ -218,6 +218,27 @@ TEST_F(Keyboard, TheProjectsSettingsBeginAtTheName) {
   EditName[0] = '\0';
 }
 
+TEST_F(Keyboard, TheKeysThatTurnPagesLeaveTheNumbersThere) {
+  EditData.Parm2[0] = 40;
+  EditData.Parm3[0] = 32;
+  const DialogAnswer answer("題名", [](GtkWidget* dialog) {
+    WaitForKeyboard(dialog);
+    auto* notebook = GTK_NOTEBOOK(FindKind(dialog, GTK_TYPE_NOTEBOOK));
+    for (gint page = 1; page < 4; page++) {
+      PressKey(dialog, GDK_KEY_Page_Down, GDK_CONTROL_MASK);
+      EXPECT_EQ(gtk_notebook_get_current_page(notebook), page);
+    }
+    for (gint page = 2; page >= 0; page--) {
+      PressKey(dialog, GDK_KEY_Page_Up, GDK_CONTROL_MASK);
+      EXPECT_EQ(gtk_notebook_get_current_page(notebook), page);
+    }
+    CloseByManager(dialog);
+  });
+  EXPECT_EQ(EditProjData(PtrnWnd, "題名"), 0);
+  EXPECT_EQ(EditData.Parm2[0], 40);
+  EXPECT_EQ(EditData.Parm3[0], 32);
+}
+
 TEST_F(Keyboard, TheSettingsOfALayoutBeginAtItsTitle) {
   constexpr const gchar* Titles[] = {"レイアウト情報の設定［親ウィンドウ］",
                                      "レイアウト情報の設定［子ウィンドウ］",
