@@ -172,6 +172,22 @@ TEST_F(ProjectCommandTest, ACancelledNewProjectChangesNothing) {
   EXPECT_THAT(Screen.Take(), ElementsAre(SettingsDialog));
 }
 
+TEST_F(ProjectCommandTest, ACancelledNewProjectBringsEveryColourAndMarkBack) {
+  for (gint no = 0; no < ColrCount; ++no) ColrData[no] = {no + 1, no + 2, no + 3};
+  for (MARKDATA& mark : MarkData) mark.mark[0] = 0x5A;
+  Screen.ProjectSettings = [] {
+    EXPECT_EQ(ColrData[ColrCount - 1].red, 0);
+    EXPECT_EQ(MarkData[MarkCount - 1].mark[0], 0);
+    return gint{Cancelled};
+  };
+  ProjDataNew(nullptr, nullptr);
+  for (gint no = 0; no < ColrCount; ++no) {
+    EXPECT_EQ(ColrData[no].red, no + 1);
+    EXPECT_EQ(ColrData[no].blue, no + 3);
+  }
+  for (gint no = 0; no < MarkCount; ++no) EXPECT_EQ(MarkData[no].mark[0], 0x5A) << no;
+}
+
 TEST_F(ProjectCommandTest, ACancelledNewProjectMakesNoFilesInTheOpenOne) {
   std::filesystem::remove(Folder.Path("project/PtrnColr"));
   std::filesystem::remove(Folder.Path("project/PtrnMark"));

@@ -210,6 +210,16 @@ TEST_F(SaveOverTest, ItemsThatAreReplacedByNoneAreKept) {
   EXPECT_EQ(Kept("Tanks"), Tanks);
 }
 
+TEST_F(SaveOverTest, ASingleItemThatIsReplacedByNoneIsKept) {
+  Store("Valve", 1);
+  PtrnDataExit();
+  const std::string valve = Folder.Read("project/Valve.ptn");
+  OpenLayout("Valve");
+  DeleteAll();
+  Save();
+  EXPECT_EQ(Kept("Valve"), valve);
+}
+
 TEST_F(SaveOverTest, NoItemsReplacedByNoneKeepNothing) {
   OpenLayout("Bare");
   Retitle("Bare");
@@ -227,6 +237,18 @@ TEST_F(SaveOverTest, WhatUndoEmptiedAfterASaveOutlivesTheNextSave) {
   PtrnEditBack(nullptr, nullptr);
   ASSERT_EQ(GetPtrnCount(), 0);
   Retitle("Tanks");
+  Save();
+  EXPECT_EQ(Kept("Tanks"), saved);
+}
+
+// What a save keeps counts for that save alone.
+TEST_F(SaveOverTest, ItemsThatAreReplacedByNoneAreKeptAfterASaveThatKeptAnotherLayout) {
+  NewLayout("Tanks");
+  AddLine();
+  Save();
+  ASSERT_EQ(Kept("Tanks"), Tanks);
+  const std::string saved = Folder.Read("project/Tanks.ptn");
+  DeleteAll();
   Save();
   EXPECT_EQ(Kept("Tanks"), saved);
 }
