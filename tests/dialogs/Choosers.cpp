@@ -326,6 +326,20 @@ TEST_F(Choosers, AShortenedPathKeepsTheBytesOfWhatIsLeft) {
             Home.Path(Nihon));
 }
 
+// Also where another folder shows the same name.
+TEST_F(Choosers, AShortenedPathStaysInTheFolderThatWasChosen) {
+  MakeFolder(std::string(Nihon) + "/sub");
+  EXPECT_EQ(Folder([this](GtkWidget* dialog) {
+              SelectFolder(dialog, {"日本", "sub"});
+              MakeFolder("日本");
+              GtkEditable* entry = GTK_EDITABLE(EntryOf(dialog));
+              const auto length = static_cast<gint>(gtk_entry_get_text_length(GTK_ENTRY(entry)));
+              gtk_editable_delete_text(entry, length - 4, length);
+              PressButton(" 選択 ")(dialog);
+            }),
+            Home.Path(Nihon));
+}
+
 TEST_F(Choosers, ATypedNameLeadsToTheFolderThatShowsIt) {
   MakeFolder(Nihon);
   EXPECT_EQ(Folder([](GtkWidget* dialog) {
@@ -389,6 +403,20 @@ TEST_F(Choosers, ANameThatShowsLongerThanTheEntryIsChosenWhole) {
             Home.Path(odd));
 }
 
+// All of it is chosen, so there is nothing to complain of.
+TEST_F(Choosers, ANameThatShowsLongerThanTheEntryIsNotMarked) {
+  MakeFolder(std::string(100, '\xFF'));
+  Folder([](GtkWidget* dialog) {
+    std::string shown;
+    for (gint count = 0; count < 100; count++) shown += "\\xFF";
+    SelectFolder(dialog, {shown});
+    GtkEntry* entry = GTK_ENTRY(EntryOf(dialog));
+    EXPECT_EQ(gtk_entry_get_text_length(entry), 256);
+    EXPECT_EQ(gtk_entry_get_icon_name(entry, GTK_ENTRY_ICON_SECONDARY), nullptr);
+    CloseByManager(dialog);
+  });
+}
+
 TEST_F(Choosers, ThePathSaysWhenItTakesNoMore) {
   Folder([](GtkWidget* dialog) {
     GtkWidget* entry = EntryOf(dialog);
@@ -446,6 +474,44 @@ TEST_F(Choosers, RightOpensAFolderAndGoesIntoItLeftGoesOutAndCloses) {
     EXPECT_EQ(after(GDK_KEY_Left), "0");
     EXPECT_EQ(after(GDK_KEY_Left), "0");
     EXPECT_EQ(after(GDK_KEY_Right), "0 open");
+    CloseByManager(dialog);
+  });
+}
+
+// Its rows beyond the first hundred are looked into once they are painted, which a key may precede.
+TEST_F(Choosers, RightOpensAFolderThatIsNotYetPainted) {
+  for (gint no = 0; no < 150; no++) MakeFolder("f" + std::to_string(no) + "/below");
+  Folder([](GtkWidget* dialog) {
+    GtkTreeView* tree = GTK_TREE_VIEW(TreeOf(dialog));
+    gtk_window_present(GTK_WINDOW(dialog));
+    gtk_widget_grab_focus(GTK_WIDGET(tree));
+    ASSERT_TRUE(WaitFor([tree] { return gtk_widget_has_focus(GTK_WIDGET(tree)) != FALSE; }));
+    GtkTreePath* last = gtk_tree_path_new_from_string("0:149");
+    gtk_tree_view_set_cursor(tree, last, nullptr, FALSE);
+    PressKey(dialog, GDK_KEY_Right);
+    EXPECT_TRUE(gtk_tree_view_row_expanded(tree, last));
+    gtk_tree_path_free(last);
+    CloseByManager(dialog);
+  });
+}
+
+TEST_F(Choosers, ArrowsWithAnotherKeyHeldNeitherOpenNorClose) {
+  MakeFolder("a/b");
+  Folder([](GtkWidget* dialog) {
+    GtkTreeView* tree = GTK_TREE_VIEW(TreeOf(dialog));
+    gtk_window_present(GTK_WINDOW(dialog));
+    gtk_widget_grab_focus(GTK_WIDGET(tree));
+    ASSERT_TRUE(WaitFor([tree] { return gtk_widget_has_focus(GTK_WIDGET(tree)) != FALSE; }));
+    GtkTreePath* home = gtk_tree_path_new_from_string("0");
+    GtkTreePath* folder = gtk_tree_path_new_from_string("0:0");
+    gtk_tree_view_set_cursor(tree, folder, nullptr, FALSE);
+    PressKey(dialog, GDK_KEY_Right, GDK_CONTROL_MASK);
+    EXPECT_FALSE(gtk_tree_view_row_expanded(tree, folder));
+    gtk_tree_view_set_cursor(tree, home, nullptr, FALSE);
+    PressKey(dialog, GDK_KEY_Left, GDK_CONTROL_MASK);
+    EXPECT_TRUE(gtk_tree_view_row_expanded(tree, home));
+    gtk_tree_path_free(home);
+    gtk_tree_path_free(folder);
     CloseByManager(dialog);
   });
 }

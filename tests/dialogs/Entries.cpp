@@ -215,6 +215,19 @@ TEST_F(Entries, ADraggedTextStaysWhereItWasUnlessAllOfItWentIn) {
   EXPECT_STREQ(Field, "23401");
 }
 
+TEST_F(Entries, ATextThatDidNotGoInHoldsNoLaterDragBack) {
+  GtkWidget* entry = NewEntry("0123456789");
+  gint end = 10;
+  gtk_editable_insert_text(GTK_EDITABLE(entry), "x", -1, &end);
+  ASSERT_TRUE(IsRefused(entry));
+  gtk_editable_select_region(GTK_EDITABLE(entry), 0, 0);
+  g_signal_emit_by_name(entry, "drag-begin", nullptr);
+  gtk_editable_select_region(GTK_EDITABLE(entry), 0, 2);
+  // Dropped elsewhere.
+  g_signal_emit_by_name(entry, "drag-data-delete", nullptr);
+  EXPECT_STREQ(Field, "23456789");
+}
+
 TEST_F(Entries, ARefusedTextLeavesTheOneItWasToReplace) {
   GtkWidget* entry = NewEntry(Nihon);
   gtk_entry_set_text(GTK_ENTRY(entry), "\U0001F600");

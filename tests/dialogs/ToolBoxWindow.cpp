@@ -374,6 +374,16 @@ TEST_F(ToolBoxWindow, APanelParkedInTheCornerOpensAgainThere) {
   EXPECT_TRUE(WaitFor([] { return PositionOf(ToolBox).x > 400; }));
 }
 
+TEST_F(ToolBoxWindow, APanelParkedInTheCornerIsForgottenWithAllPlaces) {
+  ASSERT_TRUE(Opens(4));
+  ASSERT_TRUE(MovesTo({0, 0}));
+  ASSERT_TRUE(FrameStandsInCorner());
+  Dlg_ToolBox(PtrnWnd, 0);
+  ToolBox_PointFlag = 0;
+  ASSERT_TRUE(Opens(4));
+  EXPECT_TRUE(WaitFor([] { return PositionOf(ToolBox).x > 400; }));
+}
+
 TEST_F(ToolBoxWindow, APanelThatIsNotYetOnTheScreenIsNotParkedInTheCorner) {
   {
     const ServerGrab unframed;
