@@ -182,6 +182,32 @@ TEST_F(PopUpMenus, TheKeysShownInThemWork) {
   EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::Zoom]}, 1);
 }
 
+// The next Escape does what the entry beside it says.
+TEST_F(PopUpMenus, EscapeLeavesTheItemMenuAndTheItemInHand) {
+  HoldItem();
+  RightPress(115, 100);
+  ASSERT_EQ(OpenMenu(), ItemMenu);
+  SendKey(GDK_KEY_Escape);
+  EXPECT_EQ(OpenMenu(), NoMenu);
+  EXPECT_EQ(PtrnMode, ModeSelected);
+  SendKey(GDK_KEY_Escape);
+  EXPECT_EQ(PtrnMode, ModeIdle);
+}
+
+TEST_F(PopUpMenus, TheKeysShownInASubmenuWorkThere) {
+  RightPress(20, 20);
+  GtkWidget* zoom =
+      gtk_menu_item_get_submenu(GTK_MENU_ITEM(MenuEntry(PopupMenu[ViewMenu], {"ズーム"})));
+  SendKey(GDK_KEY_Down);
+  SendKey(GDK_KEY_Down);
+  SendKey(GDK_KEY_Right);
+  ASSERT_TRUE(gtk_widget_get_visible(zoom));
+  SendKey(GDK_KEY_5, GDK_CONTROL_MASK);
+  EXPECT_FALSE(gtk_widget_get_visible(zoom));
+  EXPECT_EQ(OpenMenu(), NoMenu);
+  EXPECT_EQ(gint{PtrnHedr.Parm2[ViewSlot::Zoom]}, 0);
+}
+
 TEST_F(PopUpMenus, AKeyOfAnEntryThatCannotBeUsedDoesNothing) {
   PtrnType = TypeRectangle;
   DispToolBox(0, TypeRectangle);
@@ -225,6 +251,14 @@ TEST_F(PopUpMenus, AKeyOpensTheOneOfTheState) {
     Leave(AreaMenu);
     EXPECT_EQ(PtrnMode, ModeIdle);
   }
+}
+
+TEST_F(PopUpMenus, OpenedByKeyTheyBeginAtTheirFirstEntry) {
+  SendKey(GDK_KEY_Menu);
+  ASSERT_EQ(OpenMenu(), ViewMenu);
+  EXPECT_EQ(gtk_menu_shell_get_selected_item(GTK_MENU_SHELL(PopupMenu[ViewMenu])),
+            MenuEntry(PopupMenu[ViewMenu], {"再表示"}));
+  Leave(ViewMenu);
 }
 
 TEST_F(PopUpMenus, AKeyOpensNoneWhereNoneBelongs) {
