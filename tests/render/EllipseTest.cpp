@@ -277,6 +277,24 @@ TEST(Ellipse, OutlinesOfABoxWithOneSideSwapped) {
 )");
 }
 
+// The box has no width after two steps and no height after twelve; those between stand out from
+// the first and the last.
+TEST(Ellipse, EachOutlineOfABoxThatTurnsOverIsPainted) {
+  constexpr gint Width = 27, Height = 27, Line = 14;
+  Paper thick(Width, Height), thin(Width, Height);
+  DrawCrcl(&thick.surface, &thick.gc, 11, 1, 15, 25, Line, 1, Black, -1);
+  thin.gc.Foreground = 0;
+  for (gint inset = 0; inset < Line; ++inset) {
+    DrawCrcl1(&thin.surface, &thin.gc, 0, 11 + inset, 1 + inset, 15 - inset, 25 - inset);
+  }
+  for (gint y = 0; y < Height; ++y) {
+    for (gint x = 0; x < Width; ++x) {
+      if (thin.surface.At(x, y) != 0) continue;
+      EXPECT_EQ(thick.surface.At(x, y), 0u) << x << "," << y;
+    }
+  }
+}
+
 // A part of a large circle is the same as that part of the whole.
 TEST(Ellipse, ClippedPartEqualsTheWhole) {
   Paper whole(401, 301), part(50, 60, 330, 20);

@@ -8,6 +8,7 @@
 #include <random>
 
 #include "render/ItemSamples.h"
+#include "render/PictureFiles.h"
 #include "render/SampleLayout.h"
 
 namespace {
@@ -302,6 +303,32 @@ TEST_F(PaintedPictures, ForgetAFileThatIsNotShown) {
   Paint(Ink::Green);
   MoveTheFrame();
   EXPECT_FALSE(PaintsTheWhole());
+}
+
+TEST_F(PaintedPictures, PaintAPartWhenAPictureChangedThatIsPaintedElsewhere) {
+  Paint(Ink::Red, "elsewhere.png");
+  Drawable elsewhere(8, 6);
+  DrawGc gc;
+  DrawBmap(&elsewhere, &gc, 0, 0, 8, 6, -1, BmapPath, "elsewhere.png");
+  ASSERT_EQ(elsewhere.At(4, 3), InkPixel[Ink::Red]);
+  Paint(Ink::Green, "elsewhere.png");
+  MoveTheFrame();
+  EXPECT_FALSE(PaintsTheWhole());
+}
+
+// One place shows it as it was, the other as it is.
+TEST_F(PaintedPictures, AFileThatIsReplacedBetweenItsTwoPlacesHasChanged) {
+  const std::optional<FileState> old = PictureFileState(Path("house.png"));
+  Paint(Ink::Green);
+  const std::optional<FileState> present = PictureFileState(Path("house.png"));
+  ShownPictures shown;
+  const ShownPictures::Noting noting(shown);
+  ShownPictures::Note(BmapPath, "house.png", present);
+  EXPECT_FALSE(shown.Changed());
+  shown.Clear();
+  ShownPictures::Note(BmapPath, "house.png", old);
+  ShownPictures::Note(BmapPath, "house.png", present);
+  EXPECT_TRUE(shown.Changed());
 }
 
 TEST_F(PaintedLayouts, PaintTheWholeWhenNothingChanged) {
