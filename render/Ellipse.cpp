@@ -1,6 +1,3 @@
-#include <optional>
-#include <vector>
-
 #include "EllipseRows.h"
 
 namespace {
@@ -44,17 +41,16 @@ bool Encloses(const PlaneBox& box, const PlaneBox& clip) {
   return holds(clip.y1 - 1) && holds(clip.y2);
 }
 
-// The outlines of both boxes, the inner one within the outer one, and what lies between them.
-void PaintBand(Drawable& drawable, guint32 rgb, const PlaneBox& outer, const PlaneBox& inner) {
-  const PlaneBox part = PartOf(drawable, outer);
-  if (part.Empty() || Encloses(inner, BoxOf(drawable))) {
+// The outline of a box, one pixel wide.
+void PaintOutline(Drawable& drawable, guint32 rgb, const PlaneBox& box) {
+  const PlaneBox part = PartOf(drawable, box);
+  if (part.Empty() || Encloses(box, BoxOf(drawable))) {
     return;
   }
-  OutlineRows innerRows(inner);
-  const bool thin = outer.x1 == inner.x1;
+  OutlineRows rows(box);
   for (gint64 y = part.y1; y < part.y2; ++y) {
-    const Span row = thin ? innerRows.Enclosed(y) : EnclosedRow(outer, y);
-    const Span hole = innerRows.Inside(y);
+    const Span row = rows.Enclosed(y);
+    const Span hole = rows.Inside(y);
     if (hole.Empty()) {
       FillRow(drawable, rgb, y, row);
     } else {
@@ -64,83 +60,10 @@ void PaintBand(Drawable& drawable, guint32 rgb, const PlaneBox& outer, const Pla
   }
 }
 
-// Corners in any order.
-struct Corners {
-  gint64 x1;
-  gint64 y1;
-  gint64 x2;
-  gint64 y2;
-
-  PlaneBox Normal() const { return Normalised(x1, y1, x2, y2); }
-  bool Level() const { return x1 <= x2; }
-  bool Upright() const { return y1 <= y2; }
-  bool TurnsAs(const Corners& other) const {
-    return Level() == other.Level() && Upright() == other.Upright();
-  }
-};
-
-// The one-pixel outlines that make up a thick one. Each is the corners as given moved by an inset,
-// as with rectangles, so with swapped corners an inset grows the box.
-class Outlines {
- public:
-  Outlines(const Corners& corners, const OffsetRange& insets)
-      : corners_(corners), insets_(insets), first_(At(insets.low)), last_(At(insets.high)) {}
-
-  // The outline that lies within all others; empty when there is none.
-  std::optional<PlaneBox> Innermost() const {
-    if (!Nested()) {
-      return std::nullopt;
-    }
-    return first_.Level() ? last_.Normal() : first_.Normal();
-  }
-
-  // Without a gap: what lies between two outlines is painted, too.
-  void Paint(Drawable& drawable, guint32 rgb) const {
-    if (const std::optional<PlaneBox> inner = Innermost()) {
-      PaintBand(drawable, rgb, first_.Level() ? first_.Normal() : last_.Normal(), *inner);
-    } else if (first_.TurnsAs(last_)) {
-      for (gint64 inset = insets_.low; inset <= insets_.high; ++inset) {
-        const PlaneBox box = At(inset).Normal();
-        PaintBand(drawable, rgb, box, box);
-      }
-    } else {
-      PaintSwept(drawable, rgb);
-    }
-  }
-
- private:
-  Corners At(gint64 inset) const {
-    return {corners_.x1 + inset, corners_.y1 + inset, corners_.x2 - inset, corners_.y2 - inset};
-  }
-  bool Nested() const { return first_.TurnsAs(last_) && first_.Level() == first_.Upright(); }
-
-  // Outlines that shrink to nothing on their way and grow again pass all that any of them encloses.
-  void PaintSwept(Drawable& drawable, guint32 rgb) const {
-    // Of those that lie within one another the outermost does.
-    std::vector<PlaneBox> boxes;
-    for (gint64 inset = insets_.low; inset <= insets_.high; ++inset) {
-      const Corners corners = At(inset);
-      if (inset == insets_.low || inset == insets_.high || corners.Level() != corners.Upright()) {
-        boxes.push_back(corners.Normal());
-      }
-    }
-    const PlaneBox clip = BoxOf(drawable);
-    for (gint64 y = clip.y1; y < clip.y2; ++y) {
-      Span row{G_MAXINT64, G_MININT64};
-      for (const PlaneBox& box : boxes) {
-        if (y < box.y1 || y > box.y2) continue;
-        const Span own = EnclosedRow(box, y);
-        row = {std::min(row.first, own.first), std::max(row.last, own.last)};
-      }
-      if (!row.Empty()) FillRow(drawable, rgb, y, row);
-    }
-  }
-
-  Corners corners_;
-  OffsetRange insets_;
-  Corners first_;
-  Corners last_;
-};
+// Whether the first box reaches beyond the second one.
+bool Exceeds(const PlaneBox& box, const PlaneBox& other) {
+  return box.x1 < other.x1 || box.y1 < other.y1 || box.x2 > other.x2 || box.y2 > other.y2;
+}
 
 }  // namespace
 
@@ -149,30 +72,36 @@ void DrawCrcl1(Drawable* drawable, DrawGc* gc, gint filled, gint x1, gint y1, gi
   if (filled) {
     FillEllipse(*drawable, gc->Foreground, box);
   } else {
-    PaintBand(*drawable, gc->Foreground, box, box);
+    PaintOutline(*drawable, gc->Foreground, box);
   }
 }
 
 void DrawCrcl(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint width,
               gint position, gint line, gint fill) {
   gc->Dashes = nullptr;
-  std::optional<Outlines> outlines;
-  if (width > 0 && ColourExists(line)) {
-    outlines.emplace(Corners{x1, y1, x2, y2}, OutlineInsets(width, position));
-  }
+  // As with rectangles the corners are moved as given, so with swapped ones an inset grows the box.
+  const auto outlineAt = [=](gint64 inset) {
+    return Normalised(x1 + inset, y1 + inset, x2 - inset, y2 - inset);
+  };
+  const bool outlined = width > 0 && ColourExists(line);
+  const OffsetRange insets = outlined ? OutlineInsets(width, position) : OffsetRange{0, -1};
   if (ColourExists(fill)) {
     gc->Foreground = DrawColr[fill].pixel;
-    const PlaneBox box = Normalised(x1, y1, x2, y2);
-    const std::optional<PlaneBox> inner = outlines ? outlines->Innermost() : std::nullopt;
-    if (inner && inner->x1 < box.x1) {
-      // Nor does the ground show between the box and an outline around it.
-      FillInside(*drawable, gc->Foreground, *inner);
-    } else {
-      FillEllipse(*drawable, gc->Foreground, box);
+    PlaneBox filled = outlineAt(0);
+    FillEllipse(*drawable, gc->Foreground, filled);
+    // Outlines beyond the box leave dots free between each other and the box; the ground does not
+    // show there either. What an outline encloses holds all within it.
+    for (gint64 inset = insets.low; inset <= insets.high; ++inset) {
+      if (const PlaneBox box = outlineAt(inset); Exceeds(box, filled)) {
+        FillInside(*drawable, gc->Foreground, box);
+        filled = box;
+      }
     }
   }
-  if (outlines) {
+  if (outlined) {
     gc->Foreground = DrawColr[line].pixel;
-    outlines->Paint(*drawable, gc->Foreground);
+    for (gint64 inset = insets.low; inset <= insets.high; ++inset) {
+      PaintOutline(*drawable, gc->Foreground, outlineAt(inset));
+    }
   }
 }
