@@ -13,6 +13,7 @@ void LoadColrFile() {
 
 void SaveColrFile() {
   SetDrawColr();
-  Palette.Save();
-  KeepSavedPalette();
+  if (Palette.Save()) {
+    KeepSavedPalette();
+  }
 }

@@ -21,10 +21,11 @@ class ResourceFile {
   }
   // The zeros that stand for a file that is there but could not be read do not replace it. Without
   // a folder there is no project to write to, and a new project's table is none of the open one's.
-  void Save() const {
+  // False when the file does not hold the table now.
+  bool Save() const {
     if (ProjPath[0] == '\0' || ResourcesAreNewProjects() || (unread_ == Path() && IsBlank()))
-      return;
-    FileWrite(ProjPath, name_, "", &table_, Size, 0);
+      return false;
+    return FileWrite(ProjPath, name_, "", &table_, Size, 0) != 0;
   }
 
  private:

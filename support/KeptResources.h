@@ -13,7 +13,7 @@ enum class SettingsOf {
 
 class KeptResources {
  public:
-  // Remembers both tables; of two at once the later one counts.
+  // Remembers both tables. There is one at a time.
   explicit KeptResources(SettingsOf settings);
   ~KeptResources();
   KeptResources(const KeptResources&) = delete;
@@ -36,5 +36,5 @@ class KeptResources {
 // True while the settings of a new project are shown: then nothing of it is written, for the only
 // folder is the open project's.
 bool ResourcesAreNewProjects();
-// The palette has been saved: cancelled settings leave it so.
+// The palette's file holds it now: cancelled settings leave it so.
 void KeepSavedPalette();

@@ -7,6 +7,7 @@
 #include "StartPicture.h"
 #include "app/Menus.h"
 #include "app/Window.h"
+#include "dialogs/SwatchArea.h"
 #include "render/Layout.h"
 #include "render/PaintedLayout.h"
 #include "render/Primitives.h"
@@ -137,6 +138,7 @@ void DrawRequest(gint mode) {
   RegionPtr overlay = CanvasOverlay();
   if (mode != 0) {
     RenderLayout();
+    RedrawSwatches();
     // Every change of the layout ends here, and the first one makes it worth saving.
     SetMainMenu();
   }

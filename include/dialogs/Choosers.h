@@ -14,6 +14,6 @@ gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type);
 // enters the name it has there, extension included, into the row and its entry. The name becomes
 // EUC-JP, as records store it; one that EUC-JP cannot hold keeps its bytes. False for a name that
 // the row cannot hold: a message says so, and nothing is copied. `folder`, if given, takes the
-// picture's own folder, from where the caller copies what belongs to a new project, once that has
-// a folder.
+// picture's own folder; while the settings of a new project are shown nothing is copied then, for
+// the caller does once that project has a folder.
 bool TakePicture(const gchar* chosen, DLG_EDITBOX* row, std::string* folder = nullptr);

@@ -19,9 +19,10 @@ void PtrnExit(GtkWidget* widget, gpointer data);
 
 // Offers to save a changed layout. 1 = go on, the layout is released; 0 = the user cancelled.
 gint SavePtrnData();
-// Writes the open layout to its file. A file that it did not come from, a damaged one, and items
-// that it would replace by none are kept as "<name>.ptn.bak" first. False when it could not be
-// written or what stood there could not be kept; the old file stands then.
+// Writes the open layout to its file. A file that it neither came from nor went to last, a damaged
+// one, and items that it would replace by none or by what an undo past the last save has left are
+// kept as "<name>.ptn.bak" first. False when it could not be written or what stood there could not
+// be kept; the old file stands then.
 bool SaveLayout();
 // Begin and end the editing of a layout.
 void PtrnDataInit();

@@ -7,6 +7,7 @@
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "layout/edit/OwnFile.h"
 #include "support/FileTools.h"
 
 gchar PtrnSavePath[258];
@@ -87,6 +88,7 @@ void PopPtrnData() {
   }
   const PTRNHEDR header = PtrnHedr;
   const gint count = GetPtrnCount();
+  const bool gone = IsEmptySlot(PtrnSaveCount - 1);
   if (ReadPtrnFile(PtrnSavePath, PtrnSaveName[PtrnSaveCount - 1]) == LayoutReading::Failed) {
     PtrnHedr = header;
     DropLastPtrnData(GetPtrnCount() - count);
@@ -94,6 +96,8 @@ void PopPtrnData() {
   }
   DropFirstPtrnData(count);
   --PtrnSaveCount;
+  // What is open now is no state of its file, and must not cost what that holds.
+  if (gone) ForgetOwnFile();
   PtrnHedr.Parm2[ViewSlot::GridShown] = header.Parm2[ViewSlot::GridShown];
   SetMainMenu();
 }

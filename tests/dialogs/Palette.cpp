@@ -294,6 +294,18 @@ TEST_F(Palette, ARightClickIsShownAtOnceInTheWindowsBeneath) {
   Dlg_ColrSelect(PtrnWnd);
 }
 
+// As when the settings of a project are cancelled, which brings back the palette beneath a panel.
+TEST_F(Palette, ThePanelShowsWhatTheCanvasIsPaintedWith) {
+  ShowLayout(320, 240, 2);
+  const ShownSwatches shown;
+  EXPECT_EQ(PixelOf(shown.InPanel, 40, 10), 0U);
+  ColrData[37] = {0x1200, 0x3400, 0x5600};
+  DrawRequest(0);
+  EXPECT_EQ(PixelOf(shown.InPanel, 40, 10), 0U);
+  DrawRequest(1);
+  EXPECT_TRUE(WaitFor([&shown] { return PixelOf(shown.InPanel, 40, 10) == 0x123456U; }));
+}
+
 TEST_F(Palette, TheEditorsColoursAreShownAtOnceInTheWindowsBeneath) {
   const ShownSwatches shown;
   EXPECT_EQ(PixelOf(shown.InDialog, 40, 10), 0U);

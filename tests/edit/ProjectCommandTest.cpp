@@ -443,6 +443,19 @@ TEST_F(ProjectCommandTest, WhatTheEditorsSaveOutlivesCancelledSettings) {
   EXPECT_EQ(Folder.Read("project/PtrnMark")[9 * 512], 0x0F);
 }
 
+// Nothing holds it but the memory.
+TEST_F(ProjectCommandTest, APaletteThatCouldNotBeSavedGoesWithCancelledSettings) {
+  SaveColour(1);
+  std::filesystem::rename(Folder.Path("project"), Folder.Path("away"));
+  Screen.ProjectSettings = [] {
+    SaveColour(70);
+    return gint{Cancelled};
+  };
+  ProjDataEdit(nullptr, nullptr);
+  EXPECT_EQ(ColrData[7].red, 1);
+  EXPECT_EQ(DrawnRed(), 1);
+}
+
 // The marks were saved, the palette was not: each is looked at by itself.
 TEST_F(ProjectCommandTest, RestoredDefaultsGoWithCancelledSettingsWhateverWasSavedBefore) {
   for (const bool saved : {false, true}) {

@@ -253,6 +253,22 @@ TEST_F(SaveOverTest, ItemsThatAreReplacedByNoneAreKeptAfterASaveThatKeptAnotherL
   EXPECT_EQ(Kept("Tanks"), saved);
 }
 
+// Nor does what is drawn in the emptied layout cost it.
+TEST_F(SaveOverTest, WhatUndoEmptiedAfterASaveOutlivesWhatIsDrawnAnew) {
+  OpenLayout("Tanks");
+  AddLine();
+  Save();
+  const std::string saved = Folder.Read("project/Tanks.ptn");
+  PtrnEditBack(nullptr, nullptr);
+  AddLine();
+  Save();
+  EXPECT_EQ(GetPtrnCount(), 1);
+  EXPECT_EQ(Kept("Tanks"), saved);
+  AddLine();
+  Save();
+  EXPECT_EQ(Kept("Tanks"), saved);
+}
+
 TEST_F(SaveOverTest, ANewerKeptFileReplacesAnOlderOne) {
   Folder.Write("project/Tanks.ptn.bak",
                "an older one, and a longer one than the newer one is" + std::string(5000, '.'));
