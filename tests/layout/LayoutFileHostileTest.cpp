@@ -26,8 +26,8 @@ class LayoutFileHostileTest : public LayoutFixture {
     EXPECT_EQ(folder_.Read("Main.ptn"), file);
     const std::vector<PTRNDATA> items = Items();
     for (const PTRNDATA& item : items) {
-      EXPECT_GE(item.Type, 1);
-      EXPECT_LE(item.Type, 15);
+      EXPECT_GE(+item.Type, 1);
+      EXPECT_LE(+item.Type, 15);
       EXPECT_LT(strnlen(item.Text1, sizeof item.Text1), sizeof item.Text1);
       EXPECT_LT(strnlen(item.ID_Code, sizeof item.ID_Code), sizeof item.ID_Code);
     }
