@@ -20,6 +20,11 @@ GtkStyleProvider* ReadOnlyLook() {
   return GTK_STYLE_PROVIDER(look);
 }
 
+// The space bar is the window's where an entry does not take it, and presses the default button.
+gboolean KeepSpace(GtkWidget* /*entry*/, const GdkEventKey* event, gpointer) {
+  return event->keyval == GDK_KEY_space || event->keyval == GDK_KEY_KP_Space;
+}
+
 void ShowHint(GtkWidget* entry) {
   gtk_widget_set_tooltip_text(
       entry, static_cast<const gchar*>(g_object_get_data(G_OBJECT(entry), HintKey)));
@@ -48,6 +53,7 @@ void UnmarkEntry(GtkWidget* entry) {
 
 void MakeReadOnly(GtkWidget* entry) {
   gtk_editable_set_editable(GTK_EDITABLE(entry), FALSE);
+  g_signal_connect(entry, "key-press-event", G_CALLBACK(KeepSpace), nullptr);
   gtk_style_context_add_provider(gtk_widget_get_style_context(entry), ReadOnlyLook(),
                                  GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
 }

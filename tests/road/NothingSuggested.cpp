@@ -45,6 +45,24 @@ TEST_F(NothingSuggested, ANewProjectAsksForNameAndFolders) {
   });
 }
 
+// The space bar is the default button's where no control takes it.
+TEST_F(NothingSuggested, SpaceOnAFolderThatIsOnlyReadRegistersNothing) {
+  Play([] {
+    ChooseMenu(MenuBar(), {"ファイル", "プロジェクトの新規作成"});
+    const Panel settings(SettingsTitle);
+    settings.Page("全般").Enter(Cell{"プロジェクト名"}, "試験計画");
+    PressKey(GDK_KEY_Tab);
+    EXPECT_TRUE(Look([&] {
+      GtkWidget* focus = gtk_window_get_focus(GTK_WINDOW(settings.Window()));
+      return GTK_IS_ENTRY(focus) && gtk_editable_get_editable(GTK_EDITABLE(focus)) == FALSE;
+    }));
+    PressKey(GDK_KEY_space);
+    EXPECT_EQ(Look([] { return FindWindow("入力エラー"); }), nullptr);
+    settings.Press(" 取消 ");
+    EXPECT_TRUE(SeeGone(SettingsTitle));
+  });
+}
+
 TEST_F(NothingSuggested, ANewLayoutAsksForItsTitle) {
   Play([] {
     for (const gchar* kind : {"親ウィンドウ", "子ウィンドウ", "その他"}) {
