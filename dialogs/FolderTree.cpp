@@ -208,12 +208,15 @@ void GoIn(const TreeState* state, GtkTreePath* path) {
   }
 }
 
-// Closes an open folder, goes out of a closed one.
+// Closes an open folder, goes out of a closed one. On the root, which is no choice, no folder stays
+// selected: it would be beside the keyboard, and out of sight once the root is closed.
 void GoOut(const TreeState* state, GtkTreePath* path) {
-  if (gtk_tree_view_collapse_row(state->View, path)) return;
-  if (gtk_tree_path_get_depth(path) == 1) return;
-  gtk_tree_path_up(path);
-  gtk_tree_view_set_cursor(state->View, path, nullptr, FALSE);
+  if (!gtk_tree_view_collapse_row(state->View, path) && gtk_tree_path_get_depth(path) > 1) {
+    gtk_tree_path_up(path);
+    gtk_tree_view_set_cursor(state->View, path, nullptr, FALSE);
+  }
+  if (gtk_tree_path_get_depth(path) == 1)
+    gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(state->View));
 }
 
 // Left and right alone; with other keys held they scroll.

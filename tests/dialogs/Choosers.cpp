@@ -470,7 +470,11 @@ TEST_F(Choosers, RightOpensAFolderAndGoesIntoItLeftGoesOutAndCloses) {
     EXPECT_EQ(after(GDK_KEY_KP_Left), "0:0:0");
     EXPECT_EQ(after(GDK_KEY_Left), "0:0 open");
     EXPECT_EQ(after(GDK_KEY_Left), "0:0");
+    EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("a"));
     EXPECT_EQ(after(GDK_KEY_Left), "0 open");
+    GtkTreeSelection* selection = gtk_tree_view_get_selection(GTK_TREE_VIEW(tree));
+    EXPECT_EQ(gtk_tree_selection_count_selected_rows(selection), 0) << "the root is no choice";
+    EXPECT_EQ(EntryText(EntryOf(dialog)), Home.Path("a")) << "what is given stays to be seen";
     EXPECT_EQ(after(GDK_KEY_Left), "0");
     EXPECT_EQ(after(GDK_KEY_Left), "0");
     EXPECT_EQ(after(GDK_KEY_Right), "0 open");
