@@ -1,8 +1,8 @@
 // Font descriptors: their height, the names looked for, and the fonts found. The first line is a
 // descriptor, the second a text in it.
 #include "Fuzz.h"
-#include "render/FontCatalogue.h"
-#include "render/FontSet.h"
+#include "render/fonts/FontCatalogue.h"
+#include "render/fonts/FontSet.h"
 #include "support/Resource.h"
 
 namespace {

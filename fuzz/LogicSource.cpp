@@ -1,6 +1,6 @@
 // The source editing of logic generation: the first line is a layout's name, the rest the source
 // that the user wrote.
-#include "project/model/LogicSource.h"
+#include "project/logic/LogicSource.h"
 #include "Fuzz.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,6 +1,6 @@
 // Project files: opened, saved again, and brought into a runtime profile.
 #include "Fuzz.h"
-#include "project/model/RuntimeProfile.h"
+#include "project/logic/RuntimeProfile.h"
 #include "tools/json/Convert.h"
 
 namespace {

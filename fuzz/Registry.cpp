@@ -1,7 +1,7 @@
 // The code registry: read, a code entered, written, brought into the code header.
 #include "layout/Registry.h"
 #include "Fuzz.h"
-#include "project/model/LogicSource.h"
+#include "project/logic/LogicSource.h"
 #include "tools/json/Convert.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

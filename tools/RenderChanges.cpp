@@ -6,7 +6,7 @@
 #include "Constant.h"
 #include "PtrnData.h"
 #include "PtrnDraw.h"
-#include "render/Plane.h"
+#include "render/surface/Plane.h"
 #include "tools/InputFile.h"
 #include "tools/LayoutView.h"
 #include "tools/Report.h"

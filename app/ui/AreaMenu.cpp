@@ -1,4 +1,4 @@
-#include "AreaMenu.h"
+#include "app/ui/AreaMenu.h"
 
 #include "PtrnData.h"
 

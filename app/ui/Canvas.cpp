@@ -1,13 +1,13 @@
 #include <algorithm>
 
-#include "CanvasScroll.h"
-#include "Holders.h"
-#include "OverlayRegion.h"
 #include "PtrnData.h"
-#include "StartPicture.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "dialogs/SwatchArea.h"
+#include "app/ui/CanvasScroll.h"
+#include "app/ui/Holders.h"
+#include "app/ui/OverlayRegion.h"
+#include "app/ui/StartPicture.h"
+#include "dialogs/kit/SwatchArea.h"
 #include "render/Layout.h"
 #include "render/PaintedLayout.h"
 #include "render/Primitives.h"

@@ -1,10 +1,10 @@
-#include "CanvasEvents.h"
+#include "app/ui/CanvasEvents.h"
 
-#include "CanvasKeys.h"
-#include "PopupKeys.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
+#include "app/ui/CanvasKeys.h"
+#include "app/ui/PopupKeys.h"
 
 namespace {
 POINT PointOf(gdouble x, gdouble y) {

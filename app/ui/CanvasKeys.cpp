@@ -1,8 +1,8 @@
-#include "CanvasKeys.h"
+#include "app/ui/CanvasKeys.h"
 
-#include "AreaMenu.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
+#include "app/ui/AreaMenu.h"
 
 namespace {
 // Button codes of the tool box and of the area menu.

@@ -1,4 +1,4 @@
-#include "CanvasScroll.h"
+#include "app/ui/CanvasScroll.h"
 
 #include <algorithm>
 #include <cmath>

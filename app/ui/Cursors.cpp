@@ -1,5 +1,5 @@
-#include "Holders.h"
 #include "app/Window.h"
+#include "app/ui/Holders.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 

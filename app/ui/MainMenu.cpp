@@ -1,7 +1,7 @@
-#include "MenuRows.h"
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnDialog.h"
+#include "app/ui/MenuRows.h"
 
 namespace {
 // Labels stand as they are, so a menu's Alt key is kept beside them.

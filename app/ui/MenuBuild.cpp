@@ -1,5 +1,5 @@
 #include "app/Menus.h"
-#include "dialogs/LatePress.h"
+#include "dialogs/kit/LatePress.h"
 
 namespace {
 GtkWidget* Append(GtkWidget* shell, GtkWidget* entry) {

@@ -1,7 +1,7 @@
-#include "MenuRows.h"
+#include "app/ui/MenuRows.h"
 
 #include "Constant.h"
-#include "Holders.h"
+#include "app/ui/Holders.h"
 
 namespace {
 constexpr gint TypeCount = 15;

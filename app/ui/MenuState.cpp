@@ -1,6 +1,6 @@
-#include "MenuRows.h"
 #include "ProjData.h"
 #include "PtrnData.h"
+#include "app/ui/MenuRows.h"
 #include "support/Resource.h"
 
 namespace {

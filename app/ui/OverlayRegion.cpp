@@ -1,4 +1,4 @@
-#include "OverlayRegion.h"
+#include "app/ui/OverlayRegion.h"
 
 #include <algorithm>
 

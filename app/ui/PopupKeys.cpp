@@ -1,10 +1,10 @@
-#include "PopupKeys.h"
+#include "app/ui/PopupKeys.h"
 
 #include <optional>
 
-#include "AreaMenu.h"
-#include "OverlayRegion.h"
 #include "app/Menus.h"
+#include "app/ui/AreaMenu.h"
+#include "app/ui/OverlayRegion.h"
 
 namespace {
 // Escape leaves every menu, also where the entry of what it would do next shows it.

@@ -1,11 +1,11 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "AreaMenu.h"
-#include "Holders.h"
-#include "MenuRows.h"
-#include "PopupKeys.h"
 #include "PtrnData.h"
+#include "app/ui/AreaMenu.h"
+#include "app/ui/Holders.h"
+#include "app/ui/MenuRows.h"
+#include "app/ui/PopupKeys.h"
 
 namespace {
 constexpr MenuRow ZoomRows[] = {

@@ -1,4 +1,4 @@
-#include "StartPicture.h"
+#include "app/ui/StartPicture.h"
 
 #include "PtrnMisc.h"
 #include "app/Window.h"

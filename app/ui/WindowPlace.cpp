@@ -1,4 +1,4 @@
-#include "WindowPlace.h"
+#include "app/ui/WindowPlace.h"
 
 #include "app/Window.h"
 #include "support/Profile.h"

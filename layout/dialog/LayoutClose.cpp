@@ -1,10 +1,10 @@
 // The dialog that decides what becomes of a changed layout.
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Accessible.h"
-#include "dialogs/Cells.h"
 #include "dialogs/Kit.h"
-#include "dialogs/NameList.h"
+#include "dialogs/choosers/NameList.h"
+#include "dialogs/frame/Accessible.h"
+#include "dialogs/kit/Cells.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"

@@ -4,9 +4,9 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Cells.h"
-#include "dialogs/ChooserWindow.h"
-#include "dialogs/NameList.h"
+#include "dialogs/choosers/ChooserWindow.h"
+#include "dialogs/choosers/NameList.h"
+#include "dialogs/kit/Cells.h"
 #include "layout/Records.h"
 #include "layout/dialog/LayoutNames.h"
 #include "support/FileTools.h"

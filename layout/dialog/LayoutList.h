@@ -3,7 +3,7 @@
 
 #include <gtk/gtk.h>
 
-#include "dialogs/DialogWindow.h"
+#include "dialogs/frame/DialogWindow.h"
 
 // Fills a name list with the layouts of the project folder, named up to the first dot, in the
 // folder's own order; `incomplete`: only those that hold incomplete items. One whose name

@@ -3,9 +3,9 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Cells.h"
 #include "dialogs/Choosers.h"
-#include "dialogs/NameList.h"
+#include "dialogs/choosers/NameList.h"
+#include "dialogs/kit/Cells.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"

@@ -1,7 +1,7 @@
 #include "layout/dialog/LayoutSettingsPages.h"
 
 #include "Constant.h"
-#include "dialogs/Rows.h"
+#include "dialogs/kit/Rows.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"

@@ -1,7 +1,7 @@
 // Control tables of the layout settings dialog.
 #pragma once
 
-#include "dialogs/ControlTables.h"
+#include "dialogs/kit/ControlTables.h"
 
 struct LayoutPage {
   const gchar* Title;

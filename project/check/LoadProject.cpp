@@ -4,7 +4,7 @@
 #include "PtrnMisc.h"
 #include "layout/Registry.h"
 #include "layout/Store.h"
-#include "layout/model/RecordFile.h"
+#include "layout/model/file/RecordFile.h"
 #include "project/check/Check.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"

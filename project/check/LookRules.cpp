@@ -1,6 +1,6 @@
 // Layouts that follow the project's common look.
 #include "layout/ItemSlots.h"
-#include "layout/model/ProjectLook.h"
+#include "layout/model/store/ProjectLook.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
 

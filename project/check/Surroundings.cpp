@@ -6,7 +6,7 @@
 #include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
 #include "project/check/Check.h"
-#include "render/PictureFiles.h"
+#include "render/pictures/PictureFiles.h"
 #include "support/FileTools.h"
 
 namespace {

@@ -4,12 +4,12 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Accessible.h"
-#include "dialogs/Cells.h"
-#include "dialogs/ChooserWindow.h"
 #include "dialogs/Choosers.h"
-#include "dialogs/EntryLook.h"
-#include "dialogs/NameList.h"
+#include "dialogs/choosers/ChooserWindow.h"
+#include "dialogs/choosers/NameList.h"
+#include "dialogs/frame/Accessible.h"
+#include "dialogs/kit/Cells.h"
+#include "dialogs/kit/EntryLook.h"
 #include "support/FileTools.h"
 #include "support/ProfileFile.h"
 

@@ -2,7 +2,7 @@
 
 #include "Constant.h"
 #include "ProjData.h"
-#include "dialogs/Rows.h"
+#include "dialogs/kit/Rows.h"
 #include "support/Resource.h"
 
 using namespace Rows;

@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include "dialogs/ControlTables.h"
+#include "dialogs/kit/ControlTables.h"
 
 // A frame of a page with the controls in it.
 struct ProjectFrame {

@@ -2,7 +2,7 @@
 #include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
-#include "layout/model/ProjectLook.h"
+#include "layout/model/store/ProjectLook.h"
 #include "project/model/LayoutNames.h"
 
 namespace {

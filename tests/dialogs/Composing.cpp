@@ -3,10 +3,10 @@
 
 #include <string>
 
-#include "dialogs/Cells.h"
 #include "dialogs/Controls.h"
-#include "dialogs/DialogWindow.h"
 #include "dialogs/Kit.h"
+#include "dialogs/frame/DialogWindow.h"
+#include "dialogs/kit/Cells.h"
 #include "window/Widgets.h"
 
 namespace {

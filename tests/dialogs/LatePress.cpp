@@ -1,11 +1,11 @@
 // Presses that assistive technology asks for: answered at once, done afterwards.
-#include "dialogs/LatePress.h"
+#include "dialogs/kit/LatePress.h"
 
 #include <gtest/gtest.h>
 
 #include "app/Menus.h"
 #include "dialogs/Controls.h"
-#include "dialogs/DialogWindow.h"
+#include "dialogs/frame/DialogWindow.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

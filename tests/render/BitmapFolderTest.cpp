@@ -4,7 +4,7 @@
 
 #include "AsciiPicture.h"
 #include "render/OnePixelBitmap.h"
-#include "render/PictureFiles.h"
+#include "render/pictures/PictureFiles.h"
 #include "tests/common/TempFolder.h"
 
 namespace {

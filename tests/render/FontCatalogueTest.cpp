@@ -1,4 +1,4 @@
-#include "render/FontCatalogue.h"
+#include "render/fonts/FontCatalogue.h"
 
 #include <gtest/gtest.h>
 

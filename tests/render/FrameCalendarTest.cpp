@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "render/Calendar.h"
-#include "render/Gradation.h"
 #include "render/Layout.h"
+#include "render/layout/Calendar.h"
+#include "render/primitives/Gradation.h"
 #include "support/Text.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <climits>
 #include <span>
 
-#include "render/Gradation.h"
 #include "render/SampleLayout.h"
+#include "render/primitives/Gradation.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Pictures are kept between paintings, and a change of what they are made from shows at once.
-#include "render/KeptPictures.h"
+#include "render/pictures/KeptPictures.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
 

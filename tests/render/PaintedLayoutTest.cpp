@@ -8,8 +8,8 @@
 #include <random>
 
 #include "render/ItemSamples.h"
-#include "render/PictureFiles.h"
 #include "render/SampleLayout.h"
+#include "render/pictures/PictureFiles.h"
 
 namespace {
 

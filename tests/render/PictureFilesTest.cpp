@@ -1,6 +1,6 @@
 // A picture file is read once for each of its states, and what tells them apart is all that the
 // system knows of a file.
-#include "render/PictureFiles.h"
+#include "render/pictures/PictureFiles.h"
 
 #include <fcntl.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>

@@ -1,5 +1,5 @@
 // A picture scaled in parts looks as the image library scales it as a whole.
-#include "render/Scaler.h"
+#include "render/surface/Scaler.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include <cstdlib>
 
 #include "AsciiPicture.h"
-#include "render/FontSet.h"
+#include "render/fonts/FontSet.h"
 #include "support/Resource.h"
 #include "support/Text.h"
 

@@ -1,0 +1,55 @@
+#include "dialogs/frame/DialogWindow.h"
+#include "dialogs/kit/Cells.h"
+#include "dialogs/kit/LatePress.h"
+#include "layout/Screen.h"
+
+// The answer of the message box; 0 until a button is pressed.
+gint MessageButnNo = 0;
+
+namespace {
+
+// Labels of each set of buttons, in the order of their numbers.
+constexpr const gchar* ButtonLabels[4][3] = {
+    {}, {" 確認 "}, {" はい ", " いいえ "}, {" はい ", " いいえ ", " キャンセル "}};
+
+void Message_Button(GtkWidget* button, gpointer data) {
+  MessageButnNo = GPOINTER_TO_INT(data);
+  gtk_widget_destroy(gtk_widget_get_toplevel(button));
+}
+
+void AddMessage(GtkWidget* box, const gchar* text) {
+  if (text != nullptr && *text != '\0')
+    gtk_box_pack_start(GTK_BOX(box), NewLabel(text), FALSE, FALSE, 0);
+}
+
+void AddButtons(GtkWidget* box, gint set) {
+  GtkWidget* buttons = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
+  gtk_box_pack_start(GTK_BOX(box), buttons, FALSE, FALSE, 0);
+  for (gint no = 1; no <= 3; ++no) {
+    const gchar* label = ButtonLabels[set][no - 1];
+    if (label == nullptr) break;
+    GtkWidget* button = NewButton(label);
+    g_signal_connect(button, "clicked", G_CALLBACK(Message_Button), GINT_TO_POINTER(no));
+    gtk_box_pack_start(GTK_BOX(buttons), button, FALSE, FALSE, 0);
+    if (no == 1) gtk_widget_grab_focus(button);
+  }
+  gtk_widget_show_all(buttons);
+}
+
+}  // namespace
+
+gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, const gchar* mesg2,
+                    gint butn) {
+  MessageButnNo = 0;
+  const DialogWindow dialog = NewDialogWindow(title);
+  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
+  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER_ON_PARENT);
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
+  gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
+  LeaveOutActions(dialog);
+  AddMessage(dialog.Content, mesg1);
+  AddMessage(dialog.Content, mesg2);
+  AddButtons(dialog.Content, butn >= 1 && butn <= 3 ? butn : 0);
+  RunModal(dialog.Window, parent);
+  return MessageButnNo;
+}

@@ -1,0 +1,142 @@
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <new>
+#include <vector>
+
+#include "Constant.h"
+#include "PtrnMisc.h"
+#include "layout/Guards.h"
+#include "layout/Store.h"
+#include "layout/model/file/StoredItem.h"
+#include "layout/model/file/TextWords.h"
+#include "support/BareMemory.h"
+#include "support/FileTools.h"
+
+namespace {
+
+using FileBytes = std::vector<char, BareMemory<char>>;
+
+std::array<std::string_view, 5> TextsOf(const PTRNDATA& item) {
+  return {FieldText(item.Text1), FieldText(item.Text2), FieldText(item.Text3),
+          FieldText(item.ID_Name), FieldText(item.ID_Code)};
+}
+
+// The items of one type stand together in the file: their number, and where their next record and
+// its texts go.
+struct TypeGroup {
+  std::size_t count = 0;
+  std::size_t textSize = 0;
+  std::size_t nextRecord = 0;
+  std::size_t nextText = 0;
+};
+
+using TypeGroups = std::array<TypeGroup, std::size(PtrnTypeList)>;
+
+// Fills the header's counts and measures the groups. The header counts every item, those of no
+// known type included, which are not written.
+TypeGroups CountItems() {
+  TypeGroups groups;
+  std::size_t textSize = 0;
+  PtrnHedr.Version = Version;
+  PtrnHedr.DataCount = GetPtrnCount();
+  PtrnHedr.UndfFlag = 0;
+  for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
+    const PTRNDATA& item = *ViewPtrnData(no);
+    std::size_t size = 0;
+    for (const std::string_view text : TextsOf(item)) {
+      size += text.size() + 1;
+    }
+    textSize += size;
+    PtrnHedr.UndfFlag += item.UndfFlag != 0;
+    if (IsItemType(item.Type)) {
+      TypeGroup& group = groups[static_cast<std::size_t>(item.Type)];
+      ++group.count;
+      group.textSize += size;
+    }
+  }
+  PtrnHedr.TextSize = static_cast<gint>(textSize);
+  return groups;
+}
+
+// Gives the groups their places: in painting order, all records before all texts. The end of both.
+std::size_t PlaceGroups(TypeGroups& groups) {
+  std::size_t next = sizeof(PTRNHEDR);
+  for (const gint type : PtrnTable) {
+    TypeGroup& group = groups[static_cast<std::size_t>(type)];
+    group.nextRecord = next;
+    next += group.count * sizeof(PTRNFILE);
+  }
+  for (const gint type : PtrnTable) {
+    TypeGroup& group = groups[static_cast<std::size_t>(type)];
+    group.nextText = next;
+    next += group.textSize;
+  }
+  return next;
+}
+
+// Puts a field's text with its terminator and not a byte more; where the next one goes.
+template <std::size_t Size>
+char* PutText(char* to, const gchar (&field)[Size]) {
+  std::size_t at = CopyFullWords(to, field, Size);
+  if (at + sizeof(TextWord) > Size) {
+    for (; at < Size && field[at] != '\0'; ++at) to[at] = field[at];
+    to[at] = '\0';
+    return to + at + 1;
+  }
+  const std::size_t size = at + BytesBeforeZero(WordAt(field + at)) + 1;
+  if (size >= sizeof(TextWord)) {
+    // The last word once more overlaps what has been copied.
+    PutWord(to + size - sizeof(TextWord), WordAt(field + size - sizeof(TextWord)));
+  } else {
+    std::copy_n(field, size, to);
+  }
+  return to + size;
+}
+
+void PutItem(char* bytes, TypeGroup& group, const PTRNDATA& item) {
+  PutRecord(bytes + group.nextRecord, item);
+  group.nextRecord += sizeof(PTRNFILE);
+  char* to = bytes + group.nextText;
+  to = PutText(to, item.Text1);
+  to = PutText(to, item.Text2);
+  to = PutText(to, item.Text3);
+  to = PutText(to, item.ID_Name);
+  to = PutText(to, item.ID_Code);
+  group.nextText = static_cast<std::size_t>(to - bytes);
+}
+
+FileBytes LayoutBytes() {
+  TypeGroups groups = CountItems();
+  const std::size_t end = PlaceGroups(groups);
+  const std::size_t recordsEnd = groups[static_cast<std::size_t>(PtrnTable[0])].nextText;
+  FileBytes bytes(recordsEnd + static_cast<std::size_t>(PtrnHedr.TextSize));
+  std::memcpy(bytes.data(), &PtrnHedr, sizeof PtrnHedr);
+  for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
+    const PTRNDATA& item = *ViewPtrnData(no);
+    if (IsItemType(item.Type)) {
+      PutItem(bytes.data(), groups[static_cast<std::size_t>(item.Type)], item);
+    }
+  }
+  std::memset(bytes.data() + end, 0, bytes.size() - end);
+  return bytes;
+}
+
+}  // namespace
+
+bool WritePtrnFile(const gchar* path, const gchar* name) {
+  // A layout without a name would become a hidden file, one without a folder a file somewhere.
+  if (*path == '\0' || *name == '\0') {
+    return false;
+  }
+  try {
+    const FileBytes bytes = LayoutBytes();
+    return ReplaceFile(JoinPath(path, name, "ptn"), {bytes.data(), bytes.size()});
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+void PtrnFileWrite(const gchar* path, const gchar* name) {
+  WritePtrnFile(path, name);
+}

@@ -1,9 +1,0 @@
-#include "PictureFiles.h"
-#include "render/Layout.h"
-
-void DrawWindow1(Drawable* drawable, DrawGc* gc) {
-  const KeptPicturePaths paths;
-  DrawPageData(drawable, gc);
-  DrawPtrnData(drawable, gc, 0);
-  DrawPtrnData(drawable, gc, 1);
-}

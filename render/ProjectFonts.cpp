@@ -1,8 +1,0 @@
-#include "DrawFonts.h"
-#include "support/Resource.h"
-
-void SetDrawFont() {
-  for (gint font = 0; font < FontCount; ++font) {
-    LoadDrawFont(font, FontName[font]);
-  }
-}

@@ -1,0 +1,87 @@
+// The title area: colour, logo, title, hard-copy icon and clock.
+#include <string>
+
+#include "ProjData.h"
+#include "layout/Guards.h"
+#include "render/Layout.h"
+#include "render/Pictures.h"
+#include "render/Primitives.h"
+#include "render/items/ItemLook.h"
+#include "render/layout/Calendar.h"
+#include "render/surface/PageArea.h"
+#include "support/Resource.h"
+#include "support/Text.h"
+
+namespace {
+
+std::string LayoutTitle() {
+  switch (TextIndex(Language)) {
+    case 0:
+      return std::string(FieldText(PtrnHedr.PtrnName1));
+    case 1:
+      return std::string(FieldText(PtrnHedr.PtrnName2));
+    default:
+      return std::string(FieldText(PtrnHedr.PtrnName3));
+  }
+}
+
+gint TitleFontHeight() {
+  return GuardedFontHeight(PtrnHedr.Parm1[HedrSlot::TitleFont]);
+}
+
+void DrawTitleText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font,
+                   const std::string& text) {
+  DrawText(drawable, gc, x, y, font, PtrnHedr.Parm1[HedrSlot::TitleColour],
+           PtrnHedr.Parm1[HedrSlot::TitleAreaColour], text.c_str());
+}
+
+}  // namespace
+
+void DrawPageData(Drawable* drawable, DrawGc* gc) {
+  const PageArea page;
+  if (page.TitleHeight > 0) {
+    if (page.Width > 0) {
+      FillArea(drawable, gc, {0, 0, page.Width, page.TitleHeight},
+               PtrnHedr.Parm1[HedrSlot::TitleAreaColour]);
+    }
+    DrawPageData1(drawable, gc);
+    DrawPageData2(drawable, gc);
+  }
+  DrawPageData3(drawable, gc);
+}
+
+void DrawPageData1(Drawable* drawable, DrawGc* gc) {
+  const PageArea page;
+  const gint height = TitleFontHeight();
+  const gint margin = (page.TitleHeight - height) / 2;
+  gint logoWidth = 0;
+  const std::string logo(FieldText(PtrnHedr.LogoName));
+  if (PtrnHedr.Parm1[HedrSlot::LogoShown] != 0 && !logo.empty()) {
+    DrawBmap(drawable, gc, margin, margin, height, height, -1, BmapPath, logo.c_str());
+    logoWidth = height + margin;
+  }
+
+  const gint font = PtrnHedr.Parm1[HedrSlot::TitleFont];
+  const std::string title = LayoutTitle();
+  const bool centred = PtrnHedr.Parm1[HedrSlot::TitleCentred] != 0;
+  const gint x =
+      centred ? (page.Width - GetTextSize(font, title.c_str()).cx) / 2 : height / 2 + logoWidth;
+  DrawTitleText(drawable, gc, x, margin, font, title);
+}
+
+void DrawPageData2(Drawable* drawable, DrawGc* gc) {
+  const PageArea page;
+  const gint height = TitleFontHeight();
+  gint margin = (page.TitleHeight - height) / 2;
+  if (PtrnHedr.Parm1[HedrSlot::HardCopyShown] != 0) {
+    DrawXpm(drawable, gc, page.Width - height - margin, margin, height, height, XPM_Printer);
+    margin = height + 2 * margin;
+  }
+
+  const gint format = CalendarFormat(PtrnHedr.Parm1[HedrSlot::DateFormat]);
+  if (format == 0) return;
+  const gint font = PtrnHedr.Parm1[HedrSlot::DateFont];
+  const std::string date = CalendarText(format, PictureTime());
+  const gint x = page.Width - GetTextSize(font, date.c_str()).cx - margin;
+  DrawTitleText(drawable, gc, x, (page.TitleHeight - GuardedFontHeight(font)) / 2, font, date);
+}

@@ -1,0 +1,57 @@
+#include <cstring>
+
+#include "render/pictures/KeptPictures.h"
+#include "render/pictures/XpmPicture.h"
+
+namespace {
+
+constexpr std::size_t ColourLines = 2;  // after the header
+
+void SetColourLine(gchar (&line)[66], gchar character, guint32 rgb) {
+  g_snprintf(line, sizeof line, "%c c #%06X", character, rgb & 0xffffff);
+}
+
+// The number of a mark's present shape.
+guint64 SourceOf(gint mark) {
+  struct KnownShape {
+    gchar lines[67][66];  // colours left blank
+    guint64 source;
+  };
+  static std::unique_ptr<KnownShape> shapes[MarkCheckOn + 1];
+  const auto& lines = Mark_XPM[mark].data;
+  constexpr std::size_t first = 1 + ColourLines;
+  std::unique_ptr<KnownShape>& known = shapes[mark];
+  if (known && std::memcmp(known->lines[0], lines[0], sizeof lines[0]) == 0 &&
+      std::memcmp(known->lines[first], lines[first], sizeof lines - first * sizeof lines[0]) == 0) {
+    return known->source;
+  }
+  known = std::make_unique<KnownShape>();
+  std::memcpy(known->lines, lines, sizeof lines);
+  known->source = NewPictureSource();
+  return known->source;
+}
+
+PixbufPtr MarkPicture(gint mark, guint32 front, gint64 back) {
+  MARK_XPM& xpm = Mark_XPM[mark];
+  const bool transparent = back < 0;
+  SetColourLine(xpm.data[1], '.', transparent ? 0x010203 : static_cast<guint32>(back));
+  SetColourLine(xpm.data[2], 'X', front);
+  PixbufPtr picture = PixbufFromXpm(xpm.mark);
+  return transparent ? WithTransparent(picture.get(), 1, 2, 3) : std::move(picture);
+}
+
+}  // namespace
+
+void DrawMark(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint height, gint fg,
+              gint bg, gint mark) {
+  const bool transparent = bg < 0;
+  const PlaneBox box{x, y, gint64{x} + width, gint64{y} + height};
+  if (mark < 0 || mark > MarkCheckOn || !ColourExists(fg) || (!transparent && !ColourExists(bg)) ||
+      box.Clip(BoxOf(*drawable)).Empty()) {
+    return;
+  }
+  const guint32 front = DrawColr[fg].pixel;
+  const gint64 back = transparent ? gint64{-1} : gint64{DrawColr[bg].pixel};
+  PaintKept(*drawable, box, {SourceOf(mark), front, back}, transparent,
+            [&] { return MarkPicture(mark, front, back); });
+}
