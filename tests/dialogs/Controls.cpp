@@ -1,5 +1,6 @@
 #include "dialogs/Controls.h"
 
+#include <gtest/gtest.h>
 #include <algorithm>
 #include <memory>
 

@@ -1,4 +1,6 @@
 // Deleting, moving and copying what lies inside the area.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

@@ -1,4 +1,6 @@
 // Moving the item in hand by steps.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

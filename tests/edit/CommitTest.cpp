@@ -1,4 +1,6 @@
 // The buttons of the tool box: register, delete, cancel, copy, redraw.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 #include "support/Resource.h"

@@ -1,5 +1,6 @@
 #include "edit/EditFixture.h"
 
+#include <gtest/gtest.h>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>

@@ -1,4 +1,6 @@
 // Opening and closing the tool box for the item in hand.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

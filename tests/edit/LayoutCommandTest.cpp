@@ -1,4 +1,6 @@
 // New, open, close, save, settings, print, exit, and the guard before a changed layout goes.
+#include <gmock/gmock.h>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"

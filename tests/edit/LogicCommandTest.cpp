@@ -1,4 +1,5 @@
 // The menu command of logic generation.
+#include <gmock/gmock.h>
 #include <filesystem>
 
 #include "ProjData.h"

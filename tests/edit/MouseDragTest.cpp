@@ -1,4 +1,6 @@
 // Dragging each handle of each kind of shape.
+#include <gtest/gtest.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

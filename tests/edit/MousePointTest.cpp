@@ -1,4 +1,6 @@
 // From canvas pixels to layout dots.
+#include <gtest/gtest.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

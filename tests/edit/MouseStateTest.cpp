@@ -1,4 +1,6 @@
 // What press, motion and release do in each state.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 

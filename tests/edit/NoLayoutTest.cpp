@@ -1,5 +1,6 @@
 // Commands of an open layout that are given without one, as menus offer them after a cancelled new
 // layout: each only ends the editing.
+#include <gmock/gmock.h>
 #include <cstring>
 
 #include "ProjData.h"

@@ -1,4 +1,5 @@
 // New, open and edit project, with the dialogs answered by script.
+#include <gmock/gmock.h>
 #include <filesystem>
 
 #include "ProjData.h"

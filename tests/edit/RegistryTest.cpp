@@ -1,4 +1,6 @@
 // What a commit enters into the code registry and the string lists.
+#include <gtest/gtest.h>
+
 #include "PtrnData.h"
 #include "edit/EditFixture.h"
 #include "support/Text.h"

@@ -1,5 +1,6 @@
 // A save that replaces something else than the file that the layout came from, or items by none:
 // what stood there is kept as "<name>.ptn.bak".
+#include <gmock/gmock.h>
 #include <sys/stat.h>
 
 #include <filesystem>

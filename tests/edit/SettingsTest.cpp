@@ -1,5 +1,7 @@
 // What the settings of a project and of a layout are held against, and what a layout's settings
 // change in its project.
+#include <gmock/gmock.h>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "edit/EditFixture.h"

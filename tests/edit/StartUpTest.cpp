@@ -1,4 +1,6 @@
 // Reopening the last project at start-up.
+#include <gmock/gmock.h>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"

@@ -1,4 +1,5 @@
 // The undo history.
+#include <gmock/gmock.h>
 #include <unistd.h>
 
 #include "PtrnData.h"

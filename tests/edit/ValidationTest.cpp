@@ -1,4 +1,5 @@
 // Each rule of each type with the message it shows.
+#include <gmock/gmock.h>
 #include <functional>
 
 #include "PtrnData.h"

@@ -1,4 +1,6 @@
 // The check entries of the menus: type, unpickable types, zoom, grid, colour system, language.
+#include <gmock/gmock.h>
+
 #include "PtrnData.h"
 #include "edit/CheckEntry.h"
 #include "edit/EditFixture.h"

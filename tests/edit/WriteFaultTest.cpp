@@ -1,4 +1,5 @@
 // A full disk and a folder that refuses: the layout in memory and the old file stay.
+#include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>

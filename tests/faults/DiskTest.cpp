@@ -1,5 +1,6 @@
 // A project on a disk of its own that is full, or write-protected: a real one where the system lets
 // the test mount it, else file calls that say so.
+#include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>

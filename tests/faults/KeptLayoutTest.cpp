@@ -1,5 +1,6 @@
 // A save that replaces another layout, or items by none, with each of its file calls going wrong:
 // what stood there is never lost, and the save is done as a whole or not at all.
+#include <gtest/gtest.h>
 #include <cerrno>
 #include <filesystem>
 

@@ -1,5 +1,6 @@
 // A program that is killed in the middle of its work leaves every file whole: each is as it was
 // before, or as some finished write of the same work left it.
+#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,5 +1,6 @@
 // Without a project, a name or an undo folder there is no file to write: nothing appears in the
 // folder that the program was started from, and nothing there goes.
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>

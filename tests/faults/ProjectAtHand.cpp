@@ -1,5 +1,6 @@
 #include "faults/ProjectAtHand.h"
 
+#include <gtest/gtest.h>
 #include <filesystem>
 
 #include "ProjData.h"

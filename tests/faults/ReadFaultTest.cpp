@@ -1,4 +1,5 @@
 // What cannot be read must not be lost by the next save.
+#include <gmock/gmock.h>
 #include <cerrno>
 
 #include "ProjData.h"

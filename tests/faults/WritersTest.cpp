@@ -1,6 +1,8 @@
 // Every writer of the program, with each of its file calls going wrong in turn: every file is
 // whole, old or new, nothing is left lying about, and the program holds what it held or what it was
 // to hold.
+#include <gtest/gtest.h>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnDraw.h"

@@ -1,5 +1,6 @@
 // Files that claim what they do not hold: nothing crashes, and nothing is believed past the file's
 // own end.
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -1,4 +1,5 @@
 // Any layout that the program writes comes back as it was.
+#include <gtest/gtest.h>
 #include <random>
 
 #include "tests/layout/LayoutFixture.h"

@@ -1,5 +1,6 @@
 #include "looks/Looks.h"
 
+#include <gtest/gtest.h>
 #include <cstdlib>
 #include <filesystem>
 

@@ -1,5 +1,7 @@
 // What the rule about vanishing colours takes for the background: to the dot, by type, and by
 // place.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

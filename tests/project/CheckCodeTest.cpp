@@ -1,4 +1,6 @@
 // Rules about identification codes, the registry and names in generated sources.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

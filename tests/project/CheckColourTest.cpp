@@ -1,4 +1,6 @@
 // Rules about colours that cannot be told from their background.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

@@ -1,4 +1,6 @@
 // Rules about single items and their place.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

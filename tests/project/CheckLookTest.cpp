@@ -1,4 +1,6 @@
 // Rules about the common look of a project's layouts.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

@@ -1,4 +1,6 @@
 // Rules about bitmaps and marks.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

@@ -1,5 +1,6 @@
 // All rules together: what each is called, that none finds faults where there are none, and how
 // their findings are put in order.
+#include <gmock/gmock.h>
 #include <algorithm>
 #include <set>
 #include <tuple>

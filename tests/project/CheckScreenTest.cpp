@@ -1,4 +1,6 @@
 // Rules about layouts that others refer to, and about layout files.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

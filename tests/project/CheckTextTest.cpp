@@ -1,4 +1,6 @@
 // Rules about texts in the project's languages.
+#include <gmock/gmock.h>
+
 #include "tests/project/CheckFixture.h"
 
 using testing::ElementsAre;

@@ -1,5 +1,6 @@
 #include "layout/Registry.h"
 
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "tests/project/ProjectFixture.h"

@@ -1,4 +1,6 @@
 // What is generated compiles against a stand-in for the runtime's header.
+#include <gtest/gtest.h>
+
 #include "tests/project/ProjectFixture.h"
 
 namespace {

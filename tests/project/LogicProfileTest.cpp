@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "support/Text.h"
 #include "tests/project/ProjectFixture.h"
 

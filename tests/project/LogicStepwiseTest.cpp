@@ -1,5 +1,6 @@
 // Code generation against a plain one that works step by step on the files: each code and each
 // layout is entered by reading a file, changing one place and writing the file again.
+#include <gtest/gtest.h>
 #include <fstream>
 #include <random>
 

@@ -1,4 +1,5 @@
 // A layout names pictures of its own folder and none elsewhere.
+#include <gtest/gtest.h>
 #include <filesystem>
 #include <string>
 

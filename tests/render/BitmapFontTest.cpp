@@ -1,6 +1,7 @@
 // Packed font files: an installed one is read, one that lies about its size is not.
 #include "render/fonts/BitmapFont.h"
 
+#include <gtest/gtest.h>
 #include <string>
 
 #include "render/fonts/FontCatalogue.h"

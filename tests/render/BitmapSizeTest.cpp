@@ -1,6 +1,7 @@
 // Picture files that claim, or unpack to, more than any screen shows: nothing is drawn and no
 // memory is taken for them.
 #include <gio/gio.h>
+#include <gtest/gtest.h>
 
 #include <memory>
 #include <string>

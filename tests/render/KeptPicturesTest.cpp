@@ -2,6 +2,7 @@
 #include "render/pictures/KeptPictures.h"
 
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gtest/gtest.h>
 
 #include "AsciiPicture.h"
 #include "support/Resource.h"

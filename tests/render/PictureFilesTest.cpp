@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include "AsciiPicture.h"

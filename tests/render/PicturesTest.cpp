@@ -1,5 +1,6 @@
 #include "render/Pictures.h"
 
+#include <gtest/gtest.h>
 #include <cstring>
 #include <vector>
 

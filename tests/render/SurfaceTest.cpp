@@ -1,4 +1,5 @@
 #include <cairo.h>
+#include <gtest/gtest.h>
 
 #include "AsciiPicture.h"
 #include "tests/common/TempFolder.h"

@@ -1,4 +1,5 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <gtest/gtest.h>
 
 #include <random>
 

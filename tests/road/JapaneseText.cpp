@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "PtrnData.h"
 #include "road/RoadTest.h"
 

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "Constant.h"
 #include "PtrnData.h"
 #include "app/Window.h"

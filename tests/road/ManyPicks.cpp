@@ -1,3 +1,4 @@
+#include <gtest/gtest.h>
 #include <iostream>
 
 #include "PtrnData.h"

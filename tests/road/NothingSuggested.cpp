@@ -1,5 +1,6 @@
 // What the shipped profile leaves to the user: names and folders of new projects and layouts.
 #include <glib.h>
+#include <gtest/gtest.h>
 
 #include "ProjData.h"
 #include "PtrnData.h"

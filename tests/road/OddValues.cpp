@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"

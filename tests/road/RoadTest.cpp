@@ -1,5 +1,6 @@
 #include "road/RoadTest.h"
 
+#include <gtest/gtest.h>
 #include <malloc.h>
 #include <unistd.h>
 

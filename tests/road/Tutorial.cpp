@@ -1,4 +1,6 @@
 // The manual's tutorial, step by step, from the shipped profile to a project without findings.
+#include <gtest/gtest.h>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"

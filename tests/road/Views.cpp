@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "window/Widgets.h"

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "render/Pictures.h"
 #include "window/PointerImage.h"
 #include "window/Widgets.h"

@@ -1,6 +1,8 @@
-#include "app/Menus.h"
+#include <gtest/gtest.h>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "app/Menus.h"
 #include "app/Window.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

@@ -1,4 +1,6 @@
 // The pop-up menus of the canvas: opened by key, left in every way.
+#include <gtest/gtest.h>
+
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "window/PointerGrab.h"

@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "Constant.h"
 #include "ProjData.h"
 #include "PtrnMisc.h"

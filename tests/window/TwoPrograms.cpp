@@ -1,4 +1,5 @@
 // Two programs at once, in one program folder and on one project.
+#include <gtest/gtest.h>
 #include <filesystem>
 
 #include "ProjData.h"

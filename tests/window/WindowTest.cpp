@@ -1,5 +1,6 @@
 #include "window/WindowTest.h"
 
+#include <gtest/gtest.h>
 #include <cstring>
 
 #include "Constant.h"
