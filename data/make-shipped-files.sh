@@ -30,8 +30,8 @@ build_project() { # SOURCES PROJECT_FILE: with the palette and the marks that bo
   local folder=${2%/*} list
   mkdir -p "$folder/Bitmap"
   "$tool" build "$1/project.json" "$2"
-  "$tool" build "$data/sample/palette.json" "$folder/PtrnColr"
-  "$tool" build "$data/sample/marks.json" "$folder/PtrnMark"
+  "$tool" build "$data/samples/water/palette.json" "$folder/PtrnColr"
+  "$tool" build "$data/samples/water/marks.json" "$folder/PtrnMark"
   "$tool" build "$1/codes.json" "$folder/PtrnCode"
   for list in 1 2 3; do "$tool" build "$1/texts$list.json" "$folder/PtrnText$list"; done
   build_layouts "$1/layouts" "$folder"
@@ -43,10 +43,10 @@ cp "$data"/artwork/start/*.bmp "$data/artwork/icon/VarnixMaster.png" "$files"
 cp "$data"/artwork/bitmap/{logo.png,water.bmp} "$files/VarnixData/Bitmap"
 build_layouts "$data/template" "$files/VarnixData/Ptrn"
 
-build_project "$data/sample" "$files/Sample/WaterWorks.prj"
+build_project "$data/samples/water" "$files/Sample/WaterWorks.prj"
 cp "$data"/artwork/bitmap/* "$files/Sample/Bitmap"
 
-python3 -B "$data/power/make_project.py" "$work/power"
+python3 -B "$data/samples/power/make_project.py" "$work/power"
 build_project "$work/power" "$files/PowerSample/PowerPlant.prj"
 cp "$data/artwork/bitmap/logo.png" "$files/PowerSample/Bitmap"
 
