@@ -1,5 +1,6 @@
 // Project files: opened, saved again, and brought into a runtime profile.
 #include "Fuzz.h"
+#include "layout/ProjectSlots.h"
 #include "project/logic/RuntimeProfile.h"
 #include "tools/json/Convert.h"
 
@@ -10,8 +11,8 @@ constexpr const char* Designer = "[FONT]\nFONTNAME0=a,b\n[COLOR]\nCURSOR_BG=1,2,
 // Made anew when what goes into it has changed, as that takes longer than all the rest.
 void UseInRuntimeProfile() {
   static std::string before;
-  std::string settings =
-      std::to_string(+ProjData.Parm1[0]) + "\n" + ProjData.PtrnStart + "\n" + ProjData.PtrnStop;
+  std::string settings = std::to_string(+ProjData.Parm1[ProjectSlot::DisplaySize]) + "\n" +
+                         ProjData.PtrnStart + "\n" + ProjData.PtrnStop;
   if (settings == before) return;
   std::string runtime = NewRuntimeProfile();
   UpdateRuntimeProfile(runtime, Designer, ProjData, ProjPath);

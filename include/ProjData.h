@@ -7,10 +7,10 @@
 
 // Settings of a project.
 struct PROJDATA {
-  gint Parm1[20];       // general
-  gint Parm2[30];       // defaults of parent windows
-  gint Parm3[20];       // defaults of child windows
-  gint Parm4[20];       // cursor, key input, grid
+  gint Parm1[20];       // general, see ProjectSlot
+  gint Parm2[30];       // look of parent windows, see ParentSlot
+  gint Parm3[20];       // look of child windows, see ChildSlot
+  gint Parm4[20];       // cursor, key input, grid, see CommonSlot
   gchar ProgPath[258];  // program folder, target of logic generation
   gchar LogoName[22];   // logo file in the bitmap folder
   gchar PtrnStart[82];  // layout shown when the runtime program starts

@@ -5,6 +5,7 @@
 #include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/ProjectSlots.h"
 #include "support/FileTools.h"
 #include "tools/Commands.h"
 #include "tools/InputFile.h"
@@ -35,13 +36,13 @@ std::string OrNone(const std::string& text) {
 }
 
 std::string ProjectLines() {
-  const SIZE display = DisplaySize(ProjData.Parm1[0]);
-  const gint languages = ProjData.Parm1[1];
+  const SIZE display = DisplaySize(ProjData.Parm1[ProjectSlot::DisplaySize]);
+  const gint languages = ProjData.Parm1[ProjectSlot::Languages];
   return Line("Project:", DisplayText(ProjName)) + Line("Folder:", ShownPath(ProjPath)) +
          Line("Program folder:", OrNone(ShownPath(ProjData.ProgPath))) +
          Line("Display:", SizeText(display.cx, display.cy)) +
          Line("Languages:", Number(TextIndex(languages) + 1)) +
-         Line("Colour systems:", ProjData.Parm1[2] == 0 ? "2" : "4") +
+         Line("Colour systems:", ProjData.Parm1[ProjectSlot::ColourSystems] == 0 ? "2" : "4") +
          Line("Logo:", OrNone(DisplayText(ProjData.LogoName))) +
          Line("Start layout:", OrNone(DisplayText(ProjData.PtrnStart))) +
          Line("Stop layout:", OrNone(DisplayText(ProjData.PtrnStop)));

@@ -1,11 +1,10 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "app/ui/MenuRows.h"
+#include "layout/ProjectSlots.h"
 #include "support/Resource.h"
 
 namespace {
-enum { LanguageParm = 1, ColourParm = 2 };
-
 bool ProjectOpen() {
   return ProjFlag != 0;
 }
@@ -25,13 +24,13 @@ bool UndoPossible() {
   return LayoutOpen() && PtrnSaveCount != 0;
 }
 bool SecondLanguage() {
-  return LayoutOpen() && ProjData.Parm1[LanguageParm] > 0;
+  return LayoutOpen() && ProjData.Parm1[ProjectSlot::Languages] > 0;
 }
 bool ThirdLanguage() {
-  return LayoutOpen() && ProjData.Parm1[LanguageParm] > 1;
+  return LayoutOpen() && ProjData.Parm1[ProjectSlot::Languages] > 1;
 }
 bool FourColours() {
-  return LayoutOpen() && ProjData.Parm1[ColourParm] != 0;
+  return LayoutOpen() && ProjData.Parm1[ProjectSlot::ColourSystems] != 0;
 }
 
 // Neighbouring entries and when they can be used.

@@ -2,15 +2,16 @@
 #include <algorithm>
 
 #include "layout/ItemSlots.h"
+#include "layout/ProjectSlots.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
 
 gint LanguageCount(const CheckedProject& project) {
-  return std::clamp(gint{project.Settings.Parm1[1]}, 0, 2) + 1;
+  return std::clamp(gint{project.Settings.Parm1[ProjectSlot::Languages]}, 0, 2) + 1;
 }
 
 gint SystemCount(const CheckedProject& project) {
-  return project.Settings.Parm1[2] == 0 ? 2 : 4;
+  return project.Settings.Parm1[ProjectSlot::ColourSystems] == 0 ? 2 : 4;
 }
 
 bool LayoutExists(const CheckedProject& project, std::string_view name) {

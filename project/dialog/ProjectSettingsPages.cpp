@@ -3,6 +3,7 @@
 #include "Constant.h"
 #include "ProjData.h"
 #include "dialogs/kit/Rows.h"
+#include "layout/ProjectSlots.h"
 #include "support/Resource.h"
 
 using namespace Rows;
@@ -36,59 +37,81 @@ DLG_STRING ProjPage1_String[] = {Label(0, "プロジェクト名"),
 DLG_EDITBOX ProjPage1_Edit[] = {Entry(0, 1, 3, EditName, 80, false),
                                 Entry(1, 1, 3, EditPath, 256, true),
                                 Entry(2, 1, 3, EditData.ProgPath, 256, true), EndEditBox};
-DLG_COMBOBOX ProjPage1_Combo[] = {Choice(3, 1, 2, Parm1(0), DispSizeList), EndComboBox};
-DLG_RADIOBUTN ProjPage1_Radio[] = {
-    Radio(4, 1, Parm1(1), 0, "１ヶ国"), Radio(4, 2, Parm1(1), 1, "２ヶ国"),
-    Radio(4, 3, Parm1(1), 2, "３ヶ国"), Radio(5, 1, Parm1(2), 0, "２系統"),
-    Radio(5, 2, Parm1(2), 1, "４系統"), EndRadioButn};
+DLG_COMBOBOX ProjPage1_Combo[] = {Choice(3, 1, 2, Parm1(ProjectSlot::DisplaySize), DispSizeList),
+                                  EndComboBox};
+DLG_RADIOBUTN ProjPage1_Radio[] = {Radio(4, 1, Parm1(ProjectSlot::Languages), 0, "１ヶ国"),
+                                   Radio(4, 2, Parm1(ProjectSlot::Languages), 1, "２ヶ国"),
+                                   Radio(4, 3, Parm1(ProjectSlot::Languages), 2, "３ヶ国"),
+                                   Radio(5, 1, Parm1(ProjectSlot::ColourSystems), 0, "２系統"),
+                                   Radio(5, 2, Parm1(ProjectSlot::ColourSystems), 1, "４系統"),
+                                   EndRadioButn};
 
 // Parent window.
 
 DLG_STRING ProjPage21_String[] = {Label(2, "タイトル文字フォント"), Label(3, "表示位置"),
                                   Label(4, "日付・時刻表示形式"), Label(5, "文字フォント"),
                                   EndString};
-DLG_NUMRBOX ProjPage21_Numr[] = {Number(0, 0, Parm2(0), 0, 99, "高さ"), EndNumrBox};
-DLG_COLRDATA ProjPage21_Colr[] = {Colour(0, 1, Parm2(1), "前景色"),
-                                  Colour(0, 2, Parm2(2), "背景色"), EndColrData};
-DLG_CHECKBUTN ProjPage21_Check[] = {Check(1, 0, 0, Parm2(5), "ロゴマーク"),
-                                    Check(6, 0, 0, Parm2(7), "バージョン情報画面"),
-                                    Check(6, 1, 1, Parm2(8), "デバッグ画面"),
-                                    Check(6, 2, 3, Parm2(6), "ハードコピーボタン"), EndCheckButn};
+DLG_NUMRBOX ProjPage21_Numr[] = {Number(0, 0, Parm2(ParentSlot::TitleHeight), 0, 99, "高さ"),
+                                 EndNumrBox};
+DLG_COLRDATA ProjPage21_Colr[] = {Colour(0, 1, Parm2(ParentSlot::TitleColour), "前景色"),
+                                  Colour(0, 2, Parm2(ParentSlot::TitleAreaColour), "背景色"),
+                                  EndColrData};
+DLG_CHECKBUTN ProjPage21_Check[] = {
+    Check(1, 0, 0, Parm2(ParentSlot::LogoShown), "ロゴマーク"),
+    Check(6, 0, 0, Parm2(ParentSlot::VersionScreen), "バージョン情報画面"),
+    Check(6, 1, 1, Parm2(ParentSlot::DebugScreen), "デバッグ画面"),
+    Check(6, 2, 3, Parm2(ParentSlot::HardCopyShown), "ハードコピーボタン"), EndCheckButn};
 DLG_EDITBOX ProjPage21_Edit[] = {Entry(1, 1, 2, EditData.LogoName, 20, true), EndEditBox};
-DLG_COMBOBOX ProjPage21_Combo[] = {Choice(2, 1, 3, Parm2(3), FontNameList),
-                                   Choice(4, 1, 3, Parm2(9), CalnFomtList),
-                                   Choice(5, 1, 3, Parm2(10), FontNameList), EndComboBox};
-DLG_RADIOBUTN ProjPage21_Radio[] = {Radio(3, 1, Parm2(4), 0, "左端"),
-                                    Radio(3, 2, Parm2(4), 1, "中央"), EndRadioButn};
-DLG_COLRDATA ProjPage22_Colr[] = {Colour(0, 0, Parm2(11), "背景色"), EndColrData};
-DLG_NUMRBOX ProjPage23_Numr[] = {Number(0, 0, Parm2(12), 0, 99, "高さ"), EndNumrBox};
-DLG_COLRDATA ProjPage23_Colr[] = {Colour(0, 1, Parm2(13), "背景色"), EndColrData};
+DLG_COMBOBOX ProjPage21_Combo[] = {Choice(2, 1, 3, Parm2(ParentSlot::TitleFont), FontNameList),
+                                   Choice(4, 1, 3, Parm2(ParentSlot::DateFormat), CalnFomtList),
+                                   Choice(5, 1, 3, Parm2(ParentSlot::DateFont), FontNameList),
+                                   EndComboBox};
+DLG_RADIOBUTN ProjPage21_Radio[] = {Radio(3, 1, Parm2(ParentSlot::TitleCentred), 0, "左端"),
+                                    Radio(3, 2, Parm2(ParentSlot::TitleCentred), 1, "中央"),
+                                    EndRadioButn};
+DLG_COLRDATA ProjPage22_Colr[] = {Colour(0, 0, Parm2(ParentSlot::WorkAreaColour), "背景色"),
+                                  EndColrData};
+DLG_NUMRBOX ProjPage23_Numr[] = {Number(0, 0, Parm2(ParentSlot::ButtonAreaHeight), 0, 99, "高さ"),
+                                 EndNumrBox};
+DLG_COLRDATA ProjPage23_Colr[] = {Colour(0, 1, Parm2(ParentSlot::ButtonAreaColour), "背景色"),
+                                  EndColrData};
 
 // Child window.
 
 DLG_STRING ProjPage31_String[] = {Label(1, "タイトル文字フォント"), Label(2, "表示位置"),
                                   EndString};
-DLG_NUMRBOX ProjPage31_Numr[] = {Number(0, 0, Parm3(0), 0, 99, "高さ"), EndNumrBox};
-DLG_COLRDATA ProjPage31_Colr[] = {Colour(0, 1, Parm3(1), "前景色"),
-                                  Colour(0, 2, Parm3(2), "背景色"), EndColrData};
-DLG_COMBOBOX ProjPage31_Combo[] = {Choice(1, 1, 3, Parm3(3), FontNameList), EndComboBox};
-DLG_RADIOBUTN ProjPage31_Radio[] = {Radio(2, 1, Parm3(4), 0, "左端"),
-                                    Radio(2, 2, Parm3(4), 1, "中央"), EndRadioButn};
-DLG_COLRDATA ProjPage32_Colr[] = {Colour(0, 0, Parm3(5), "背景色"), EndColrData};
-DLG_NUMRBOX ProjPage33_Numr[] = {Number(0, 0, Parm3(6), 0, 99, "枠幅"), EndNumrBox};
-DLG_COLRDATA ProjPage33_Colr[] = {Colour(0, 1, Parm3(7), "枠色  "), EndColrData};
+DLG_NUMRBOX ProjPage31_Numr[] = {Number(0, 0, Parm3(ChildSlot::TitleHeight), 0, 99, "高さ"),
+                                 EndNumrBox};
+DLG_COLRDATA ProjPage31_Colr[] = {Colour(0, 1, Parm3(ChildSlot::TitleColour), "前景色"),
+                                  Colour(0, 2, Parm3(ChildSlot::TitleAreaColour), "背景色"),
+                                  EndColrData};
+DLG_COMBOBOX ProjPage31_Combo[] = {Choice(1, 1, 3, Parm3(ChildSlot::TitleFont), FontNameList),
+                                   EndComboBox};
+DLG_RADIOBUTN ProjPage31_Radio[] = {Radio(2, 1, Parm3(ChildSlot::TitleCentred), 0, "左端"),
+                                    Radio(2, 2, Parm3(ChildSlot::TitleCentred), 1, "中央"),
+                                    EndRadioButn};
+DLG_COLRDATA ProjPage32_Colr[] = {Colour(0, 0, Parm3(ChildSlot::WorkAreaColour), "背景色"),
+                                  EndColrData};
+DLG_NUMRBOX ProjPage33_Numr[] = {Number(0, 0, Parm3(ChildSlot::FrameWidth), 0, 99, "枠幅"),
+                                 EndNumrBox};
+DLG_COLRDATA ProjPage33_Colr[] = {Colour(0, 1, Parm3(ChildSlot::FrameColour), "枠色  "),
+                                  EndColrData};
 
 // Other.
 
-DLG_RADIOBUTN ProjPage41_Radio[] = {Radio(0, 0, Parm4(0), 0, "矢印"),
-                                    Radio(0, 1, Parm4(0), 1, "十字"),
-                                    Radio(0, 2, Parm4(0), 2, "砂時計"), EndRadioButn};
-DLG_COLRDATA ProjPage42_Colr[] = {Colour(0, 0, Parm4(1), "前景色"),
-                                  Colour(0, 1, Parm4(2), "背景色"), EndColrData};
+DLG_RADIOBUTN ProjPage41_Radio[] = {Radio(0, 0, Parm4(CommonSlot::MouseCursor), 0, "矢印"),
+                                    Radio(0, 1, Parm4(CommonSlot::MouseCursor), 1, "十字"),
+                                    Radio(0, 2, Parm4(CommonSlot::MouseCursor), 2, "砂時計"),
+                                    EndRadioButn};
+DLG_COLRDATA ProjPage42_Colr[] = {Colour(0, 0, Parm4(CommonSlot::KeyColour), "前景色"),
+                                  Colour(0, 1, Parm4(CommonSlot::KeyBackColour), "背景色"),
+                                  EndColrData};
 DLG_STRING ProjPage43_String[] = {Label(0, "縱"), Label(0, "横", 2), EndString};
-DLG_COMBOBOX ProjPage43_Combo[] = {Choice(0, 1, 1, Parm4(3), GridIntvList),
-                                   Choice(0, 3, 3, Parm4(4), GridIntvList), EndComboBox};
-DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Parm4(5), "表示色"), EndColrData};
+DLG_COMBOBOX ProjPage43_Combo[] = {Choice(0, 1, 1, Parm4(CommonSlot::GridX), GridIntvList),
+                                   Choice(0, 3, 3, Parm4(CommonSlot::GridY), GridIntvList),
+                                   EndComboBox};
+DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Parm4(CommonSlot::GridColour), "表示色"),
+                                  EndColrData};
 
 std::span<const ProjectPage> ProjectPages() {
   static const ProjectFrame general[] = {{nullptr,

@@ -1,5 +1,6 @@
 // Checking the project settings.
 #include "ProjData.h"
+#include "layout/ProjectSlots.h"
 #include "layout/Screen.h"
 
 GtkWidget* EditProj = nullptr;
@@ -12,12 +13,17 @@ gint CheckProjData() {
       {EditName[0] == '\0', "プロジェクト名が設定されていません。"},
       {EditPath[0] == '\0', "プロジェクトデータを格納するフォルダーが設定されていません。"},
       {EditData.ProgPath[0] == '\0', "ロジックデータを格納するフォルダーが設定されていません。"},
-      {EditData.Parm2[5] != 0 && EditData.LogoName[0] == '\0',
+      {EditData.Parm2[ParentSlot::LogoShown] != 0 && EditData.LogoName[0] == '\0',
        "ロゴマーク名称が設定されていません。"},
-      {EditData.Parm2[0] < 0 || EditData.Parm2[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm2[12] < 0 || EditData.Parm2[12] > 99, "ボタン領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[0] < 0 || EditData.Parm3[0] > 99, "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[6] < 0 || EditData.Parm3[6] > 99, "外形枠幅 (設定範囲 0 〜 99)"},
+      {EditData.Parm2[ParentSlot::TitleHeight] < 0 || EditData.Parm2[ParentSlot::TitleHeight] > 99,
+       "タイトル領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm2[ParentSlot::ButtonAreaHeight] < 0 ||
+           EditData.Parm2[ParentSlot::ButtonAreaHeight] > 99,
+       "ボタン領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm3[ChildSlot::TitleHeight] < 0 || EditData.Parm3[ChildSlot::TitleHeight] > 99,
+       "タイトル領域の高さ (設定範囲 0 〜 99)"},
+      {EditData.Parm3[ChildSlot::FrameWidth] < 0 || EditData.Parm3[ChildSlot::FrameWidth] > 99,
+       "外形枠幅 (設定範囲 0 〜 99)"},
   };
   for (const auto& rule : rules)
     if (rule.Broken) {

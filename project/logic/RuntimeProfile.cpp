@@ -1,6 +1,7 @@
 #include "project/logic/RuntimeProfile.h"
 
 #include "layout/Guards.h"
+#include "layout/ProjectSlots.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
 #include "support/Text.h"
@@ -53,7 +54,7 @@ std::string Field(std::string_view profile, std::string_view section, std::strin
 }
 
 void SetProject(std::string& runtime, const PROJDATA& project, std::string_view projectFolder) {
-  const SIZE size = DisplaySize(project.Parm1[0]);
+  const SIZE size = DisplaySize(project.Parm1[ProjectSlot::DisplaySize]);
   SetCommented(runtime, "VARNIXPACK", "DISPSIZE",
                std::to_string(size.cx) + "," + std::to_string(size.cy), SizeComment);
   SetCommented(runtime, "VARNIXPACK", "PROJECT", projectFolder, FolderComment);

@@ -1,45 +1,62 @@
+#include <span>
+
 #include "ProjData.h"
 #include "PtrnMisc.h"
+#include "layout/ProjectSlots.h"
 
 namespace {
 
 constexpr gchar Section[] = "PROJDATA";
 
-// A profile key and the fields that it fills, unused ones null.
+// A profile key and the parameters that it fills, in the order of its fields.
 struct DefaultKey {
   const gchar* Name;
-  const gchar* Format;
-  gint* Fields[3];
+  gsize Count;
+  gint Slots[3];
 };
 
-const DefaultKey DefaultKeys[] = {
-    {"PTRNSIZE", "i", {&EditData.Parm1[0]}},
-    {"LANGUAGE", "i", {&EditData.Parm1[1]}},
-    {"COLOR", "i", {&EditData.Parm1[2]}},
-    {"MAIN1", "iii", {&EditData.Parm2[0], &EditData.Parm2[1], &EditData.Parm2[2]}},
-    {"MAIN2", "ii", {&EditData.Parm2[3], &EditData.Parm2[4]}},
-    {"MAIN3", "ii", {&EditData.Parm2[5], &EditData.Parm2[6]}},
-    {"MAIN4", "ii", {&EditData.Parm2[7], &EditData.Parm2[8]}},
-    {"MAIN5", "ii", {&EditData.Parm2[9], &EditData.Parm2[10]}},
-    {"MAIN6", "i", {&EditData.Parm2[11]}},
-    {"MAIN7", "ii", {&EditData.Parm2[12], &EditData.Parm2[13]}},
-    {"CHILD1", "iii", {&EditData.Parm3[0], &EditData.Parm3[1], &EditData.Parm3[2]}},
-    {"CHILD2", "ii", {&EditData.Parm3[3], &EditData.Parm3[4]}},
-    {"CHILD3", "i", {&EditData.Parm3[5]}},
-    {"CHILD4", "ii", {&EditData.Parm3[6], &EditData.Parm3[7]}},
-    {"CHILD5", "ii", {&EditData.Parm3[8], &EditData.Parm3[9]}},
-    {"MOUSE", "i", {&EditData.Parm4[0]}},
-    {"KEYCOLOR", "ii", {&EditData.Parm4[1], &EditData.Parm4[2]}},
-    {"GRIDDATA", "iii", {&EditData.Parm4[3], &EditData.Parm4[4], &EditData.Parm4[5]}},
+constexpr DefaultKey GeneralKeys[] = {
+    {"PTRNSIZE", 1, {ProjectSlot::DisplaySize}},
+    {"LANGUAGE", 1, {ProjectSlot::Languages}},
+    {"COLOR", 1, {ProjectSlot::ColourSystems}},
 };
+constexpr DefaultKey ParentKeys[] = {
+    {"MAIN1", 3, {ParentSlot::TitleHeight, ParentSlot::TitleColour, ParentSlot::TitleAreaColour}},
+    {"MAIN2", 2, {ParentSlot::TitleFont, ParentSlot::TitleCentred}},
+    {"MAIN3", 2, {ParentSlot::LogoShown, ParentSlot::HardCopyShown}},
+    {"MAIN4", 2, {ParentSlot::VersionScreen, ParentSlot::DebugScreen}},
+    {"MAIN5", 2, {ParentSlot::DateFormat, ParentSlot::DateFont}},
+    {"MAIN6", 1, {ParentSlot::WorkAreaColour}},
+    {"MAIN7", 2, {ParentSlot::ButtonAreaHeight, ParentSlot::ButtonAreaColour}},
+};
+constexpr DefaultKey ChildKeys[] = {
+    {"CHILD1", 3, {ChildSlot::TitleHeight, ChildSlot::TitleColour, ChildSlot::TitleAreaColour}},
+    {"CHILD2", 2, {ChildSlot::TitleFont, ChildSlot::TitleCentred}},
+    {"CHILD3", 1, {ChildSlot::WorkAreaColour}},
+    {"CHILD4", 2, {ChildSlot::FrameWidth, ChildSlot::FrameColour}},
+    {"CHILD5", 2, {ChildSlot::Width, ChildSlot::Height}},
+};
+constexpr DefaultKey CommonKeys[] = {
+    {"MOUSE", 1, {CommonSlot::MouseCursor}},
+    {"KEYCOLOR", 2, {CommonSlot::KeyColour, CommonSlot::KeyBackColour}},
+    {"GRIDDATA", 3, {CommonSlot::GridX, CommonSlot::GridY, CommonSlot::GridColour}},
+};
+
+void ReadKeys(std::span<const DefaultKey> keys, gint* parm) {
+  static constexpr const gchar* Formats[] = {"", "i", "ii", "iii"};
+  for (const DefaultKey& key : keys)
+    ProfileRead1("", Section, key.Name, Formats[key.Count], parm + key.Slots[0],
+                 parm + key.Slots[1], parm + key.Slots[2]);
+}
 
 }  // namespace
 
 void ProjSetDefault() {
   ProfileRead1("", Section, "PROG", "s", EditData.ProgPath);
-  for (const DefaultKey& key : DefaultKeys) {
-    ProfileRead1("", Section, key.Name, key.Format, key.Fields[0], key.Fields[1], key.Fields[2]);
-  }
+  ReadKeys(GeneralKeys, EditData.Parm1);
+  ReadKeys(ParentKeys, EditData.Parm2);
+  ReadKeys(ChildKeys, EditData.Parm3);
+  ReadKeys(CommonKeys, EditData.Parm4);
   EditData.LogoName[0] = '\0';
   for (gint no = 0; no < ColrCount; ++no) {
     COLRDATA& colour = ColrData[no];

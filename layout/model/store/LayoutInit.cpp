@@ -2,6 +2,7 @@
 #include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/ProjectSlots.h"
 #include "layout/Store.h"
 #include "layout/model/store/ProjectLook.h"
 
@@ -16,8 +17,8 @@ void InitParentWindow(PTRNHEDR& header) {
 
 void InitChildWindow(PTRNHEDR& header) {
   header.Parm1[HedrSlot::Kind] = 1;
-  header.Parm1[HedrSlot::Width] = ProjData.Parm3[8];
-  header.Parm1[HedrSlot::Height] = ProjData.Parm3[9];
+  header.Parm1[HedrSlot::Width] = ProjData.Parm3[ChildSlot::Width];
+  header.Parm1[HedrSlot::Height] = ProjData.Parm3[ChildSlot::Height];
   header.Parm1[HedrSlot::TitlePosition] = TitleCentred;
   CopyChildLook(header, ProjData);
 }
