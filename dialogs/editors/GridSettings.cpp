@@ -1,10 +1,8 @@
 // The grid settings dialog of the open layout.
 #include "Constant.h"
 #include "dialogs/Editors.h"
-#include "dialogs/Kit.h"
-#include "dialogs/frame/Accessible.h"
-#include "dialogs/frame/DialogWindow.h"
-#include "dialogs/kit/ControlTables.h"
+#include "dialogs/frame/TableDialog.h"
+#include "dialogs/kit/Rows.h"
 #include "layout/ItemSlots.h"
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
@@ -16,9 +14,7 @@ PTRNHEDR DlgHedr;
 namespace {
 
 gint* Parm2(gint slot) {
-  char* record = reinterpret_cast<char*>(&DlgHedr);
-  const gsize offset = offsetof(PTRNHEDR, Parm2) + static_cast<gsize>(slot) * sizeof(gint);
-  return static_cast<gint*>(static_cast<void*>(record + offset));
+  return Rows::IntAt(&DlgHedr, offsetof(PTRNHEDR, Parm2) + static_cast<gsize>(slot) * sizeof(gint));
 }
 
 }  // namespace
@@ -35,13 +31,8 @@ DLG_COLRDATA PtrnGrid_Colr[] = {{2, 1, 1, Parm2(ViewSlot::GridColour), ""},
 
 namespace {
 
-void PtrnGridSet_OK(GtkWidget* /*button*/, GtkWidget* window) {
+void PtrnGridSet_OK() {
   PtrnHedr = DlgHedr;
-  gtk_widget_destroy(window);
-}
-
-void PtrnGridSet_CAN(GtkWidget* /*button*/, GtkWidget* window) {
-  gtk_widget_destroy(window);
 }
 
 }  // namespace
@@ -49,16 +40,10 @@ void PtrnGridSet_CAN(GtkWidget* /*button*/, GtkWidget* window) {
 void PtrnGridSet(GtkWidget* /*parent*/, gpointer /*data*/) {
   ClearToolBox();
   DlgHedr = PtrnHedr;
-  const DialogWindow dialog = NewDialogWindow("方眼設定");
-  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* table = NewControlGrid(20);
-  gtk_box_pack_start(GTK_BOX(dialog.Content), table, TRUE, TRUE, 0);
-  BuildControls(dialog.Window, table,
-                {.String = PtrnGrid_String, .Combo = PtrnGrid_Combo, .Colr = PtrnGrid_Colr});
-  NameControls(table);
-  SetDefaultButton(AddDialogButton(dialog, " 設定 ", G_CALLBACK(PtrnGridSet_OK), dialog.Window));
-  AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnGridSet_CAN), dialog.Window);
-  RunModal(dialog.Window, PtrnWnd);
+  RunTableDialog(PtrnWnd, {.Frame = {.Title = "方眼設定"},
+                           .Tables = ControlTables{.String = PtrnGrid_String,
+                                                   .Combo = PtrnGrid_Combo,
+                                                   .Colr = PtrnGrid_Colr},
+                           .Take = PtrnGridSet_OK});
   DrawRequest(1);
 }

@@ -7,6 +7,9 @@
 
 namespace {
 
+// Where the answer of a window that runs goes.
+constexpr const gchar* AnswerKey = "varnix-dialog-answer";
+
 // At once, not when the loop is idle as gtk_window_close does: a second press must find no window.
 void AskToClose(GtkWidget* window) {
   GdkEvent* event = gdk_event_new(GDK_DELETE);
@@ -20,6 +23,11 @@ gboolean CloseOnEscape(GtkWidget* window, const GdkEventKey* event, gpointer /*d
   if (event->keyval != GDK_KEY_Escape) return FALSE;
   AskToClose(window);
   return TRUE;
+}
+
+void NoteEnd(GtkWidget* window, bool* open) {
+  g_object_set_data(G_OBJECT(window), AnswerKey, nullptr);
+  *open = false;
 }
 
 }  // namespace
@@ -74,20 +82,31 @@ void SetDialogParent(GtkWidget* window, GtkWidget* parent) {
     gtk_window_set_transient_for(GTK_WINDOW(window), GTK_WINDOW(top));
 }
 
-void RunModal(GtkWidget* window, GtkWidget* parent) {
+gint RunModal(GtkWidget* window, GtkWidget* parent, gint otherwise) {
   gtk_window_set_modal(GTK_WINDOW(window), TRUE);
-  RunModeless(window, parent);
+  return RunModeless(window, parent, otherwise);
 }
 
 // The program's main loop may be told to end while a dialog is shown beside a usable main window.
-void RunModeless(GtkWidget* window, GtkWidget* parent) {
+gint RunModeless(GtkWidget* window, GtkWidget* parent, gint otherwise) {
+  gint answer = otherwise;
+  g_object_set_data(G_OBJECT(window), AnswerKey, &answer);
   SetDialogParent(window, parent);
   FitToScreen(window);
   bool open = true;
-  g_signal_connect_swapped(window, "destroy", G_CALLBACK(+[](bool* flag) { *flag = false; }),
-                           &open);
+  g_signal_connect(window, "destroy", G_CALLBACK(NoteEnd), &open);
   gtk_widget_show(window);
   while (open && (MainLoop == nullptr || g_main_loop_is_running(MainLoop)))
     g_main_context_iteration(nullptr, TRUE);
   if (open) gtk_widget_destroy(window);
+  return answer;
+}
+
+void CloseDialog(GtkWidget* inside, gint answer) {
+  GtkWidget* window = gtk_widget_get_toplevel(inside);
+  auto* taken = static_cast<gint*>(g_object_get_data(G_OBJECT(window), AnswerKey));
+  // Null when the dialog has gone meanwhile, below a message for example.
+  if (taken == nullptr) return;
+  *taken = answer;
+  gtk_widget_destroy(window);
 }

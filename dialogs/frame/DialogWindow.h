@@ -20,7 +20,10 @@ void LeaveOutActions(const DialogWindow& dialog);
 void SetDefaultButton(GtkWidget* button);
 // Keeps `window` above the window that `parent` lies in; nothing happens without one.
 void SetDialogParent(GtkWidget* window, GtkWidget* parent);
-// Shows the window, holds the grab and returns when the window has been destroyed.
-void RunModal(GtkWidget* window, GtkWidget* parent);
+// Shows the window, holds the grab and returns when the window has been destroyed: the answer that
+// CloseDialog gave, `otherwise` when it was closed in another way.
+gint RunModal(GtkWidget* window, GtkWidget* parent, gint otherwise = 0);
 // The same without the grab: the windows below stay usable.
-void RunModeless(GtkWidget* window, GtkWidget* parent);
+gint RunModeless(GtkWidget* window, GtkWidget* parent, gint otherwise = 0);
+// Destroys the dialog that `inside` lies in and has what runs it return `answer`.
+void CloseDialog(GtkWidget* inside, gint answer);

@@ -1,4 +1,4 @@
-#include "dialogs/frame/DialogWindow.h"
+#include "dialogs/frame/DialogFrame.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
 #include "layout/Screen.h"
@@ -13,8 +13,7 @@ constexpr const gchar* ButtonLabels[4][3] = {
     {}, {" 確認 "}, {" はい ", " いいえ "}, {" はい ", " いいえ ", " キャンセル "}};
 
 void Message_Button(GtkWidget* button, gpointer data) {
-  MessageButnNo = GPOINTER_TO_INT(data);
-  gtk_widget_destroy(gtk_widget_get_toplevel(button));
+  CloseDialog(button, GPOINTER_TO_INT(data));
 }
 
 void AddMessage(GtkWidget* box, const gchar* text) {
@@ -41,15 +40,16 @@ void AddButtons(GtkWidget* box, gint set) {
 gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, const gchar* mesg2,
                     gint butn) {
   MessageButnNo = 0;
-  const DialogWindow dialog = NewDialogWindow(title);
-  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER_ON_PARENT);
-  gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
-  gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
-  LeaveOutActions(dialog);
-  AddMessage(dialog.Content, mesg1);
-  AddMessage(dialog.Content, mesg2);
-  AddButtons(dialog.Content, butn >= 1 && butn <= 3 ? butn : 0);
-  RunModal(dialog.Window, parent);
+  MessageButnNo =
+      RunDialog(parent, {.Title = title,
+                         .Build =
+                             [=](const DialogWindow& dialog) {
+                               gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
+                               gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
+                               AddMessage(dialog.Content, mesg1);
+                               AddMessage(dialog.Content, mesg2);
+                               AddButtons(dialog.Content, butn >= 1 && butn <= 3 ? butn : 0);
+                             },
+                         .Place = GTK_WIN_POS_CENTER_ON_PARENT});
   return MessageButnNo;
 }

@@ -9,13 +9,17 @@ GtkWidget* NewControlGrid(guint columnSpacing) {
   return table;
 }
 
+// A builder without a table is not called: it would take this window for the one of its controls.
 void BuildControls(GtkWidget* parent, GtkWidget* table, const ControlTables& tables) {
-  Dlg_String(parent, table, tables.String);
-  Dlg_EditBox(parent, table, tables.Edit);
-  Dlg_NumrBox(parent, table, tables.Numr);
-  Dlg_ComboBox(parent, table, tables.Combo);
-  Dlg_RadioButn(parent, table, tables.Radio);
-  Dlg_CheckButn(parent, table, tables.Check);
-  Dlg_ColrData(parent, table, tables.Colr);
-  Dlg_MarkData(parent, table, tables.Mark);
+  const auto build = [parent, table](auto* builder, auto* rows) {
+    if (rows != nullptr) builder(parent, table, rows);
+  };
+  build(Dlg_String, tables.String);
+  build(Dlg_EditBox, tables.Edit);
+  build(Dlg_NumrBox, tables.Numr);
+  build(Dlg_ComboBox, tables.Combo);
+  build(Dlg_RadioButn, tables.Radio);
+  build(Dlg_CheckButn, tables.Check);
+  build(Dlg_ColrData, tables.Colr);
+  build(Dlg_MarkData, tables.Mark);
 }

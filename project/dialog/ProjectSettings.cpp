@@ -6,7 +6,7 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/Editors.h"
 #include "dialogs/frame/Accessible.h"
-#include "dialogs/frame/DialogWindow.h"
+#include "dialogs/frame/TableDialog.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
 #include "layout/Screen.h"
@@ -15,9 +15,8 @@
 
 namespace {
 
-enum Result { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
+enum Result { Cancelled = 0, DefaultsRestored = 2 };
 
-gint EditResult = Cancelled;
 // Folder that a logo was chosen from, "" while none was.
 std::string EditLogoPath;
 // The logo itself there, in the file system's bytes; the record's name for it is EUC-JP.
@@ -25,28 +24,13 @@ std::string EditLogoFile;
 
 enum EditRow { NameRow, FolderRow, ProgramRow };
 
-void Finish(gint result) {
-  EditResult = result;
-  gtk_widget_destroy(EditProj);
-}
-
 // A logo goes into the bitmap folder of the folder that the project will have.
-void CopyLogo() {
+void EditProjData_OK() {
   const std::string folder = JoinPath(EditPath, "Bitmap", "");
   if (EditLogoPath.empty() || EditLogoPath == folder) return;
   CreateFolder(folder.c_str());
   const std::string logo(FieldText(EditData.LogoName));
   FileCopy("", EditLogoFile.c_str(), "", folder.c_str(), logo.c_str(), "");
-}
-
-void EditProjData_OK(GtkWidget* /*button*/, gpointer /*data*/) {
-  if (CheckProjData() == 0) return;
-  CopyLogo();
-  Finish(Registered);
-}
-
-void EditProjData_CAN(GtkWidget* /*button*/, gpointer /*data*/) {
-  gtk_widget_destroy(EditProj);
 }
 
 void PickFolder(DLG_EDITBOX* row, const gchar* title) {
@@ -67,11 +51,11 @@ void ProjPage1_Button3(GtkWidget* /*button*/, gpointer /*data*/) {
   EditColrData(EditProj, GINT_TO_POINTER(1));
 }
 
-void ProjPage1_Button4(GtkWidget* /*button*/, gpointer /*data*/) {
+void ProjPage1_Button4(GtkWidget* button, gpointer /*data*/) {
   const std::string program(FieldText(EditData.ProgPath));
   ProjSetDefault();
   if (EditData.ProgPath[0] == '\0') CopyText(EditData.ProgPath, program);
-  Finish(DefaultsRestored);
+  CloseDialog(button, DefaultsRestored);
 }
 
 void ProjPage2_Button(GtkWidget* /*button*/, gpointer /*data*/) {
@@ -132,6 +116,16 @@ void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
   gtk_notebook_append_page(GTK_NOTEBOOK(notebook), box, NewLabel(page.Tab));
 }
 
+void AddPages(const DialogWindow& dialog) {
+  GtkWidget* notebook = gtk_notebook_new();
+  SetAccessibleName(notebook, "設定の種類");
+  gint number = 0;
+  for (const ProjectPage& page : ProjectPages()) AddPage(notebook, number++, page);
+  gtk_container_set_border_width(GTK_CONTAINER(notebook), 10);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), notebook, TRUE, TRUE, 0);
+  gtk_widget_show(notebook);
+}
+
 }  // namespace
 
 gint EditProjData(GtkWidget* parent, const gchar* title) {
@@ -140,23 +134,11 @@ gint EditProjData(GtkWidget* parent, const gchar* title) {
     gtk_window_present(GTK_WINDOW(EditProj));
     return Cancelled;
   }
-  EditResult = Cancelled;
   EditLogoPath.clear();
-  const DialogWindow dialog = NewDialogWindow(title);
-  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  EditProj = dialog.Window;
-  GtkWidget* notebook = gtk_notebook_new();
-  SetAccessibleName(notebook, "設定の種類");
-  gint number = 0;
-  for (const ProjectPage& page : ProjectPages()) AddPage(notebook, number++, page);
-  gtk_container_set_border_width(GTK_CONTAINER(notebook), 10);
-  gtk_box_pack_start(GTK_BOX(dialog.Content), notebook, TRUE, TRUE, 0);
-  gtk_widget_show(notebook);
-  SetDefaultButton(AddDialogButton(dialog, " 登録 ", G_CALLBACK(EditProjData_OK), nullptr));
-  AddDialogButton(dialog, " 取消 ", G_CALLBACK(EditProjData_CAN), nullptr);
-  gtk_widget_grab_focus(ProjPage1_Edit[NameRow].entry);
-  RunModeless(dialog.Window, parent);
-  EditProj = nullptr;
-  return EditResult;
+  return RunTableDialog(
+      parent, {.Frame = {.Title = title, .Build = AddPages, .Modal = false, .Window = &EditProj},
+               .First = &ProjPage1_Edit[NameRow],
+               .Ok = " 登録 ",
+               .Check = CheckProjData,
+               .Take = EditProjData_OK});
 }
