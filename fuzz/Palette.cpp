@@ -1,4 +1,5 @@
 // The palette: read into the drawing colours, and written as it was read.
+#include "render/Palette.h"
 #include "Fuzz.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"

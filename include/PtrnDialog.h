@@ -5,4 +5,7 @@
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
 #include "dialogs/ToolBox.h"
+#include "dialogs/ToolBoxWindow.h"
+#include "layout/CopyDialogs.h"
+#include "layout/LayoutSettings.h"
 #include "layout/Screen.h"

@@ -2,8 +2,11 @@
 #pragma once
 
 #include "Types.h"
+#include "render/FontTable.h"
 #include "render/HitTest.h"
 #include "render/Layout.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"

@@ -2,12 +2,11 @@
 #pragma once
 
 #include "Types.h"
+#include "render/FontTable.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
 #include "support/Files.h"
 #include "support/Profile.h"
+#include "support/Program.h"
 #include "support/Resource.h"
 #include "support/Text.h"
-
-// Folder of the running executable, file-system bytes, no trailing "/". Written once at start-up.
-extern gchar PathName[258];
-// Data version written into project and layout files.
-extern gint Version;

@@ -1,4 +1,5 @@
-#include "PtrnMisc.h"
+#include "support/Program.h"
+#include "support/Resource.h"
 
 gchar PathName[258];
 gint Version = 1001;

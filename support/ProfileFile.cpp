@@ -5,9 +5,9 @@
 
 #include <cerrno>
 
-#include "PtrnMisc.h"
 #include "support/FileHandle.h"
 #include "support/FileTools.h"
+#include "support/Program.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "project/check/Check.h"
-#include "PtrnDraw.h"
-#include "PtrnMisc.h"
+#include "render/FontTable.h"
+#include "render/Primitives.h"
 #include "tools/Commands.h"
 #include "tools/FindingText.h"
 #include "tools/OpenProject.h"

@@ -5,10 +5,11 @@
 #include <cstdio>
 #include <vector>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectRecord.h"
 #include "project/check/Check.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
 #include "tools/Commands.h"
 #include "tools/FindingText.h"
 #include "tools/OpenProject.h"

@@ -1,12 +1,12 @@
 #include <set>
 
 #include "Constant.h"
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/ProjectSlots.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Text.h"
 #include "tools/Commands.h"
 #include "tools/InputFile.h"
 #include "tools/OpenProject.h"

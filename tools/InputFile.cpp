@@ -10,8 +10,8 @@
 #include <cstring>
 #include <memory>
 
-#include "ProjData.h"
 #include "layout/Records.h"
+#include "project/ProjectRecord.h"
 #include "support/Resource.h"
 #include "support/Text.h"
 #include "tools/Report.h"

@@ -4,10 +4,19 @@
 #include <iterator>
 
 #include "Constant.h"
-#include "ProjData.h"
-#include "PtrnData.h"
-#include "PtrnDraw.h"
+#include "layout/EditState.h"
+#include "layout/ItemSlots.h"
+#include "layout/Records.h"
+#include "layout/Store.h"
+#include "project/ProjectRecord.h"
+#include "render/FontTable.h"
+#include "render/Layout.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
+#include "render/Primitives.h"
+#include "render/Surface.h"
 #include "support/FileTools.h"
+#include "support/Resource.h"
 #include "tools/Report.h"
 
 namespace {

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "PtrnMisc.h"
+#include "project/ProjectFiles.h"
 #include "project/model/LayoutNames.h"
+#include "support/Text.h"
 #include "tools/InputFile.h"
 #include "tools/Report.h"
 #include "tools/json/ProjectFile.h"

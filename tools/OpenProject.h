@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "ProjData.h"
-
 // Opens a project file: sets ProjFlag, ProjName, ProjPath, BmapPath and ProjData. False = failed,
 // the reason has been told.
 bool OpenProject(const std::string& file);

@@ -1,6 +1,6 @@
 #include <unistd.h>
 
-#include "PtrnMisc.h"
+#include "support/Program.h"
 #include "tools/InputFile.h"
 #include "tools/OpenProject.h"
 #include "tools/Report.h"

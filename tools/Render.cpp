@@ -1,8 +1,10 @@
 #include <algorithm>
 
-#include "PtrnDraw.h"
-#include "PtrnMisc.h"
+#include "render/Layout.h"
+#include "render/Surface.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Text.h"
 #include "tools/Commands.h"
 #include "tools/LayoutView.h"
 #include "tools/OpenProject.h"

@@ -4,8 +4,10 @@
 #include <array>
 
 #include "Constant.h"
-#include "PtrnData.h"
-#include "PtrnDraw.h"
+#include "layout/Records.h"
+#include "layout/Store.h"
+#include "render/Primitives.h"
+#include "render/Surface.h"
 #include "render/surface/Plane.h"
 #include "tools/InputFile.h"
 #include "tools/LayoutView.h"

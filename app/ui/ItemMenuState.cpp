@@ -1,6 +1,7 @@
 #include <iterator>
 
 #include "app/Menus.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
 
 void SetMenuActive2(gint flags) {

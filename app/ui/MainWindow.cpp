@@ -7,6 +7,7 @@
 #include "app/ui/CanvasScroll.h"
 #include "app/ui/Holders.h"
 #include "app/ui/WindowPlace.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
 #include "layout/Commands.h"
 #include "render/Primitives.h"

@@ -1,9 +1,10 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/kit/Cells.h"
 #include "layout/Screen.h"
+#include "project/ProjectRecord.h"
+#include "support/Files.h"
 #include "support/KeptResources.h"
+#include "support/Text.h"
 
 bool TakePicture(const gchar* chosen, DLG_EDITBOX* row, std::string* folder) {
   gchar path[PathSize];

@@ -3,8 +3,9 @@
 
 #include "dialogs/editors/MarkSet.h"
 #include "dialogs/kit/Cells.h"
+#include "layout/EditWindows.h"
 #include "layout/Mouse.h"
-#include "layout/Screen.h"
+#include "render/MarkFile.h"
 
 namespace {
 

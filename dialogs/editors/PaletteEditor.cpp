@@ -8,8 +8,9 @@
 #include "dialogs/kit/RecentColours.h"
 #include "dialogs/kit/SwatchArea.h"
 #include "dialogs/kit/SwatchGrid.h"
+#include "layout/EditWindows.h"
 #include "layout/Mouse.h"
-#include "layout/Screen.h"
+#include "render/Palette.h"
 #include "render/Primitives.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "dialogs/frame/ScreenRoom.h"
 #include "dialogs/kit/LatePress.h"
 
-#include "layout/Screen.h"
+#include "layout/EditWindows.h"
 
 namespace {
 

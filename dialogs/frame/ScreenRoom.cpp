@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "dialogs/frame/Accessible.h"
-#include "layout/Screen.h"
+#include "layout/EditWindows.h"
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/DialogWindow.h"
 #include "dialogs/frame/ScreenRoom.h"
 #include "dialogs/kit/Cells.h"

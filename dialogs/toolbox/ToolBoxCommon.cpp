@@ -1,5 +1,6 @@
 // The section of the tool box that all types share, and the point read-outs.
 #include "Constant.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/toolbox/ToolBoxPage.h"

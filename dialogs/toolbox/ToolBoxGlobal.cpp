@@ -1,3 +1,3 @@
-#include "layout/Screen.h"
+#include "dialogs/ToolBoxWindow.h"
 
 GtkWidget* ToolBox = nullptr;

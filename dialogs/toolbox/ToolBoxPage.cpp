@@ -2,9 +2,9 @@
 #include "dialogs/toolbox/ToolBoxPage.h"
 #include "dialogs/kit/LatePress.h"
 
-#include "ProjData.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/kit/Cells.h"
+#include "project/ProjectRecord.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Which tables make up the page of each type.
-#include "ProjData.h"
 #include "dialogs/toolbox/ToolBoxPage.h"
 #include "dialogs/toolbox/ToolBoxTables.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
 namespace {

@@ -8,14 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "ProjData.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/ToolBox.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "dialogs/choosers/ChooserWindow.h"
 #include "dialogs/choosers/NameList.h"
 #include "dialogs/kit/Cells.h"
 #include "layout/Registry.h"
-#include "layout/Screen.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Text.h"

@@ -1,4 +1,4 @@
-// Committing the item in hand: validation, snapping, storing, registering.
+// Committing the item in hand: validating, snapping, storing, registering.
 #pragma once
 
 #include "layout/Records.h"
@@ -12,10 +12,3 @@ void ToolButn_Copy();
 gint TestPtrnData();
 // Shows message k; always 0.
 gint DispErrorMesg(gint k);
-
-// First rule that a (snapped) item breaks, as an index into ErrorMessage; -1 = valid.
-gint CheckPtrnData(const PTRNDATA* item);
-// Snaps the item's points to the grid and orders them as its type asks.
-void NormalizeZahyo(PTRNDATA* item);
-// Snaps a point to the nearest line of the grid, or of the half grid.
-void NormalizePoint(POINT* point, gint half);

@@ -1,16 +1,9 @@
-// What the editing asks of the screen. The program links the real functions, a test its own.
+// What the editing asks of the dialogs and of the main window. The program links the real
+// functions, a test its own. No other call leads up from floor 4 (see scripts/check-floors).
 #pragma once
 
+#include "layout/EditWindows.h"
 #include "layout/Records.h"
-
-extern GtkWidget* PtrnWnd;
-extern GtkWidget* ToolBox;
-// The settings dialogs of a layout and of the project while they are open, null else: parents of
-// the messages about what was entered. Written by the dialogs.
-extern GtkWidget* EditLayoutWindow;
-extern GtkWidget* EditProj;
-// The program's main loop while it runs, else null. Written by main.
-extern GMainLoop* MainLoop;
 
 // Canvas.
 void SetCursor(gint no);
@@ -31,17 +24,14 @@ void Dlg_ToolBox(GtkWidget* parent, gint type);
 void SaveToolBox();
 void SetToolBoxPoint();
 void SetToolBoxCursor();
-void SetToolBoxButton(gint mode);
 
 // Dialogs. Texts are UTF-8.
 gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, const gchar* mesg2,
                     gint butn);
-gint Dlg_ToolCopy(GtkWidget* parent, DLGPARM* parm);
-gint Dlg_AreaCopy(GtkWidget* parent, DLGPARM* parm);
-gint Dlg_AreaMove(GtkWidget* parent, DLGPARM* parm);
 gint Dlg_Copy_Move(GtkWidget* parent, gint mode, const gchar* title, DLGPARM* parm);
+// Over the working copies of the settings.
 gint EditPtrnData(GtkWidget* parent);
-gint EditPtrnData_Check();
-gint EditPtrnData_Renew();
+gint EditProjData(GtkWidget* parent, const gchar* title);
 gint PtrnFileOpen(GtkWidget* parent);
 gint PtrnFileClose(GtkWidget* parent);
+gint ProjFileOpen(GtkWidget* parent);

@@ -51,19 +51,3 @@ gint FontDescriptorHeight(const gchar* descriptor);
 gint MarkDataGet(gint markno, const MARKDATA* markdata, gint xno, gint yno);
 // Sets (data 1) or clears a pixel; outside the mark nothing happens.
 void MarkDataSet(gint markno, MARKDATA* markdata, gint xno, gint yno, gint data);
-
-// Reads "PtrnColr" of the project folder, zeros when missing or short, and rebuilds the colours.
-void LoadColrFile();
-// Rebuilds the colours and writes "PtrnColr", except while the settings of a new project are shown.
-void SaveColrFile();
-// The same for the marks and "PtrnMark".
-void LoadMarkFile();
-void SaveMarkFile();
-// Rebuilds the font table for `Language`, which a non-zero mode first takes from the profile, then
-// the fonts.
-void FontDataInit(gint mode);
-
-// Rebuild the drawing resources from ColrData, FontName and MarkData.
-void SetDrawColr();
-void SetDrawFont();
-void SetDrawMark();

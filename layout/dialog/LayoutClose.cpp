@@ -1,6 +1,4 @@
 // The dialog that decides what becomes of a changed layout.
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/Kit.h"
 #include "dialogs/choosers/NameList.h"
 #include "dialogs/frame/Accessible.h"
@@ -9,6 +7,9 @@
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"
 #include "layout/dialog/LayoutNames.h"
+#include "project/ProjectRecord.h"
+#include "support/Files.h"
+#include "support/Text.h"
 
 namespace {
 

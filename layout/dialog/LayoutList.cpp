@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/choosers/ChooserWindow.h"
 #include "dialogs/choosers/NameList.h"
 #include "dialogs/kit/Cells.h"
 #include "layout/Records.h"
 #include "layout/dialog/LayoutNames.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
 
 void ListLayouts(GtkWidget* list, bool incomplete) {
   ClearNames(list);

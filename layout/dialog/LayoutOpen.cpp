@@ -1,8 +1,6 @@
 // The dialog that chooses a layout to open.
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/choosers/NameList.h"
 #include "dialogs/kit/Cells.h"
@@ -10,6 +8,9 @@
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"
 #include "layout/dialog/LayoutNames.h"
+#include "project/ProjectRecord.h"
+#include "support/Files.h"
+#include "support/Text.h"
 
 gchar PtrnFileName[82];
 

@@ -1,6 +1,5 @@
 // The settings dialog of a layout, over the working copy EditHedr.
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "layout/LayoutSettings.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/frame/TableDialog.h"
 #include "dialogs/kit/LatePress.h"

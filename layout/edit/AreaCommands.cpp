@@ -2,6 +2,7 @@
 
 #include "layout/Area.h"
 #include "layout/Commands.h"
+#include "layout/CopyDialogs.h"
 #include "layout/EditState.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "layout/Commands.h"
+#include "layout/CopyDialogs.h"
 #include "layout/EditState.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"

@@ -1,4 +1,5 @@
 // Which form of the copy and move dialog a command asks with.
+#include "layout/CopyDialogs.h"
 #include "layout/Screen.h"
 
 namespace {

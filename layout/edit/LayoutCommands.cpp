@@ -1,4 +1,3 @@
-#include "ProjData.h"
 #include "layout/Commands.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
@@ -6,6 +5,7 @@
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
+#include "project/ProjectRecord.h"
 #include "support/Profile.h"
 #include "support/Text.h"
 

@@ -1,8 +1,9 @@
 // Checking the layout settings.
-#include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
+#include "layout/LayoutSettings.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "support/Resource.h"
 
 GtkWidget* EditLayoutWindow = nullptr;
 

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ProjData.h"
 #include "layout/Commands.h"
 #include "layout/EditState.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/MouseStates.h"
 #include "layout/edit/OwnFile.h"
+#include "project/ProjectRecord.h"
 
 void PtrnDataInit() {
   PtrnType = 0;

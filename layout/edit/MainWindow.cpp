@@ -1,3 +1,3 @@
-#include "layout/Screen.h"
+#include "layout/EditWindows.h"
 
 GtkWidget* PtrnWnd;

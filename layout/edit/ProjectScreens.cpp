@@ -1,9 +1,10 @@
 // Notes in the project which layout is its start screen and which its exit screen.
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
-#include "layout/Screen.h"
+#include "layout/LayoutSettings.h"
 #include "layout/Store.h"
+#include "project/ProjectRecord.h"
+#include "support/Files.h"
+#include "support/Text.h"
 
 namespace {
 

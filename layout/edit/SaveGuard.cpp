@@ -1,4 +1,3 @@
-#include "ProjData.h"
 #include "layout/Commands.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"

@@ -1,10 +1,10 @@
 // The one road to the layout file. What a save would cost is kept beside it first.
 #include <string>
 
-#include "ProjData.h"
 #include "layout/Commands.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 
 namespace {

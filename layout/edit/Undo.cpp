@@ -2,13 +2,14 @@
 // program. Slot PtrnSaveCount - 1 is the newest.
 #include <unistd.h>
 
-#include "PtrnMisc.h"
 #include "layout/Commands.h"
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Program.h"
 
 gchar PtrnSavePath[258];
 gchar PtrnSaveName[10][82];

@@ -9,6 +9,7 @@
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "render/FontTable.h"
 #include "support/Resource.h"
 
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "ProjData.h"
 #include "layout/Records.h"
+#include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
 // A layout as its file holds it, items in store order.

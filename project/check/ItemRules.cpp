@@ -2,8 +2,8 @@
 #include <array>
 
 #include "Constant.h"
-#include "layout/Commit.h"
 #include "layout/ItemSlots.h"
+#include "layout/Validate.h"
 #include "project/check/Rules.h"
 
 namespace {

@@ -1,13 +1,14 @@
 // The open project's files as the rules take them.
 #include <algorithm>
 
-#include "PtrnMisc.h"
 #include "layout/Registry.h"
 #include "layout/Store.h"
 #include "layout/model/file/RecordFile.h"
 #include "project/check/Check.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Resource.h"
 
 namespace {
 

@@ -1,13 +1,17 @@
 // Fonts and pictures as the canvas uses them.
 #include <array>
 
-#include "ProjData.h"
-#include "PtrnDraw.h"
-#include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
+#include "project/ProjectRecord.h"
 #include "project/check/Check.h"
+#include "render/FontTable.h"
+#include "render/Layout.h"
+#include "render/Primitives.h"
+#include "render/Surface.h"
 #include "render/pictures/PictureFiles.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Resource.h"
 
 namespace {
 

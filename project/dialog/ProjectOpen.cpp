@@ -2,16 +2,20 @@
 #include <string>
 #include <vector>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/choosers/ChooserWindow.h"
 #include "dialogs/choosers/NameList.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/EntryLook.h"
+#include "layout/Screen.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Profile.h"
 #include "support/ProfileFile.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
 // The project settings dialog. It edits working copies; its callers take them over.
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "dialogs/Choosers.h"
 #include "dialogs/Editors.h"
 #include "dialogs/frame/Accessible.h"
@@ -10,8 +8,13 @@
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
 #include "layout/Screen.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "project/dialog/ProjectSettingsPages.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "project/dialog/ProjectSettingsPages.h"
 
 #include "Constant.h"
-#include "ProjData.h"
 #include "dialogs/kit/Rows.h"
 #include "layout/ProjectSlots.h"
+#include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
 using namespace Rows;

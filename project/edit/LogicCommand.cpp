@@ -1,5 +1,7 @@
-#include "ProjData.h"
 #include "layout/Screen.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectRecord.h"
 
 void LogicDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   if (ProjData.ProgPath[0] == '\0') {

@@ -1,13 +1,19 @@
 #include <algorithm>
 #include <iterator>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Commands.h"
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
 #include "support/KeptResources.h"
+#include "support/Profile.h"
+#include "support/Resource.h"
+#include "support/Text.h"
 
 namespace {
 

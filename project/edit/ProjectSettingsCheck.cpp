@@ -1,7 +1,8 @@
 // Checking the project settings.
-#include "ProjData.h"
 #include "layout/ProjectSlots.h"
 #include "layout/Screen.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectRecord.h"
 
 GtkWidget* EditProj = nullptr;
 

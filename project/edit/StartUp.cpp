@@ -1,10 +1,16 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "project/ProjectCommands.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
+#include "render/FontTable.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
 #include "support/FileTools.h"
+#include "support/Profile.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ProjData.h"
+#include "project/LogicGeneration.h"
 #include "project/logic/LogicSource.h"
 
 bool Occurs(std::string_view line, std::string_view text) {

@@ -6,11 +6,13 @@
 #include <optional>
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Registry.h"
 #include "layout/Store.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectRecord.h"
 #include "project/model/LayoutNames.h"
+#include "support/Files.h"
+#include "support/Text.h"
 
 namespace {
 

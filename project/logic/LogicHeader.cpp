@@ -1,5 +1,6 @@
-#include "ProjData.h"
 #include "layout/Registry.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectRecord.h"
 #include "project/logic/LogicSource.h"
 #include "support/FileTools.h"
 

@@ -1,8 +1,8 @@
 #include <optional>
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectRecord.h"
 #include "project/logic/RuntimeProfile.h"
 #include "support/FileTools.h"
 #include "support/ProfileFile.h"

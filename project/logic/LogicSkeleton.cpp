@@ -2,11 +2,12 @@
 #include <optional>
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/LogicGeneration.h"
+#include "project/ProjectRecord.h"
 #include "project/logic/LogicSource.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "ProjData.h"
+#include "project/ProjectRecord.h"
 
 // A new profile with its sections and default keys.
 std::string NewRuntimeProfile();

@@ -2,7 +2,8 @@
 #include <optional>
 #include <string>
 
-#include "ProjData.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"

@@ -1,8 +1,10 @@
 #include <span>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/ProjectSlots.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
+#include "support/Profile.h"
+#include "support/Resource.h"
 
 namespace {
 

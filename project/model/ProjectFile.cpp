@@ -1,8 +1,11 @@
 #include <cstring>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Program.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -1,9 +1,11 @@
 #include <cstring>
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
+#include "support/Program.h"
 
 namespace {
 

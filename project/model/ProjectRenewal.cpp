@@ -1,8 +1,8 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "layout/model/store/ProjectLook.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
 #include "project/model/LayoutNames.h"
 
 namespace {

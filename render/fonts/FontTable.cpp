@@ -1,4 +1,5 @@
-#include "PtrnMisc.h"
+#include "render/FontTable.h"
+#include "support/Profile.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
 #include "support/Resource.h"

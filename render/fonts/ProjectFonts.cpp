@@ -1,3 +1,4 @@
+#include "render/FontTable.h"
 #include "render/fonts/DrawFonts.h"
 #include "support/Resource.h"
 

@@ -2,8 +2,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "ProjData.h"
 #include "layout/ItemSlots.h"
+#include "project/ProjectRecord.h"
 #include "render/Layout.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"

@@ -1,3 +1,4 @@
+#include "render/FontTable.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/fonts/DrawFonts.h"

@@ -1,8 +1,8 @@
 // The title area: colour, logo, title, hard-copy icon and clock.
 #include <string>
 
-#include "ProjData.h"
 #include "layout/Guards.h"
+#include "project/ProjectRecord.h"
 #include "render/Layout.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"

@@ -2,7 +2,7 @@
 #include <array>
 #include <string>
 
-#include "ProjData.h"
+#include "project/ProjectRecord.h"
 #include "render/Layout.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"

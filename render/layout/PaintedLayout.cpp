@@ -4,10 +4,10 @@
 #include <cstring>
 #include <new>
 
-#include "ProjData.h"
 #include "layout/EditState.h"
 #include "layout/Guards.h"
 #include "layout/Store.h"
+#include "project/ProjectRecord.h"
 #include "render/Layout.h"
 #include "render/Primitives.h"
 #include "render/layout/Calendar.h"

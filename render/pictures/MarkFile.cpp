@@ -1,3 +1,4 @@
+#include "render/MarkFile.h"
 #include "render/pictures/ResourceFile.h"
 
 namespace {

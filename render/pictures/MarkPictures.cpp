@@ -1,6 +1,7 @@
 #include <array>
 #include <cstring>
 
+#include "render/MarkFile.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 

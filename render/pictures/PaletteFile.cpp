@@ -1,3 +1,4 @@
+#include "render/Palette.h"
 #include "render/pictures/ResourceFile.h"
 
 namespace {

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <string>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Files.h"
 #include "support/KeptResources.h"
 
 template <typename Table>

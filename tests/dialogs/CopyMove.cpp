@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "dialogs/Controls.h"
+#include "layout/CopyDialogs.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 

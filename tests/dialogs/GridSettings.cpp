@@ -7,6 +7,7 @@
 #include "PtrnMisc.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

@@ -13,6 +13,7 @@
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBox.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "dialogs/kit/RecentColours.h"
 #include "layout/Screen.h"
 #include "window/LowScreen.h"

@@ -16,6 +16,8 @@
 #include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBox.h"
+#include "dialogs/ToolBoxWindow.h"
+#include "layout/CopyDialogs.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

@@ -13,6 +13,7 @@
 #include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
 #include "dialogs/ToolBox.h"
+#include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

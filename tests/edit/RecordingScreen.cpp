@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "ProjData.h"
+#include "dialogs/ToolBoxWindow.h"
+#include "layout/CopyDialogs.h"
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"

@@ -6,7 +6,7 @@
 #include "PtrnMisc.h"
 #include "edit/EditFixture.h"
 #include "layout/ItemSlots.h"
-#include "layout/Screen.h"
+#include "layout/LayoutSettings.h"
 #include "layout/Store.h"
 
 namespace {

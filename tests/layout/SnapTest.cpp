@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "layout/Commit.h"
+#include "layout/Snap.h"
 #include "layout/Store.h"
 #include "support/Resource.h"
 

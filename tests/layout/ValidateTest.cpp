@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "Constant.h"
-#include "layout/Commit.h"
+#include "layout/Validate.h"
 
 namespace {
 

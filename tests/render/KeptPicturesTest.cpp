@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "AsciiPicture.h"
+#include "render/MarkFile.h"
 #include "support/Resource.h"
 #include "tests/common/TempFolder.h"
 

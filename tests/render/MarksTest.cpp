@@ -3,6 +3,7 @@
 #include <string>
 
 #include "AsciiPicture.h"
+#include "render/MarkFile.h"
 #include "support/Resource.h"
 
 namespace {

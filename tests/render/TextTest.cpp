@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "AsciiPicture.h"
+#include "render/FontTable.h"
 #include "render/fonts/FontSet.h"
 #include "support/Resource.h"
 #include "support/Text.h"

@@ -5,7 +5,7 @@
 #include <chrono>
 #include <thread>
 
-#include "layout/Screen.h"
+#include "layout/EditWindows.h"
 #include "road/Seat.h"
 #include "window/Widgets.h"
 

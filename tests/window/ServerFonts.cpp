@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "render/FontTable.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 #include "support/Text.h"

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "layout/Screen.h"
+#include "layout/EditWindows.h"
 
 namespace {
 constexpr gint64 Patience = 30 * G_USEC_PER_SEC;

@@ -2,8 +2,9 @@
 #include <array>
 #include <iterator>
 
-#include "PtrnMisc.h"
 #include "layout/ItemSlots.h"
+#include "support/Program.h"
+#include "support/Text.h"
 #include "tools/json/Kinds.h"
 #include "tools/json/LayoutFile.h"
 #include "tools/json/SourceReader.h"

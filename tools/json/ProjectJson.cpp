@@ -1,7 +1,8 @@
 #include <cstring>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
+#include "project/ProjectRecord.h"
+#include "support/Program.h"
+#include "support/Text.h"
 #include "tools/json/Kinds.h"
 #include "tools/json/ProjectFile.h"
 #include "tools/json/SourceReader.h"

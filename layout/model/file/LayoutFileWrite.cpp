@@ -5,13 +5,14 @@
 #include <vector>
 
 #include "Constant.h"
-#include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/Store.h"
 #include "layout/model/file/StoredItem.h"
 #include "layout/model/file/TextWords.h"
 #include "support/BareMemory.h"
 #include "support/FileTools.h"
+#include "support/Program.h"
+#include "support/Text.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Registry.h"
 #include "layout/model/file/RecordFile.h"
+#include "project/ProjectRecord.h"
 
 namespace {
 

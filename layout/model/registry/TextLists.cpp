@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Registry.h"
 #include "layout/model/file/RecordFile.h"
+#include "project/ProjectRecord.h"
+#include "support/Text.h"
 
 namespace {
 

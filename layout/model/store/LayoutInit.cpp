@@ -1,10 +1,12 @@
-#include "ProjData.h"
-#include "PtrnMisc.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/ProjectSlots.h"
 #include "layout/Store.h"
 #include "layout/model/store/ProjectLook.h"
+#include "project/ProjectRecord.h"
+#include "support/Files.h"
+#include "support/Profile.h"
+#include "support/Text.h"
 
 namespace {
 

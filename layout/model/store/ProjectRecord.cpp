@@ -1,4 +1,4 @@
-#include "ProjData.h"
+#include "project/ProjectRecord.h"
 
 gint ProjFlag;
 gchar ProjName[82];

@@ -2,9 +2,9 @@
 #include <limits>
 
 #include "Constant.h"
-#include "layout/Commit.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/Snap.h"
 #include "layout/Store.h"
 
 namespace {

@@ -1,9 +1,9 @@
 #include <string_view>
 
 #include "Constant.h"
-#include "layout/Commit.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/Validate.h"
 
 namespace {
 
