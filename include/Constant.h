@@ -1,15 +1,15 @@
 // The constant lists. All texts are UTF-8; every text list ends with an empty text.
 #pragma once
 
-#include "Types.h"
+#include "layout/ItemSlots.h"
 
 // 1 for a type placed by two points, 0 for one placed by an anchor; index = type code, entry 0
 // unused.
-extern const gint PtrnDataType[16];
+extern const gint PtrnDataType[ItemTypeCount + 1];
 // The painting order: type codes, areas first, texts last. Layout files keep their items in it too.
-extern const gint PtrnTable[15];
+extern const gint PtrnTable[ItemTypeCount];
 // Names of the item types, index = type code - 1.
-extern const gchar* const PtrnTypeList[16];
+extern const gchar* const PtrnTypeList[ItemTypeCount + 1];
 // Processing types, index = ID_Type.
 extern const gchar* const IDCodeList[18];
 // Line styles and their codes.

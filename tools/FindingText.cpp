@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Constant.h"
+#include "layout/ItemTypes.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ std::string OneLine(std::string text) {
 std::string FindingLine(const Finding& finding) {
   std::string line = finding.Layout.empty() ? "project" : OneLine(finding.Layout);
   if (finding.Item >= 0)
-    line += ": item " + std::to_string(finding.Item) + " (" + PtrnTypeList[finding.Type - 1] + ")";
+    line += ": item " + std::to_string(finding.Item) + " (" + ItemTypeOf(finding.Type).Label + ")";
   if (!finding.Field.empty()) line += ": " + finding.Field;
   return line + ": " + finding.Message + " [" + finding.Code + "]\n";
 }

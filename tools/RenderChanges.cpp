@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "Constant.h"
 #include "layout/Records.h"
 #include "layout/Store.h"
 #include "render/Primitives.h"
@@ -34,7 +33,7 @@ constexpr gint Band = 2;
 // The box that an item takes once it has been painted, corners in order.
 ItemBox PaintedBox(const PTRNDATA& item) {
   ItemBox box = ItemBoxOf(item);
-  if (PtrnDataType[item.Type] == 0) {
+  if (!HasTwoPoints(item.Type)) {
     box.X2 = OnPlane(box.X1 + OnPlane(item.Size.cx));
     box.Y2 = OnPlane(box.Y1 + OnPlane(item.Size.cy));
   }

@@ -1,10 +1,8 @@
 #include "app/ui/MenuRows.h"
 
-#include "Constant.h"
 #include "app/ui/Holders.h"
 
 namespace {
-constexpr gint TypeCount = 15;
 
 GtkWidget* AddCheck(GtkWidget* menu, const gchar* label, MenuCallback callback, gint data) {
   GtkWidget* entry = CreateCheckMenu(menu, label, callback, data);
@@ -12,11 +10,20 @@ GtkWidget* AddCheck(GtkWidget* menu, const gchar* label, MenuCallback callback, 
   return entry;
 }
 
+void AddType(GtkWidget* menu, const MenuRow& row, const ItemTypeRow& type) {
+  const gint no = type.Type - 1;
+  KeepWidget(&row.Slot[no], AddCheck(menu, type.Label, row.Callback, no));
+}
+
 void AddTypes(GtkWidget* menu, const MenuRow& row) {
-  for (gint type = 0; type < TypeCount; type++) {
-    KeepWidget(&row.Slot[type], AddCheck(menu, PtrnTypeList[type], row.Callback, type));
-    // Areas and lines, texts, controls.
-    if (row.Kind == RowKind::GroupedTypes && (type == 4 || type == 7)) CreateSeparator(menu);
+  for (const ItemTypeRow& type : ItemTypes()) AddType(menu, row, type);
+}
+
+void AddFamilies(GtkWidget* menu, const MenuRow& row) {
+  for (const ItemFamily family : ItemFamilies) {
+    if (family != ItemFamilies[0]) CreateSeparator(menu);
+    for (const ItemTypeRow& type : ItemTypes())
+      if (type.Family == family) AddType(menu, row, type);
   }
 }
 
@@ -56,8 +63,10 @@ void BuildMenu(GtkWidget* menu, std::span<const MenuRow> rows, GtkAccelGroup* ke
         BuildMenu(CreateSubMenu(menu, row.Label), row.Rows, keys);
         break;
       case RowKind::Types:
-      case RowKind::GroupedTypes:
         AddTypes(menu, row);
+        break;
+      case RowKind::GroupedTypes:
+        AddFamilies(menu, row);
         break;
     }
   }

@@ -7,7 +7,7 @@
 
 enum class RowKind { Item, Check, Separator, SubMenu, Types, GroupedTypes };
 
-// One entry, or all fifteen item types (grouped: with separators between the families).
+// One entry, or all item types (grouped: with separators between the families).
 struct MenuRow {
   RowKind Kind = RowKind::Separator;
   const gchar* Label = nullptr;

@@ -49,9 +49,9 @@ constexpr EnableRule EnableRules[] = {
     {&EditMenu[0], 1, UndoPossible},
     {&EditMenu[1], 1, LayoutOpen},
     {&EditMenu[2], 2, ProjectOpen},
-    {PtrnSlct[0], 15, LayoutOpen},
-    {PtrnSlct[1], 15, LayoutOpen},
-    {PtrnSlct[2], 15, LayoutOpen},
+    {PtrnSlct[0], ItemTypeCount, LayoutOpen},
+    {PtrnSlct[1], ItemTypeCount, LayoutOpen},
+    {PtrnSlct[2], ItemTypeCount, LayoutOpen},
     {DispMenu, 4, LayoutOpen},
     {PtrnZoom1, 5, LayoutOpen},
     {PtrnZoom2, 5, LayoutOpen},
@@ -87,10 +87,14 @@ bool LanguageChosen(gint i) {
   return Language == i;
 }
 constexpr MarkRule MarkRules[] = {
-    {PtrnSlct[0], 15, TypeChosen},     {PtrnSlct[1], 15, TypeChosen},
-    {PtrnSlct[2], 15, TypeUnpickable}, {&DispMenu[1], 1, GridShown},
-    {&DispMenu[3], 1, GridShown},      {PtrnZoom1, 5, ZoomChosen},
-    {PtrnZoom2, 5, ZoomChosen},        {PtrnSetColr, 4, ColourChosen},
+    {PtrnSlct[0], ItemTypeCount, TypeChosen},
+    {PtrnSlct[1], ItemTypeCount, TypeChosen},
+    {PtrnSlct[2], ItemTypeCount, TypeUnpickable},
+    {&DispMenu[1], 1, GridShown},
+    {&DispMenu[3], 1, GridShown},
+    {PtrnZoom1, 5, ZoomChosen},
+    {PtrnZoom2, 5, ZoomChosen},
+    {PtrnSetColr, 4, ColourChosen},
     {PtrnSetLang, 3, LanguageChosen},
 };
 

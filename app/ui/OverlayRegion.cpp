@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "Constant.h"
 #include "PtrnData.h"
+#include "render/Layout.h"
 
 namespace {
 // Handles reach 5 pixels past the outline on either side.
@@ -27,7 +27,7 @@ Box ZoomedBox(gint64 x1, gint64 y1, gint64 x2, gint64 y2) {
 
 Box ItemBox() {
   const POINT& first = PtrnData.Point1;
-  if (IsItemType(PtrnData.Type) && PtrnDataType[PtrnData.Type] == 0)
+  if (IsItemType(PtrnData.Type) && !HasTwoPoints(PtrnData.Type))
     return ZoomedBox(first.x, first.y, gint64{first.x} + PtrnData.Size.cx,
                      gint64{first.y} + PtrnData.Size.cy);
   return ZoomedBox(first.x, first.y, PtrnData.Point2.x, PtrnData.Point2.y);
@@ -57,6 +57,5 @@ RegionPtr OverlayRegion(gint width, gint height) {
     return Outline(ZoomedBox(AreaPoint1.x, AreaPoint1.y, AreaPoint2.x, AreaPoint2.y));
   if (PtrnMode < ModeCreating || PtrnMode > ModeDragging) return RegionPtr(cairo_region_create());
 
-  const bool slanted = PtrnData.Type == TypeLine || PtrnData.Type == TypeEllipse;
-  return slanted ? Widened(ItemBox(), HandleReach) : Outline(ItemBox());
+  return OutlineCrossesBox(PtrnData.Type) ? Widened(ItemBox(), HandleReach) : Outline(ItemBox());
 }

@@ -18,7 +18,7 @@
 
 gint ToolBox_Type = 0;
 gint ToolBox_PointFlag = 0;
-POINT ToolBox_PointData[15];
+POINT ToolBox_PointData[ItemTypeCount];
 GtkWidget* ToolBoxButton[5];
 
 namespace {
@@ -34,7 +34,7 @@ constexpr gint RegisterCode = 0;
 constexpr gint RedisplayCode = 4;
 
 // Whether (0, 0) is where the panel of each type stood, not that it stood nowhere yet.
-bool IsParkedInCorner[15];
+bool IsParkedInCorner[ItemTypeCount];
 
 // Origin that the window manager told the panel last; nothing until it has told one.
 std::optional<POINT> ToldOrigin;
@@ -147,7 +147,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   // Outline and handles belong to the panel's item: they change with it.
   DrawRequest(0);
   if (!IsItemType(type)) return;
-  if (type == TypeVariableString || type == TypeNumeric) GetToolBoxCursor();
+  if (ItemTypeOf(type).HasCursorKeys) GetToolBoxCursor();
 
   const DialogWindow dialog = NewDialogWindow("");
   ToolBox = dialog.Window;

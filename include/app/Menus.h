@@ -3,7 +3,7 @@
 
 #include <gtk/gtk.h>
 
-#include "Types.h"
+#include "layout/ItemTypes.h"
 
 // The entries whose state changes; null while there is no menu. Written by the Create functions.
 extern GtkWidget* FileMenu[12];
@@ -16,7 +16,7 @@ extern GtkWidget* PtrnZoom2[5];
 extern GtkWidget* PtrnSetColr[4];
 extern GtkWidget* PtrnSetLang[3];
 // Item types: 0 edit menu, 1 pop-up menu, 2 types that cannot be picked.
-extern GtkWidget* PtrnSlct[3][15];
+extern GtkWidget* PtrnSlct[3][ItemTypeCount];
 // The item commands of pop-up menu 2.
 extern GtkWidget* ToolBoxMenu[5];
 

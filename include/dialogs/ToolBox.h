@@ -5,13 +5,14 @@
 #include <gtk/gtk.h>
 
 #include "dialogs/Kit.h"
+#include "layout/ItemTypes.h"
 
-// Type of the panel shown. 1..15.
+// Type of the panel shown.
 extern gint ToolBox_Type;
 // 0 until the first panel opens, then 1.
 extern gint ToolBox_PointFlag;
 // Where the panel of each type (index type - 1) stood last, screen dots; (0, 0) = nowhere yet.
-extern POINT ToolBox_PointData[15];
+extern POINT ToolBox_PointData[ItemTypeCount];
 // Read-outs of the start point (or position) and the end point; null while not shown.
 extern GtkWidget* ToolBox_Label1;
 extern GtkWidget* ToolBox_Label2;

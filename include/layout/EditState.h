@@ -1,7 +1,7 @@
 // State of the editing in the window, read by the overlay. Written by Mouse.h and Commands.h.
 #pragma once
 
-#include "Types.h"
+#include "layout/ItemTypes.h"
 
 enum PtrnModeCode {
   ModeIdle = 0,
@@ -27,7 +27,7 @@ extern POINT PtrnPoint3;
 extern POINT AreaPoint1;
 extern POINT AreaPoint2;
 // Per type - 1: non-zero = such items cannot be picked.
-extern gint PtrnUnSlct[15];
+extern gint PtrnUnSlct[ItemTypeCount];
 // Non-zero: the overlay shows the incomplete items.
 extern gint PtrnUndef;
 // Colour system shown, 0..3.

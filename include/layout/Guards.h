@@ -1,7 +1,7 @@
 // Numbers from files and profile pass these before they index anything. The stored value stays.
 #pragma once
 
-#include "Types.h"
+#include "layout/ItemTypes.h"
 
 struct PTRNHEDR;
 
@@ -18,9 +18,6 @@ gint TextIndex(gint language);
 // Whether a place, in layout dots, lies on a layout; one on its right or bottom edge lies beside
 // it.
 bool IsOnLayout(const PTRNHEDR& header, gint64 x, gint64 y);
-inline bool IsItemType(gint type) {
-  return type >= 1 && type <= 15;
-}
 inline bool IsColour(gint colour) {
   return colour >= 0 && colour <= 102;
 }

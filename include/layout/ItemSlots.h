@@ -22,7 +22,9 @@ enum ItemType {
   TypeMark = 13,
   TypeScrollBar = 14,
   TypeSpinButton = 15,
+  ItemTypeEnd
 };
+constexpr gint ItemTypeCount = ItemTypeEnd - 1;
 
 namespace ItemSlot {  // all types
 enum { X1 = 0, Y1 = 1, X2 = 2, Y2 = 3, TopLayer = 28, EraseColour = 29 };

@@ -4,6 +4,7 @@
 #include <ctime>
 
 #include "layout/Records.h"
+#include "render/Items.h"
 #include "render/Surface.h"
 
 // The layout's picture in layout dots.
@@ -22,25 +23,6 @@ void DrawPageData4(Drawable* drawable, DrawGc* gc);
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer);
 void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom);
 
-// One item of any type.
-void DrawPtrnItem(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-// The renderers, by type code. One-point types write the item's Size.
-void DrawPtrnData01(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData02(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData03(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData04(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData05(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData06(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData07(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData08(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData09(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData10(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData11(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData12(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData13(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData14(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-void DrawPtrnData15(Drawable* drawable, DrawGc* gc, PTRNDATA* item);
-
 // Outline and handles of an item at `zoom` percent. `undefined` 1: red, without handles.
 void DrawMoveData(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint zoom);
 void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
@@ -51,6 +33,9 @@ void DrawMoveData04(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint u
                     gint zoom);
 void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
                     gint zoom);
+
+// Whether an outline runs across the inside of its item's box, not along its edges alone.
+bool OutlineCrossesBox(gint type);
 
 // The clock of the title area: a fixed local time for pictures that must repeat; null = now.
 void SetPictureTime(const std::tm* time);

@@ -18,11 +18,6 @@
 
 namespace {
 
-// Types whose length parameter follows from their text.
-bool HasOwnText(gint type) {
-  return type == TypeFixedString || type == TypeRadioButton || type == TypeCheckBox;
-}
-
 gint TextLength(const PTRNDATA& item) {
   const std::array<std::string_view, 3> texts = {FieldText(item.Text1), FieldText(item.Text2),
                                                  FieldText(item.Text3)};
@@ -30,11 +25,12 @@ gint TextLength(const PTRNDATA& item) {
 }
 
 void FillParms() {
-  if (PtrnData.Type == TypeVariableString || PtrnData.Type == TypeNumeric) {
+  const ItemTypeRow& type = ItemTypeOf(PtrnData.Type);
+  if (type.HasCursorKeys) {
     SetToolBoxCursor();
   }
   SetPointParms(&PtrnData);
-  if (HasOwnText(PtrnData.Type)) {
+  if (type.Texts == ItemTexts::Words) {
     PtrnData.Parm[TextSlot::Length] = TextLength(PtrnData);
   }
 }

@@ -1,7 +1,6 @@
 #include "layout/edit/MouseStates.h"
 
 #include "Constant.h"
-#include "layout/Guards.h"
 #include "layout/Store.h"
 
 void RunState(const StateHandlers& handlers, const POINT& point) {
@@ -12,10 +11,6 @@ void RunState(const StateHandlers& handlers, const POINT& point) {
   if (handler != nullptr) {
     handler(point);
   }
-}
-
-bool HasTwoPoints(gint type) {
-  return IsItemType(type) && PtrnDataType[type] != 0;
 }
 
 void PlaceFreeEnd(const POINT& point) {

@@ -23,7 +23,5 @@ using StateHandlers = std::array<StateHandler, ModeArea + 1>;
 void RunState(const StateHandlers& handlers, const POINT& point);
 // Moves the free end of the item being dragged out: its second point, or its anchor.
 void PlaceFreeEnd(const POINT& point);
-// True for a type placed by two points.
-bool HasTwoPoints(gint type);
 // Cursor that tells what a press with this hit code would grab.
 gint CursorOfHit(gint hit);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "Constant.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
+#include "project/check/Rules.h"
 #include "support/Text.h"
 
 namespace {
@@ -14,39 +14,18 @@ constexpr gint Unknown = -1;
 constexpr std::size_t SearchLimit = 4096;
 
 bool Hides(const PTRNDATA& item) {
-  switch (item.Type) {
-    case TypeRectangle:
-    case TypeEllipse:
-      return item.Parm[ShapeSlot::Filled] != 0;
-    case TypeFrame:
-    case TypeBarGraph:
-    case TypeButton:
-    case TypeBitmap:
-    case TypeScrollBar:
-    case TypeSpinButton:
-      return true;
-    default:
-      return false;
-  }
+  const ItemTypeRow& type = ItemTypeOf(item.Type);
+  return type.Covers && IsOn(item, type.CoverSwitch);
 }
 
 gint ColourOf(const PTRNDATA& cover, gint system) {
-  switch (cover.Type) {
-    case TypeFrame:
-      return cover.Parm[FrameSlot::AreaColour + system];
-    case TypeRectangle:
-      return cover.Parm[ShapeSlot::FillColour + system];
-    case TypeButton:
-      return cover.Parm[ButtonSlot::FaceColour];
-    default:
-      return Unknown;
-  }
+  const gint colour = ItemTypeOf(cover.Type).CoverColour;
+  return colour == NoSlot ? Unknown : ColourIn(cover, colour, system);
 }
 
 // Place of an item in the painting order: layer, then type.
 std::array<gint, 2> RankOf(const PTRNDATA& item) {
-  const auto place = std::find(std::begin(PtrnTable), std::end(PtrnTable), +item.Type);
-  return {item.Parm[ItemSlot::TopLayer], static_cast<gint>(place - std::begin(PtrnTable))};
+  return {item.Parm[ItemSlot::TopLayer], ItemTypeOf(item.Type).PaintRank};
 }
 
 bool PaintedBefore(const PTRNDATA* one, const PTRNDATA* other) {

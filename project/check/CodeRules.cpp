@@ -1,10 +1,11 @@
 // Identification codes and the registry that numbers them.
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 #include <tuple>
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/Registry.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
@@ -16,16 +17,8 @@ std::string_view CodeOf(const PTRNDATA& item) {
 }
 
 bool NeedsCode(const PTRNDATA& item) {
-  switch (item.Type) {
-    case TypeBarGraph:
-    case TypeVariableString:
-    case TypeNumeric:
-    case TypeScrollBar:
-    case TypeSpinButton:
-      return true;
-    default:
-      return item.ID_Type >= 1 && item.ID_Type <= 4;  // sends a message
-  }
+  const bool sendsMessage = item.ID_Type >= 1 && item.ID_Type <= 4;
+  return ItemTypeOf(item.Type).NeedsCode || sendsMessage;
 }
 
 void FindMissing(const CheckedProject& project, FindingList& findings) {
@@ -72,25 +65,12 @@ void FindReserved(const CheckedProject& project, FindingList& findings) {
   });
 }
 
-// What a code stands for, by the type of the item that uses it.
+// What a code stands for, index = ItemData.
+constexpr std::array<const char*, ItemDataCount> Kinds = {
+    "a display state", "a number", "a text", "a command", "a choice", "a switch"};
+
 const char* KindOf(gint type) {
-  switch (type) {
-    case TypeBarGraph:
-    case TypeNumeric:
-    case TypeScrollBar:
-    case TypeSpinButton:
-      return "a number";
-    case TypeVariableString:
-      return "a text";
-    case TypeButton:
-      return "a command";
-    case TypeRadioButton:
-      return "a choice";
-    case TypeCheckBox:
-      return "a switch";
-    default:
-      return "a display state";
-  }
+  return Kinds[static_cast<std::size_t>(ItemTypeOf(type).Data)];
 }
 
 void FindMixedKinds(const CheckedProject& project, FindingList& findings) {
@@ -111,7 +91,7 @@ void FindDoubleRadioNumbers(const CheckedProject& project, FindingList& findings
   for (const CheckedLayout& layout : project.Layouts) {
     std::set<std::tuple<std::string_view, gint, gint>> seen;
     for (const PTRNDATA& item : layout.Items) {
-      if (item.Type != TypeRadioButton || CodeOf(item).empty()) continue;
+      if (ItemTypeOf(item.Type).Data != ItemData::Choice || CodeOf(item).empty()) continue;
       const gint number = item.Parm[ChoiceSlot::Number];
       if (!seen.emplace(CodeOf(item), +item.ID_No, number).second)
         findings.AddItem(layout, item, "Number",

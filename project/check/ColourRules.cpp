@@ -1,70 +1,10 @@
 // Foregrounds that have the colour of what lies behind them.
 #include "project/check/Rules.h"
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "project/check/Background.h"
 
 namespace {
-
-constexpr gint NoSlot = -1;
-
-// A colour kept once, for even and odd systems, or for each of the four.
-struct ColourSlot {
-  gint Slot;
-  gint Count;
-
-  gint In(const PTRNDATA& item, gint system) const { return item.Parm[Slot + system % Count]; }
-};
-
-struct ColourRow {
-  gint Type;
-  const char* Field;
-  ColourSlot Front;
-  ColourSlot Back;
-  gint BackSwitch;  // slot that turns the own background on, NoSlot = always on
-};
-
-// Items with a background of their own.
-constexpr ColourRow Rows[] = {
-    {TypeBarGraph, "BarColour", {BarSlot::BarColour, 4}, {BarSlot::BackColour, 4}, NoSlot},
-    {TypeFixedString,
-     "TextColour",
-     {TextSlot::TextColour, 4},
-     {TextSlot::BackColour, 4},
-     TextSlot::BackEnabled},
-    {TypeVariableString,
-     "TextColour",
-     {TextSlot::TextColour, 4},
-     {TextSlot::BackColour, 4},
-     TextSlot::BackEnabled},
-    {TypeNumeric,
-     "TextColour",
-     {TextSlot::TextColour, 4},
-     {TextSlot::BackColour, 4},
-     TextSlot::BackEnabled},
-    {TypeButton, "TextColour", {ButtonSlot::TextColour, 2}, {ButtonSlot::FaceColour, 1}, NoSlot},
-    {TypeRadioButton,
-     "TextColour",
-     {ChoiceSlot::TextColour, 2},
-     {ChoiceSlot::BackColour, 2},
-     ChoiceSlot::BackEnabled},
-    {TypeCheckBox,
-     "TextColour",
-     {ChoiceSlot::TextColour, 2},
-     {ChoiceSlot::BackColour, 2},
-     ChoiceSlot::BackEnabled},
-    {TypeMark,
-     "MarkColour",
-     {MarkSlot::MarkColour, 4},
-     {MarkSlot::BackColour, 4},
-     MarkSlot::BackEnabled},
-};
-
-const ColourRow* RowOf(gint type) {
-  for (const ColourRow& row : Rows)
-    if (row.Type == type) return &row;
-  return nullptr;
-}
 
 bool SameColour(const CheckedProject& project, gint one, gint other) {
   const auto exists = [](gint colour) { return colour >= 0 && colour < ColrCount; };
@@ -76,24 +16,25 @@ bool SameColour(const CheckedProject& project, gint one, gint other) {
 }
 
 bool ShowsCaption(const PTRNDATA& item) {
-  return item.Type != TypeButton || !TextOf(item, 0).empty() || !TextOf(item, 1).empty() ||
-         !TextOf(item, 2).empty();
+  return ItemTypeOf(item.Type).Texts != ItemTexts::Caption || !TextOf(item, 0).empty() ||
+         !TextOf(item, 1).empty() || !TextOf(item, 2).empty();
 }
 
 void CheckItem(const CheckedProject& project, const CheckedLayout& layout, const PTRNDATA& item,
                const Backgrounds& backgrounds, FindingList& findings) {
-  const ColourRow* row = RowOf(item.Type);
-  if (row == nullptr || !ShowsCaption(item)) return;
-  const bool own = row->BackSwitch == NoSlot || item.Parm[row->BackSwitch] != 0;
+  const ItemTypeRow& type = ItemTypeOf(item.Type);
+  if (type.FrontColour == NoSlot || !ShowsCaption(item)) return;
+  const bool own = IsOn(item, type.BackSwitch);
   std::string systems;
   for (gint system = 0; system < SystemCount(project); ++system) {
-    const gint front = row->Front.In(item, system);
-    const gint back = own ? row->Back.In(item, system) : backgrounds.Behind(item, system);
+    const gint front = ColourIn(item, type.FrontColour, system);
+    const gint back =
+        own ? ColourIn(item, type.BackColour, system) : backgrounds.Behind(item, system);
     if (!SameColour(project, front, back)) continue;
     systems += (systems.empty() ? "" : ", ") + std::to_string(system);
   }
   if (!systems.empty())
-    findings.AddItem(layout, item, row->Field,
+    findings.AddItem(layout, item, FindParameter(item.Type, type.FrontColour)->Name,
                      "cannot be told from its background in colour system " + systems);
 }
 
@@ -114,12 +55,12 @@ void FindVanishing(const CheckedProject& project, FindingList& findings) {
   }
 }
 
-constexpr CheckRule RuleTable[] = {
+constexpr CheckRule Rules[] = {
     {"colour-vanishes", "a text, mark or bar has the colour of its background", FindVanishing},
 };
 
 }  // namespace
 
 std::span<const CheckRule> ColourRules() {
-  return RuleTable;
+  return Rules;
 }

@@ -1,8 +1,7 @@
 // Items by themselves and their place in the layout.
 #include <array>
 
-#include "Constant.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/Validate.h"
 #include "project/check/Rules.h"
 
@@ -112,7 +111,7 @@ bool Inside(const PTRNHEDR& header, const POINT& point) {
 
 void FindOutside(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    const bool twoPoints = PtrnDataType[item.Type] != 0;
+    const bool twoPoints = HasTwoPoints(item.Type);
     const POINT one = item.Point1;
     const POINT two = item.Point2;
     if (!Inside(layout.Header, one))

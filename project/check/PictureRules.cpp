@@ -1,7 +1,7 @@
 // Bitmaps and marks that are shown.
 #include <set>
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
 
@@ -18,7 +18,8 @@ void ForEachPicture(const CheckedProject& project, Visit visit) {
     if (!FieldText(header.BmapName).empty())
       visit(layout, nullptr, "BmapName", FieldText(header.BmapName));
     for (const PTRNDATA& item : layout.Items)
-      if (item.Type == TypeBitmap) visit(layout, &item, "Text1", FieldText(item.Text1));
+      if (ItemTypeOf(item.Type).Texts == ItemTexts::Picture)
+        visit(layout, &item, "Text1", FieldText(item.Text1));
   }
 }
 

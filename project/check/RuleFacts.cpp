@@ -1,7 +1,7 @@
 // Questions that several rules ask.
 #include <algorithm>
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/ProjectSlots.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
@@ -40,8 +40,17 @@ std::string TitleField(gint language) {
 }
 
 bool IsWorded(gint type) {
-  return type == TypeFixedString || type == TypeButton || type == TypeRadioButton ||
-         type == TypeCheckBox;
+  const ItemTexts texts = ItemTypeOf(type).Texts;
+  return texts == ItemTexts::Words || texts == ItemTexts::Caption;
+}
+
+bool IsOn(const PTRNDATA& item, gint slot) {
+  return slot == NoSlot || item.Parm[slot] != 0;
+}
+
+gint ColourIn(const PTRNDATA& item, gint slot, gint system) {
+  const Parameter* colour = FindParameter(item.Type, slot);
+  return item.Parm[slot + system % (colour == nullptr ? 1 : colour->Count())];
 }
 
 std::string Quoted(std::string_view bytes) {

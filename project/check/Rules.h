@@ -42,6 +42,10 @@ std::string TextField(gint language);
 std::string TitleField(gint language);
 // Whether items of this type show texts of their own.
 bool IsWorded(gint type);
+// Whether a parameter is set that turns something on; true without such a slot.
+bool IsOn(const PTRNDATA& item, gint slot);
+// A colour of the item in a colour system; `slot` is the first one of its parameter.
+gint ColourIn(const PTRNDATA& item, gint slot, gint system);
 // Record bytes in double quotes, fit to show on one line.
 std::string Quoted(std::string_view bytes);
 

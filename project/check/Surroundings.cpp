@@ -1,7 +1,5 @@
 // Fonts and pictures as the canvas uses them.
-#include <array>
-
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "project/ProjectRecord.h"
 #include "project/check/Check.h"
 #include "render/FontTable.h"
@@ -21,23 +19,14 @@ void ShowLanguage(gint language) {
   FontDataInit(0);
 }
 
-using Renderer = void (*)(Drawable*, DrawGc*, PTRNDATA*);
-
-// The one-point types; their renderers find the extent.
-constexpr std::array<Renderer, 16> Renderers = {
-    nullptr,        nullptr,        nullptr,        nullptr, nullptr,        nullptr,
-    DrawPtrnData06, DrawPtrnData07, DrawPtrnData08, nullptr, DrawPtrnData10, DrawPtrnData11,
-    nullptr,        nullptr,        nullptr,        nullptr};
-
 SIZE ItemExtent(gint language, const PTRNDATA& item) {
   ShowLanguage(language);
-  const Renderer paint = Renderers[static_cast<std::size_t>(item.Type)];
-  if (paint == nullptr) return {};
+  if (HasTwoPoints(item.Type)) return {};
   // What is painted does not matter: one dot far from the item.
   Drawable dot(1, 1);
   DrawGc gc;
   PTRNDATA painted = item;
-  paint(&dot, &gc, &painted);
+  DrawPtrnItem(&dot, &gc, &painted);
   return painted.Size;
 }
 

@@ -1,8 +1,7 @@
 // Texts in each language of the project: there, readable, and not larger than their place.
 #include <algorithm>
 
-#include "Constant.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
 
@@ -48,11 +47,8 @@ void FindUnreadable(const CheckedProject& project, FindingList& findings) {
   });
 }
 
-static_assert(gint{TextSlot::Font} == gint{ButtonSlot::Font} &&
-              gint{TextSlot::Font} == gint{ChoiceSlot::Font});
 bool UsesFont(const PTRNDATA& item, gint languages) {
-  const bool byType = item.Type >= TypeFixedString && item.Type <= TypeCheckBox;
-  return byType && (!IsWorded(item.Type) || HasText(item, languages));
+  return ItemTypeOf(item.Type).Font != NoSlot && (!IsWorded(item.Type) || HasText(item, languages));
 }
 
 bool AnyFont(const CheckedProject& project, gint language) {
@@ -69,9 +65,9 @@ void FindMissingFonts(const CheckedProject& project, FindingList& findings) {
       continue;
     }
     ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-      const gint font = item.Parm[TextSlot::Font];
-      if (UsesFont(item, LanguageCount(project)) &&
-          !project.Surroundings.FontExists(language, font))
+      if (!UsesFont(item, LanguageCount(project))) return;
+      const gint font = item.Parm[ItemTypeOf(item.Type).Font];
+      if (!project.Surroundings.FontExists(language, font))
         findings.AddItem(layout, item, "Font",
                          "there is no font " + std::to_string(font) + LanguageText(language));
     });
@@ -108,7 +104,7 @@ void CheckItemExtent(const CheckedProject& project, const CheckedLayout& layout,
   const bool worded = IsWorded(item.Type);
   const std::string field = worded ? TextField(language) : "Length";
   const std::string where = worded ? LanguageText(language) : "";
-  if (item.Type == TypeButton) {
+  if (ItemTypeOf(item.Type).Texts == ItemTexts::Caption) {
     const std::string caption(TextOf(item, language));
     if (caption.empty()) return;
     const SIZE excess = ButtonExcess(
@@ -116,7 +112,7 @@ void CheckItemExtent(const CheckedProject& project, const CheckedLayout& layout,
         project.Surroundings.TextExtent(language, item.Parm[ButtonSlot::Font], caption.c_str()));
     if (excess.cx > 0 || excess.cy > 0)
       findings.AddItem(layout, item, field, Overrun(excess, "its button") + where);
-  } else if (PtrnDataType[item.Type] == 0) {
+  } else if (!HasTwoPoints(item.Type)) {
     const SIZE excess = LayoutExcess(layout.Header, POINT{item.Point1},
                                      project.Surroundings.ItemExtent(language, item));
     if (excess.cx > 0 || excess.cy > 0)

@@ -1,9 +1,10 @@
 #include "render/HitTest.h"
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "render/surface/Plane.h"
 
 namespace {
@@ -50,6 +51,13 @@ bool NearSlantedLine(const POINT& point, const ItemBox& line) {
   return distance <= 10.0F;
 }
 
+using Test = gint (*)(const POINT* point, const PTRNDATA* item);
+
+// Index = ItemShape.
+constexpr auto Tests = std::to_array<Test>(
+    {nullptr, SearchPtrnData06, SearchPtrnData02, SearchPtrnData01, SearchPtrnData04});
+static_assert(Tests.size() == ItemShapeCount);
+
 }  // namespace
 
 gint PointInRect(const POINT* point, gint x1, gint y1, gint x2, gint y2) {
@@ -61,29 +69,8 @@ gint PointInRect(const POINT* point, gint x1, gint y1, gint x2, gint y2) {
 }
 
 gint SearchPtrnData(const POINT* point, const PTRNDATA* item) {
-  switch (item->Type) {
-    case TypeFrame:
-    case TypeRectangle:
-    case TypeBarGraph:
-    case TypeButton:
-    case TypeBitmap:
-    case TypeMark:
-    case TypeScrollBar:
-    case TypeSpinButton:
-      return SearchPtrnData01(point, item);
-    case TypeLine:
-      return SearchPtrnData02(point, item);
-    case TypeEllipse:
-      return SearchPtrnData04(point, item);
-    case TypeFixedString:
-    case TypeVariableString:
-    case TypeNumeric:
-    case TypeRadioButton:
-    case TypeCheckBox:
-      return SearchPtrnData06(point, item);
-    default:
-      return HitNone;
-  }
+  const auto shape = static_cast<std::size_t>(ItemTypeOf(item->Type).Shape);
+  return Tests[shape] == nullptr ? gint{HitNone} : Tests[shape](point, item);
 }
 
 gint SearchPtrnData01(const POINT* point, const PTRNDATA* item) {

@@ -1,18 +1,35 @@
 #include "render/items/OutlineByType.h"
 
-#include "layout/Guards.h"
+#include <array>
+
+#include "layout/ItemTypes.h"
 #include "render/Layout.h"
 
 namespace {
 
-// Index = type code.
-constexpr OutlineFunction Outlines[16] = {
-    nullptr,        DrawMoveData01, DrawMoveData02, DrawMoveData01, DrawMoveData04, DrawMoveData01,
-    DrawMoveData06, DrawMoveData06, DrawMoveData06, DrawMoveData01, DrawMoveData06, DrawMoveData06,
-    DrawMoveData01, DrawMoveData01, DrawMoveData01, DrawMoveData01};
+struct Outline {
+  OutlineFunction Draw;
+  bool CrossesBox;
+};
+
+// Index = ItemShape.
+constexpr auto Outlines = std::to_array<Outline>({{nullptr, false},
+                                                  {DrawMoveData06, false},
+                                                  {DrawMoveData02, true},
+                                                  {DrawMoveData01, false},
+                                                  {DrawMoveData04, true}});
+static_assert(Outlines.size() == ItemShapeCount);
+
+const Outline& OutlineRow(gint type) {
+  return Outlines[static_cast<std::size_t>(ItemTypeOf(type).Shape)];
+}
 
 }  // namespace
 
 OutlineFunction OutlineOf(gint type) {
-  return IsItemType(type) ? Outlines[type] : nullptr;
+  return OutlineRow(type).Draw;
+}
+
+bool OutlineCrossesBox(gint type) {
+  return OutlineRow(type).CrossesBox;
 }

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "Constant.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "support/Text.h"
 #include "tools/compare/FieldLabels.h"
 #include "tools/json/Numbers.h"
@@ -77,10 +77,6 @@ void CompareParm(ChangeList& changes, gint owner, std::span<const ParmSlot> slot
     if (!named[no]) changes.Number(field + "[" + std::to_string(no) + "]", before[no], after[no]);
 }
 
-bool IsTwoPoint(const PTRNDATA& item) {
-  return PtrnDataType[item.Type] != 0;
-}
-
 std::string PointText(gint x, gint y) {
   return "(" + std::to_string(x) + ", " + std::to_string(y) + ")";
 }
@@ -96,26 +92,13 @@ std::string SecondPoint(const PTRNDATA& item) {
 // The points have been told together; they are no parameters here.
 std::array<gint, 30> ParmWithoutPoints(const PTRNDATA& item) {
   auto parm = NumbersOf<30>(item.Parm);
-  std::fill_n(parm.begin(), IsTwoPoint(item) ? 4 : 2, 0);
+  std::fill_n(parm.begin(), HasTwoPoints(item.Type) ? 4 : 2, 0);
   return parm;
 }
 
-std::string TextLabel(gint type) {
-  switch (type) {
-    case TypeButton:
-    case TypeRadioButton:
-    case TypeCheckBox:
-      return "ボタンの文字";
-    case TypeBitmap:
-      return "ビットマップ名";
-    default:
-      return "文字列";
-  }
-}
-
 std::string ItemName(const PTRNDATA& item) {
-  std::string name = std::string(PtrnTypeList[item.Type - 1]) + " " + FirstPoint(item);
-  if (IsTwoPoint(item)) name += "-" + SecondPoint(item);
+  std::string name = std::string(ItemTypeOf(item.Type).Label) + " " + FirstPoint(item);
+  if (HasTwoPoints(item.Type)) name += "-" + SecondPoint(item);
   if (item.Text1[0] != '\0') name += " " + Shown(FieldText(item.Text1));
   if (item.ID_Code[0] != '\0')
     name += " " + DisplayText(FieldText(item.ID_Code)) + "/" + std::to_string(item.ID_No);
@@ -148,9 +131,9 @@ std::vector<FieldChange> HeaderChanges(const PTRNHEDR& before, const PTRNHEDR& a
 
 std::vector<FieldChange> ItemChanges(const PTRNDATA& before, const PTRNDATA& after) {
   ChangeList changes;
-  changes.Add(IsTwoPoint(after) ? "始点" : "位置", FirstPoint(before), FirstPoint(after));
-  if (IsTwoPoint(after)) changes.Add("終点", SecondPoint(before), SecondPoint(after));
-  const std::string text = TextLabel(after.Type);
+  changes.Add(HasTwoPoints(after.Type) ? "始点" : "位置", FirstPoint(before), FirstPoint(after));
+  if (HasTwoPoints(after.Type)) changes.Add("終点", SecondPoint(before), SecondPoint(after));
+  const std::string text = ItemTypeOf(after.Type).TextLabel;
   changes.Text(text + "１", before.Text1, after.Text1);
   changes.Text(text + "２", before.Text2, after.Text2);
   changes.Text(text + "３", before.Text3, after.Text3);

@@ -6,9 +6,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "Constant.h"
-#include "layout/Guards.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "support/Text.h"
 #include "tools/json/Numbers.h"
 
@@ -35,12 +33,8 @@ bool HasCode(const PTRNDATA& item) {
   return item.ID_Code[0] != '\0';
 }
 
-bool IsTwoPoint(const PTRNDATA& item) {
-  return IsItemType(item.Type) && PtrnDataType[item.Type] != 0;
-}
-
 std::string Place(const PTRNDATA& item) {
-  return Bytes(&item.Parm, (IsTwoPoint(item) ? 4 : 2) * sizeof(gint));
+  return Bytes(&item.Parm, (HasTwoPoints(item.Type) ? 4 : 2) * sizeof(gint));
 }
 
 std::string Code(const PTRNDATA& item) {
@@ -57,7 +51,7 @@ std::string Shape(const PTRNDATA& item) {
   parm[ItemSlot::X2] = static_cast<gint>(distance(ItemSlot::X2, ItemSlot::X1));
   parm[ItemSlot::Y2] = static_cast<gint>(distance(ItemSlot::Y2, ItemSlot::Y1));
   parm[ItemSlot::X1] = parm[ItemSlot::Y1] = 0;
-  if (!IsTwoPoint(item)) parm[ItemSlot::X2] = parm[ItemSlot::Y2] = 0;
+  if (!HasTwoPoints(item.Type)) parm[ItemSlot::X2] = parm[ItemSlot::Y2] = 0;
   return Bytes(parm.data(), sizeof parm) + Code(item) + Text(item.ID_Name);
 }
 

@@ -1,8 +1,4 @@
-#include <algorithm>
-#include <array>
-#include <iterator>
-
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "support/Program.h"
 #include "support/Text.h"
 #include "tools/json/Kinds.h"
@@ -10,12 +6,6 @@
 #include "tools/json/SourceReader.h"
 
 namespace {
-
-// The names by which a source may call the item types, index = type code - 1.
-constexpr std::array<const char*, 15> TypeNames = {
-    "Frame",       "Line",           "Rectangle", "Ellipse",   "BarGraph",
-    "FixedString", "VariableString", "Numeric",   "Button",    "RadioButton",
-    "CheckBox",    "Bitmap",         "Mark",      "ScrollBar", "SpinButton"};
 
 // The most items whose records and texts still count in 32 bits.
 constexpr std::size_t ItemLimit = 1'000'000;
@@ -37,13 +27,13 @@ gint TypeOf(const JsonSource* value, const std::string& place) {
   if (value == nullptr) throw SourceError(place, "missing");
   if (value->is_string()) {
     const auto& name = value->get_ref<const std::string&>();
-    const auto found = std::find(TypeNames.begin(), TypeNames.end(), name);
-    if (found == TypeNames.end()) throw SourceError(place, "unknown item type \"" + name + "\"");
-    return static_cast<gint>(std::distance(TypeNames.begin(), found)) + 1;
+    for (const ItemTypeRow& row : ItemTypes())
+      if (row.Name == name) return row.Type;
+    throw SourceError(place, "unknown item type \"" + name + "\"");
   }
   const gint type = NumberOf(*value, place);
-  if (type < TypeFrame || type > TypeSpinButton)
-    throw SourceError(place, "an item type is 1 to 15");
+  if (!IsItemType(type))
+    throw SourceError(place, "an item type is 1 to " + std::to_string(ItemTypeCount));
   return type;
 }
 

@@ -32,7 +32,8 @@ struct TypeGroup {
   std::size_t nextText = 0;
 };
 
-using TypeGroups = std::array<TypeGroup, std::size(PtrnTypeList)>;
+// Index = type code.
+using TypeGroups = std::array<TypeGroup, ItemTypeCount + 1>;
 
 // Fills the header's counts and measures the groups. The header counts every item, those of no
 // known type included, which are not written.

@@ -9,6 +9,6 @@ POINT PtrnPoint2;
 POINT PtrnPoint3;
 POINT AreaPoint1;
 POINT AreaPoint2;
-gint PtrnUnSlct[15];
+gint PtrnUnSlct[ItemTypeCount];
 gint PtrnUndef;
 gint ColorCode;

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "Constant.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Snap.h"
@@ -24,9 +23,9 @@ gint SnapStep(gint interval, gint half) {
 }
 
 // Centres a line of text in the whole grid rows that it needs.
-void CentreInRows(PTRNDATA& item) {
+void CentreInRows(PTRNDATA& item, gint font) {
   const gint64 row = GridDots(PtrnHedr.Parm2[ViewSlot::GridY]);
-  const gint64 height = GuardedFontHeight(item.Parm[TextSlot::Font]);
+  const gint64 height = GuardedFontHeight(font);
   const gint64 rows = std::max<gint64>((height + row - 1) / row, 1);
   item.Point1.y = Clamp(item.Point1.y + (rows * row - height + 1) / 2);
 }
@@ -56,12 +55,13 @@ void NormalizeZahyo(PTRNDATA* item) {
   if (!IsItemType(item->Type)) {
     return;
   }
-  const gint twoPoint = PtrnDataType[item->Type];
-  NormalizePoint(&item->Point1, twoPoint);
-  NormalizePoint(&item->Point2, twoPoint);
-  if (!twoPoint) {
-    CentreInRows(*item);
-  } else if (item->Type != TypeLine) {
+  const ItemTypeRow& type = ItemTypeOf(item->Type);
+  const gint half = HasTwoPoints(item->Type) ? 1 : 0;
+  NormalizePoint(&item->Point1, half);
+  NormalizePoint(&item->Point2, half);
+  if (half == 0) {
+    CentreInRows(*item, type.Font == NoSlot ? NoSlot : gint{item->Parm[type.Font]});
+  } else if (type.Shape != ItemShape::Line) {
     OrderCorners(*item);
   }
 }

@@ -212,7 +212,7 @@ constexpr ParmSlot Parm2Slots[] = {{"Zoom", ViewSlot::Zoom, 1},
                                    {"StopScreen", ViewSlot::StopScreen, 1}};
 
 using Slots = std::span<const ParmSlot>;
-const std::array<Slots, 16> SlotsOfType = {
+const std::array<Slots, ItemTypeCount + 1> SlotsOfType = {
     Slots{},          FrameSlots,          LineSlots,    ShapeSlots,  ShapeSlots,  BarSlots,
     FixedStringSlots, VariableStringSlots, NumericSlots, ButtonSlots, ChoiceSlots, ChoiceSlots,
     BitmapSlots,      MarkSlots,           ScrollSlots,  SpinSlots};
@@ -220,7 +220,7 @@ const std::array<Slots, 16> SlotsOfType = {
 }  // namespace
 
 std::span<const ParmSlot> ItemParmSlots(gint type) {
-  return type >= 1 && type <= 15 ? SlotsOfType[static_cast<gsize>(type)] : Slots{};
+  return type >= 1 && type <= ItemTypeCount ? SlotsOfType[static_cast<gsize>(type)] : Slots{};
 }
 
 std::span<const ParmSlot> HedrParm1Slots() {
