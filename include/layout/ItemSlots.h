@@ -1,8 +1,6 @@
-// What each parameter holds. "c4": one value per colour system, use slot + ColorCode; "c2": one for
-// even and one for odd systems.
+// Where each parameter lies; what is known about it is in its row (Parameters.h). "c4": one value
+// per colour system, use slot + ColorCode; "c2": one for even and one for odd systems.
 #pragma once
-
-#include <span>
 
 #include "layout/Records.h"
 
@@ -179,16 +177,3 @@ enum {
   StopScreen = 8
 };
 }
-
-// One named run of parameters.
-struct ParmSlot {
-  const char* Name;
-  gint Index;
-  gint Count;
-};
-// The named parameters of an item type, the common ones included; empty for an unknown type. Slots
-// of one type do not overlap.
-std::span<const ParmSlot> ItemParmSlots(gint type);
-// The named parameters of a header.
-std::span<const ParmSlot> HedrParm1Slots();
-std::span<const ParmSlot> HedrParm2Slots();

@@ -6,6 +6,8 @@
 
 #include "Types.h"
 
+struct PTRNDATA;
+
 // What tells the values of one parameter apart; the number is that of its slots.
 enum class Spread {
   One = 1,
@@ -84,3 +86,5 @@ struct BrokenLimit {
 // The limit that is told first: that of the lowest message, then of the lowest slot. `values` are
 // the record's numbers; both pointers are null when all limits are kept.
 BrokenLimit FindBrokenLimit(std::span<const Parameter> parameters, std::span<const gint> values);
+// That of an item.
+BrokenLimit FindBrokenLimit(const PTRNDATA& item);

@@ -1,6 +1,8 @@
 // Checking the layout settings.
+#include <cstring>
 #include "layout/ItemSlots.h"
 #include "layout/LayoutSettings.h"
+#include "layout/Parameters.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "support/Resource.h"
@@ -22,23 +24,11 @@ bool AreasTooLarge() {
 }
 
 const gchar* FirstError() {
-  const auto parm1 = [](gint slot) { return EditHedr.Parm1[slot]; };
-  const struct {
-    bool Broken;
-    const gchar* Message;
-  } rules[] = {
-      {TitleMissing(), "タイトルが設定されていません。"},
-      {parm1(HedrSlot::Width) < 1, "Ｘ方向 領域の大きさ"},
-      {parm1(HedrSlot::Height) < 1, "Ｙ方向 領域の大きさ"},
-      {parm1(HedrSlot::WindowX) < 0, "Ｘ方向 表示開始位置"},
-      {parm1(HedrSlot::WindowY) < 0, "Ｙ方向 表示開始位置"},
-      {parm1(HedrSlot::TitleHeight) < 0, "タイトル領域の高さ"},
-      {parm1(HedrSlot::ButtonAreaHeight) < 0, "ボタン領域の高さ"},
-      {AreasTooLarge(), "タイトル領域/ボタン領域 が大きすぎます。"},
-  };
-  for (const auto& rule : rules)
-    if (rule.Broken) return rule.Message;
-  return nullptr;
+  std::array<gint, sizeof(PTRNHEDR::Parm1) / sizeof(gint)> values;
+  std::memcpy(values.data(), EditHedr.Parm1, sizeof values);
+  if (TitleMissing()) return "タイトルが設定されていません。";
+  if (const Limit* limit = FindBrokenLimit(HeaderParameters(), values).By) return limit->Text;
+  return AreasTooLarge() ? "タイトル領域/ボタン領域 が大きすぎます。" : nullptr;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "layout/ItemTypes.h"
+#include "layout/Parameters.h"
 #include "layout/Validate.h"
 #include "project/check/Rules.h"
 
@@ -14,7 +15,7 @@ void FindIncomplete(const CheckedProject& project, FindingList& findings) {
 }
 
 struct Reason {
-  const char* Field;  // null: a rule of its own tells it; "": see Suspects
+  const char* Field;  // null: a rule of its own tells it; "": that of the limit
   const char* Text;
 };
 
@@ -25,67 +26,26 @@ constexpr std::array<Reason, 19> Reasons = {{
     {nullptr, nullptr},
     {nullptr, nullptr},
     {"", "a line or frame width is outside its range"},
-    {"Width", "its line width is not 1 to 99"},
+    {"", "its line width is not 1 to 99"},
     {"LowerLimit", "its lower limit is not below its upper limit"},
     {"Text1", "it has no text"},
     {"", "its number of characters or digits is outside its range"},
     {"Decimals", "it has too many decimal places"},
-    {"TextOffset", "its text position is negative"},
-    {"Number", "its number within the group is negative"},
+    {"", "its text position is negative"},
+    {"", "its number within the group is negative"},
     {nullptr, nullptr},
-    {"DisplayAmount", "its display amount is below 1"},
-    {"DataAmount", "its data amount is negative"},
+    {"", "its display amount is below 1"},
+    {"", "its data amount is negative"},
     {"", "a movement amount is negative"},
     {"", "a movement amount that it needs is 0"},
     {nullptr, nullptr},
     {nullptr, nullptr},
 }};
 
-// Messages that stand for one of several parameters: the first that is below its least value is
-// meant.
-struct Suspect {
-  gint Message;
-  gint Type;
-  gint Slot;
-  gint Least;
-  gint Switch = -1;  // a parameter that must be set for this one to count
-};
-
-constexpr Suspect Suspects[] = {
-    {4, TypeFrame, FrameSlot::TopWidth, 0},
-    {4, TypeFrame, FrameSlot::BottomWidth, 0},
-    {4, TypeFrame, FrameSlot::LeftWidth, 0},
-    {4, TypeFrame, FrameSlot::RightWidth, 0},
-    {4, TypeRectangle, ShapeSlot::Width, 1},
-    {4, TypeEllipse, ShapeSlot::Width, 1},
-    {4, TypeBarGraph, BarSlot::BarWidth, 0},
-    {4, TypeBarGraph, BarSlot::OutlineWidth, 0},
-    {4, TypeButton, ButtonSlot::BorderWidth, 1},
-    {4, TypeScrollBar, ScrollSlot::FrameWidth, 0},
-    {8, TypeVariableString, TextSlot::Length, 1},
-    {8, TypeNumeric, TextSlot::Length, 1},
-    {8, TypeNumeric, TextSlot::Decimals, 0},
-    {15, TypeScrollBar, ScrollSlot::SingleStep, 0},
-    {15, TypeScrollBar, ScrollSlot::DoubleStep, 0},
-    {15, TypeScrollBar, ScrollSlot::PageStep, 0},
-    {16, TypeScrollBar, ScrollSlot::SingleStep, 1, ScrollSlot::SingleArrows},
-    {16, TypeScrollBar, ScrollSlot::DoubleStep, 1, ScrollSlot::DoubleArrows},
-    {16, TypeScrollBar, ScrollSlot::PageStep, 1},
-};
-
-const char* SlotName(gint type, gint index) {
-  for (const ParmSlot& slot : ItemParmSlots(type))
-    if (slot.Index == index) return slot.Name;
-  return "Parm";
-}
-
+// The field that breaks the item: its limit's, or the one that the message names.
 const char* BrokenField(const PTRNDATA& item, gint message) {
-  for (const Suspect& suspect : Suspects) {
-    const bool counts = suspect.Switch < 0 || item.Parm[suspect.Switch] != 0;
-    if (suspect.Message == message && suspect.Type == item.Type && counts &&
-        item.Parm[suspect.Slot] < suspect.Least)
-      return SlotName(item.Type, suspect.Slot);
-  }
+  const BrokenLimit limit = FindBrokenLimit(item);
+  if (limit.By != nullptr && limit.By->Message == message) return limit.Broken->Name;
   return Reasons[static_cast<std::size_t>(message)].Field;
 }
 

@@ -1,5 +1,6 @@
 // Layouts that follow the project's common look.
 #include "layout/ItemSlots.h"
+#include "layout/Parameters.h"
 #include "layout/model/store/ProjectLook.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
@@ -21,11 +22,13 @@ std::string Difference(gint has, gint wanted) {
 }
 
 template <std::size_t Count>
-void CompareSlots(const CheckedLayout& layout, std::span<const ParmSlot> slots,
-                  const gint (&has)[Count], const gint (&wanted)[Count], FindingList& findings) {
-  for (const ParmSlot& slot : slots)
-    if (has[slot.Index] != wanted[slot.Index])
-      findings.AddLayout(layout, slot.Name, Difference(has[slot.Index], wanted[slot.Index]));
+void CompareParameters(const CheckedLayout& layout, std::span<const Parameter> parameters,
+                       const gint (&has)[Count], const gint (&wanted)[Count],
+                       FindingList& findings) {
+  for (const Parameter& parameter : parameters)
+    if (has[parameter.Slot] != wanted[parameter.Slot])
+      findings.AddLayout(layout, parameter.Name,
+                         Difference(has[parameter.Slot], wanted[parameter.Slot]));
 }
 
 void FindDifferences(const CheckedProject& project, FindingList& findings) {
@@ -33,8 +36,8 @@ void FindDifferences(const CheckedProject& project, FindingList& findings) {
     const PTRNHEDR& header = layout.Header;
     if (header.Parm1[HedrSlot::KeepAsIs] != 0) continue;
     alignas(gint) const PTRNHEDR wanted = Renewed(header, project.Settings);
-    CompareSlots(layout, HedrParm1Slots(), header.Parm1, wanted.Parm1, findings);
-    CompareSlots(layout, HedrParm2Slots(), header.Parm2, wanted.Parm2, findings);
+    CompareParameters(layout, HeaderParameters(), header.Parm1, wanted.Parm1, findings);
+    CompareParameters(layout, ViewParameters(), header.Parm2, wanted.Parm2, findings);
     if (FieldText(header.LogoName) != FieldText(wanted.LogoName))
       findings.AddLayout(layout, "LogoName",
                          "is " + Quoted(FieldText(header.LogoName)) +

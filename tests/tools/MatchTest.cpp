@@ -6,7 +6,6 @@
 
 #include "layout/ItemSlots.h"
 #include "tools/compare/Changes.h"
-#include "tools/compare/FieldLabels.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -135,19 +134,6 @@ TEST(Changes, HeaderFields) {
   EXPECT_THAT(Told(HeaderChanges(before, after)),
               ElementsAre("タイトル２: 「」 → 「Two」", "種別: 親ウィンドウ → その他",
                           "タイトル領域 高さ: 0 → 40", "方眼 横: 1 → 8", "Parm2[9]: 0 → 1"));
-}
-
-TEST(FieldLabels, EverySlotOfEveryTypeHasOne) {
-  const auto place = [](std::string_view slot) {
-    return slot == "X1" || slot == "Y1" || slot == "X2" || slot == "Y2";
-  };
-  for (gint type = TypeFrame; type <= TypeSpinButton; ++type)
-    for (const ParmSlot& slot : ItemParmSlots(type))
-      EXPECT_TRUE(place(slot.Name) || LabelOf(type, slot.Name) != nullptr)
-          << type << " " << slot.Name;
-  for (const ParmSlot& slot : HedrParm1Slots()) EXPECT_NE(LabelOf(HeaderParm1, slot.Name), nullptr);
-  for (const ParmSlot& slot : HedrParm2Slots()) EXPECT_NE(LabelOf(HeaderParm2, slot.Name), nullptr);
-  EXPECT_EQ(LabelOf(TypeLine, "Font"), nullptr);
 }
 
 }  // namespace

@@ -6,8 +6,8 @@
 
 #include "Constant.h"
 #include "layout/ItemTypes.h"
+#include "layout/Parameters.h"
 #include "support/Text.h"
-#include "tools/compare/FieldLabels.h"
 #include "tools/json/Numbers.h"
 
 namespace {
@@ -48,30 +48,27 @@ std::string ValueText(gint value, const gchar* const* names) {
   return std::to_string(value);
 }
 
-// The values of a slot, one for each colour system when it has several.
+// The values of a parameter, one for each colour system when it has several.
 template <std::size_t Count>
-std::string SlotText(const std::array<gint, Count>& parm, const ParmSlot& slot,
-                     const gchar* const* names) {
-  const auto first = static_cast<std::size_t>(slot.Index);
-  const auto count = static_cast<std::size_t>(slot.Count);
+std::string ParameterText(const std::array<gint, Count>& parm, const Parameter& parameter) {
+  const auto first = static_cast<std::size_t>(parameter.Slot);
+  const auto count = static_cast<std::size_t>(parameter.Count());
   std::string text;
   for (std::size_t no = 0; no < count; ++no)
-    text += (no == 0 ? "" : ",") + ValueText(parm[first + no], names);
+    text += (no == 0 ? "" : ",") + ValueText(parm[first + no], parameter.Range.Values);
   return text;
 }
 
-// Every parameter, those without a slot by their number. `field` names the array.
+// Every parameter, those without a label by their number. `field` names the array.
 template <std::size_t Count>
-void CompareParm(ChangeList& changes, gint owner, std::span<const ParmSlot> slots,
+void CompareParm(ChangeList& changes, std::span<const Parameter> parameters,
                  const std::string& field, std::array<gint, Count> before,
                  std::array<gint, Count> after) {
   std::array<bool, Count> named{};
-  for (const ParmSlot& slot : slots) {
-    const FieldLabel* label = LabelOf(owner, slot.Name);
-    std::fill_n(named.begin() + slot.Index, slot.Count, label != nullptr);
-    if (label == nullptr) continue;
-    changes.Add(label->Label, SlotText(before, slot, label->Values),
-                SlotText(after, slot, label->Values));
+  for (const Parameter& parameter : parameters) {
+    if (parameter.Label == nullptr) continue;
+    std::fill_n(named.begin() + parameter.Slot, parameter.Count(), true);
+    changes.Add(parameter.Label, ParameterText(before, parameter), ParameterText(after, parameter));
   }
   for (std::size_t no = 0; no < Count; ++no)
     if (!named[no]) changes.Number(field + "[" + std::to_string(no) + "]", before[no], after[no]);
@@ -122,9 +119,9 @@ std::vector<FieldChange> HeaderChanges(const PTRNHEDR& before, const PTRNHEDR& a
   changes.Text("タイトル３", before.PtrnName3, after.PtrnName3);
   changes.Text("ロゴマーク", before.LogoName, after.LogoName);
   changes.Text("作業領域 ビットマップ名", before.BmapName, after.BmapName);
-  CompareParm(changes, HeaderParm1, HedrParm1Slots(), "Parm1", NumbersOf<30>(before.Parm1),
+  CompareParm(changes, HeaderParameters(), "Parm1", NumbersOf<30>(before.Parm1),
               NumbersOf<30>(after.Parm1));
-  CompareParm(changes, HeaderParm2, HedrParm2Slots(), "Parm2", NumbersOf<10>(before.Parm2),
+  CompareParm(changes, ViewParameters(), "Parm2", NumbersOf<10>(before.Parm2),
               NumbersOf<10>(after.Parm2));
   return changes.Take();
 }
@@ -137,7 +134,7 @@ std::vector<FieldChange> ItemChanges(const PTRNDATA& before, const PTRNDATA& aft
   changes.Text(text + "１", before.Text1, after.Text1);
   changes.Text(text + "２", before.Text2, after.Text2);
   changes.Text(text + "３", before.Text3, after.Text3);
-  CompareParm(changes, after.Type, ItemParmSlots(after.Type), "Parm", ParmWithoutPoints(before),
+  CompareParm(changes, ItemParameters(after.Type), "Parm", ParmWithoutPoints(before),
               ParmWithoutPoints(after));
   changes.Add("処理種別", ValueText(before.ID_Type, IDCodeList),
               ValueText(after.ID_Type, IDCodeList));

@@ -41,7 +41,7 @@ PTRNDATA BuildItem(const JsonSource& source, const std::string& place) {
   ObjectReader reader(source, place);
   PTRNDATA item{};
   item.Type = TypeOf(reader.Find("Type"), reader.Place("Type"));
-  reader.ParmInto<30>("Parm", ItemParmSlots(item.Type), item.Parm);
+  reader.ParmInto<30>("Parm", ItemParameters(item.Type), item.Parm);
   reader.EucInto("Text1", TextLimit::Text, item.Text1);
   reader.EucInto("Text2", TextLimit::Text, item.Text2);
   reader.EucInto("Text3", TextLimit::Text, item.Text3);
@@ -81,8 +81,8 @@ std::string BuildLayout(const JsonSource& source) {
   LayoutFile layout;
   PTRNHEDR& header = layout.Header;
   header.Version = reader.Number("Version", Version);
-  reader.ParmInto<30>("Parm1", HedrParm1Slots(), header.Parm1);
-  reader.ParmInto<10>("Parm2", HedrParm2Slots(), header.Parm2);
+  reader.ParmInto<30>("Parm1", HeaderParameters(), header.Parm1);
+  reader.ParmInto<10>("Parm2", ViewParameters(), header.Parm2);
   reader.EucInto("PtrnName1", TextLimit::Name, header.PtrnName1);
   reader.EucInto("PtrnName2", TextLimit::Name, header.PtrnName2);
   reader.EucInto("PtrnName3", TextLimit::Name, header.PtrnName3);

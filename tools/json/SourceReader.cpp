@@ -39,12 +39,12 @@ std::string KeyPlace(const std::string& place, const std::string& key) {
   return place.empty() ? key : place + "." + key;
 }
 
-void ReadSlot(const JsonSource& value, const std::string& place, const ParmSlot& slot,
-              std::span<gint> parm) {
-  const auto first = static_cast<std::size_t>(slot.Index);
-  const auto count = static_cast<std::size_t>(slot.Count);
+void ReadParameter(const JsonSource& value, const std::string& place, const Parameter& parameter,
+                   std::span<gint> parm) {
+  const auto first = static_cast<std::size_t>(parameter.Slot);
+  const auto count = static_cast<std::size_t>(parameter.Count());
   if (!value.is_array() || count == 1) {
-    std::fill_n(parm.begin() + slot.Index, count, NumberOf(value, place));
+    std::fill_n(parm.begin() + parameter.Slot, count, NumberOf(value, place));
     return;
   }
   if (value.size() != count)
@@ -53,15 +53,15 @@ void ReadSlot(const JsonSource& value, const std::string& place, const ParmSlot&
     parm[first + k] = NumberOf(value[k], EntryPlace(place, k));
 }
 
-void ReadSlots(const JsonSource& value, const std::string& place, std::span<const ParmSlot> slots,
-               std::span<gint> parm) {
+void ReadParameters(const JsonSource& value, const std::string& place,
+                    std::span<const Parameter> parameters, std::span<gint> parm) {
   for (const auto& [key, entry] : value.items()) {
     if (key == "_comment") continue;
     const std::string& name = key;
-    const auto slot = std::find_if(slots.begin(), slots.end(),
-                                   [&name](const ParmSlot& known) { return name == known.Name; });
-    if (slot == slots.end()) throw SourceError(KeyPlace(place, key), "unknown key");
-    ReadSlot(entry, KeyPlace(place, key), *slot, parm);
+    const auto found = std::find_if(parameters.begin(), parameters.end(),
+                                    [&name](const Parameter& known) { return name == known.Name; });
+    if (found == parameters.end()) throw SourceError(KeyPlace(place, key), "unknown key");
+    ReadParameter(entry, KeyPlace(place, key), *found, parm);
   }
 }
 
@@ -91,10 +91,10 @@ std::string BytesOf(const JsonSource& value, const std::string& place, std::size
   return text;
 }
 
-void ReadParm(const JsonSource& value, const std::string& place, std::span<const ParmSlot> slots,
-              std::span<gint> parm) {
-  if (value.is_object() && !slots.empty()) {
-    ReadSlots(value, place, slots, parm);
+void ReadParm(const JsonSource& value, const std::string& place,
+              std::span<const Parameter> parameters, std::span<gint> parm) {
+  if (value.is_object() && !parameters.empty()) {
+    ReadParameters(value, place, parameters, parm);
     return;
   }
   if (!value.is_array() || value.size() != parm.size())

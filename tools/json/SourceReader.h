@@ -6,7 +6,7 @@
 #include <string>
 
 #include "Types.h"
-#include "layout/ItemSlots.h"
+#include "layout/Parameters.h"
 #include "tools/json/Json.h"
 #include "tools/json/Numbers.h"
 
@@ -16,10 +16,10 @@ gint NumberOf(const JsonSource& value, const std::string& place);
 std::string EucOf(const JsonSource& value, const std::string& place, std::size_t limit);
 // The bytes of a text as they are, at most `limit` of them.
 std::string BytesOf(const JsonSource& value, const std::string& place, std::size_t limit);
-// Fills `parm` from a list of as many numbers, or from an object that names slots; a slot of
+// Fills `parm` from a list of as many numbers, or from an object that names parameters; one of
 // several values takes a list of them or one number for all.
-void ReadParm(const JsonSource& value, const std::string& place, std::span<const ParmSlot> slots,
-              std::span<gint> parm);
+void ReadParm(const JsonSource& value, const std::string& place,
+              std::span<const Parameter> parameters, std::span<gint> parm);
 // The list itself, for its entries to be read.
 const JsonSource& ListOf(const JsonSource& value, const std::string& place, std::size_t limit);
 // "place[index]".
@@ -37,9 +37,9 @@ class ObjectReader {
   std::string Bytes(const char* key, std::size_t limit);
   // Fills a number field of a packed record; it stays as it is when the key is missing.
   template <std::size_t Count>
-  void ParmInto(const char* key, std::span<const ParmSlot> slots, void* field) {
+  void ParmInto(const char* key, std::span<const Parameter> parameters, void* field) {
     auto numbers = NumbersOf<Count>(field);
-    if (const JsonSource* value = Find(key)) ReadParm(*value, Place(key), slots, numbers);
+    if (const JsonSource* value = Find(key)) ReadParm(*value, Place(key), parameters, numbers);
     std::memcpy(field, numbers.data(), sizeof(numbers));
   }
   // Copies a text into its record field; names hold `limit` bytes.

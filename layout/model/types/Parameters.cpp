@@ -1,6 +1,7 @@
 #include "layout/Parameters.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include "Constant.h"
@@ -10,8 +11,18 @@
 #include "layout/model/types/Ranges.h"
 
 using namespace Ranges;
+using enum Spread;
 
 namespace {
+
+using Limits = std::array<Limit, 2>;
+constexpr Limits AtLeast(gint least, Message message, Condition counts = {}) {
+  return {{{least, message, nullptr, counts}}};
+}
+// A movement amount, that of a control which is there not 0.
+constexpr Limits Step(Condition needed = {}) {
+  return {{{0, StepRange}, {1, StepMissing, nullptr, needed}}};
+}
 
 constexpr const gchar* LinePositions[] = {"中央", "上左", "下右", ""};
 constexpr const gchar* BarDirections[] = {"縱", "横", ""};
@@ -30,203 +41,183 @@ constexpr ValueRange Digits{Unit::Characters, 0, 99};
 constexpr ValueRange Amount{Unit::Number, 0, 9999};
 constexpr ValueRange GroupNumber{Unit::Number, 0, 99};
 
+constexpr Parameter ItemRows[] = {
+    {NAMED_SLOT(ItemSlot, X1), One, nullptr, Coordinate},
+    {NAMED_SLOT(ItemSlot, Y1), One, nullptr, Coordinate},
+    {NAMED_SLOT(ItemSlot, X2), One, nullptr, Coordinate},
+    {NAMED_SLOT(ItemSlot, Y2), One, nullptr, Coordinate},
+    {NAMED_SLOT(ItemSlot, TopLayer), One, "TOP", Switch},
+    {NAMED_SLOT(ItemSlot, EraseColour), One, "消去色", Colour},
+};
+constexpr Parameter FrameRows[] = {
+    {NAMED_SLOT(FrameSlot, AreaColour), Systems, "領域色", Colour},
+    {NAMED_SLOT(FrameSlot, TopColour), Systems, "上 境界色", Colour},
+    {NAMED_SLOT(FrameSlot, BottomColour), Systems, "下 境界色", Colour},
+    {NAMED_SLOT(FrameSlot, LeftColour), Systems, "左 境界色", Colour},
+    {NAMED_SLOT(FrameSlot, RightColour), Systems, "右 境界色", Colour},
+    {NAMED_SLOT(FrameSlot, TopWidth), One, "上 枠幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(FrameSlot, BottomWidth), One, "下 枠幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(FrameSlot, LeftWidth), One, "左 枠幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(FrameSlot, RightWidth), One, "右 枠幅", Thickness, AtLeast(0, WidthRange)},
+};
+constexpr Parameter LineRows[] = {
+    {NAMED_SLOT(LineSlot, Colour), Systems, "表示色", Colour},
+    {NAMED_SLOT(LineSlot, Position), One, "表示位置", LinePosition},
+    {NAMED_SLOT(LineSlot, Style), One, "線種", ChoiceOf(LineStyleList)},
+    {NAMED_SLOT(LineSlot, Width), One, "線幅", Thickness, AtLeast(1, LineWidthRange)},
+};
+constexpr Parameter ShapeRows[] = {
+    {NAMED_SLOT(ShapeSlot, LineColour), Systems, "境界色", Colour},
+    {NAMED_SLOT(ShapeSlot, FillColour), Systems, "領域色", Colour},
+    {NAMED_SLOT(ShapeSlot, Filled), One, "塗りつぶし", Switch},
+    {NAMED_SLOT(ShapeSlot, Position), One, "表示位置", LinePosition},
+    // Kept: the message names 0 as allowed; for a shape that is not filled it is not.
+    {NAMED_SLOT(ShapeSlot, Width), One, "線幅", Thickness,
+     AtLeast(1, WidthRange, Unless(ShapeSlot::Filled))},
+};
+constexpr Parameter BarGraphRows[] = {
+    {NAMED_SLOT(BarSlot, BarColour), Systems, "表示色", Colour},
+    {NAMED_SLOT(BarSlot, BackColour), Systems, "背景色", Colour},
+    {NAMED_SLOT(BarSlot, OutlineColour), One, "外形色", Colour},
+    {NAMED_SLOT(BarSlot, Direction), One, "表示方向", ChoiceOf(BarDirections)},
+    {NAMED_SLOT(BarSlot, BarWidth), One, "線幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(BarSlot, OutlineWidth), One, "枠幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(BarSlot, LowerLimit), One, "下限値", Amount},
+    {NAMED_SLOT(BarSlot, UpperLimit), One, "上限値", Amount},
+};
+constexpr Parameter TextRows[] = {
+    {NAMED_SLOT(TextSlot, TextColour), Systems, "前景色", Colour},
+    {NAMED_SLOT(TextSlot, BackColour), Systems, "背景色", Colour},
+    {NAMED_SLOT(TextSlot, BackEnabled), One, "背景色有効", Switch},
+    {NAMED_SLOT(TextSlot, Blinking), One, "点滅", Switch},
+    {NAMED_SLOT(TextSlot, Font), One, "フォント", Font},
+};
+constexpr Parameter FixedStringRows[] = {
+    {NAMED_SLOT(TextSlot, Length), One, "文字数", Characters},
+};
+constexpr Parameter VariableStringRows[] = {
+    {NAMED_SLOT(TextSlot, Length), One, "文字数", Digits, AtLeast(1, LengthRange)},
+    {NAMED_SLOT(TextSlot, JapaneseInput), One, "日本語入力", Switch},
+};
+constexpr Parameter NumericRows[] = {
+    {NAMED_SLOT(TextSlot, Length), One, "表示桁数", Digits, AtLeast(1, LengthRange)},
+    {NAMED_SLOT(TextSlot, Decimals), One, "小数点以下桁数", Digits, AtLeast(0, LengthRange)},
+    {NAMED_SLOT(TextSlot, KeepZeros), One, "ゼロサプレスしない", Switch},
+    {NAMED_SLOT(TextSlot, Grouping), One, "桁区切り使用", Switch},
+    {NAMED_SLOT(TextSlot, Hexadecimal), One, "１６進数", Switch},
+};
+constexpr Parameter InputRows[] = {
+    {NAMED_SLOT(TextSlot, InputAllowed), One, "入力可", Switch},
+    {NAMED_SLOT(TextSlot, CursorKeys), One, "カーソル", ChoiceOf(CursorKeyTexts)},
+};
+constexpr Parameter ButtonRows[] = {
+    {NAMED_SLOT(ButtonSlot, TopLeftColour), One, "左上枠", Colour},
+    {NAMED_SLOT(ButtonSlot, BottomRightColour), One, "右下枠", Colour},
+    {NAMED_SLOT(ButtonSlot, FaceColour), One, "ボタンの表面", Colour},
+    {NAMED_SLOT(ButtonSlot, TextColour), EvenOdd, "ボタンの文字（色）", Colour},
+    {NAMED_SLOT(ButtonSlot, TextPlacement), One, "ボタン文字列", ChoiceOf(TextPlacements)},
+    {NAMED_SLOT(ButtonSlot, TextOffset), One, "ボタン文字列 位置", Thickness,
+     AtLeast(0, OffsetRange)},
+    {NAMED_SLOT(ButtonSlot, Font), One, "フォント", Font},
+    {NAMED_SLOT(ButtonSlot, BorderWidth), One, "ボタンの枠幅", Thickness, AtLeast(1, WidthRange)},
+};
+constexpr Parameter ChoiceRows[] = {
+    {NAMED_SLOT(ChoiceSlot, TextColour), EvenOdd, "前景色", Colour},
+    {NAMED_SLOT(ChoiceSlot, BackColour), EvenOdd, "背景色", Colour},
+    {NAMED_SLOT(ChoiceSlot, BackEnabled), One, "背景色有効", Switch},
+    {NAMED_SLOT(ChoiceSlot, Font), One, "フォント", Font},
+    {NAMED_SLOT(ChoiceSlot, Length), One, "文字数", Characters},
+};
+constexpr Parameter RadioButtonRows[] = {
+    {NAMED_SLOT(ChoiceSlot, Number), One, "識別番号（ボタン）", GroupNumber,
+     AtLeast(0, GroupNumberRange)},
+};
+constexpr Parameter CheckBoxRows[] = {
+    {NAMED_SLOT(ChoiceSlot, Number), One, "識別番号（ボタン）", GroupNumber},
+};
+constexpr Parameter BitmapRows[] = {
+    {NAMED_SLOT(BitmapSlot, TransparentColour), One, "透過色", Colour},
+    {NAMED_SLOT(BitmapSlot, Transparent), One, "透過色 有効", Switch},
+};
+constexpr Parameter MarkRows[] = {
+    {NAMED_SLOT(MarkSlot, MarkColour), Systems, "前景色", Colour},
+    {NAMED_SLOT(MarkSlot, BackColour), Systems, "背景色", Colour},
+    {NAMED_SLOT(MarkSlot, BackEnabled), One, "背景色有効", Switch},
+    {NAMED_SLOT(MarkSlot, Blinking), One, "点滅", Switch},
+    {NAMED_SLOT(MarkSlot, Mark), Systems, "マーク", Mark},
+};
+constexpr Parameter ScrollBarRows[] = {
+    {NAMED_SLOT(ScrollSlot, TopLeftColour), One, "左上枠", Colour},
+    {NAMED_SLOT(ScrollSlot, BottomRightColour), One, "右下枠", Colour},
+    {NAMED_SLOT(ScrollSlot, TroughColour), One, "内部", Colour},
+    {NAMED_SLOT(ScrollSlot, ThumbColour), One, "内部（つまみ）", Colour},
+    {NAMED_SLOT(ScrollSlot, SingleArrows), One, "シングル", Switch},
+    {NAMED_SLOT(ScrollSlot, DoubleArrows), One, "ダブル", Switch},
+    {NAMED_SLOT(ScrollSlot, Direction), One, "表示方向", ChoiceOf(ScrollDirections)},
+    {NAMED_SLOT(ScrollSlot, FrameWidth), One, "枠幅", Thickness, AtLeast(0, WidthRange)},
+    {NAMED_SLOT(ScrollSlot, DisplayAmount), One, "表示量", Amount, AtLeast(1, DisplayAmountRange)},
+    {NAMED_SLOT(ScrollSlot, DataAmount), One, "データ量", Amount, AtLeast(0, DataAmountRange)},
+    {NAMED_SLOT(ScrollSlot, SingleStep), One, "移動量 シングル", Amount,
+     Step(While(ScrollSlot::SingleArrows))},
+    {NAMED_SLOT(ScrollSlot, DoubleStep), One, "移動量 ダブル", Amount,
+     Step(While(ScrollSlot::DoubleArrows))},
+    {NAMED_SLOT(ScrollSlot, PageStep), One, "移動量 ページ", Amount, Step()},
+    {NAMED_SLOT(ScrollSlot, MouseWheel), One, "マウスホィール", Switch},
+    {NAMED_SLOT(ScrollSlot, FunctionKeys), One, "ファンクションキー", Switch},
+};
+constexpr Parameter SpinButtonRows[] = {
+    {NAMED_SLOT(SpinSlot, LowerLimit), One, "下限値", Amount},
+    {NAMED_SLOT(SpinSlot, UpperLimit), One, "上限値", Amount},
+};
+
 // Item types, a bit each.
 using TypeSet = guint;
 template <typename... Types>
 constexpr TypeSet Of(Types... types) {
   return (0u | ... | (1u << types));
 }
-constexpr TypeSet AllTypes = ~0u;
-constexpr TypeSet Shapes = Of(TypeRectangle, TypeEllipse);
-constexpr TypeSet Texts = Of(TypeFixedString, TypeVariableString, TypeNumeric);
-constexpr TypeSet Inputs = Of(TypeVariableString, TypeNumeric);
-constexpr TypeSet Choices = Of(TypeRadioButton, TypeCheckBox);
 
-struct Row {
+// Which types a table is for.
+const struct {
   TypeSet Types;
-  Parameter Is;
+  std::span<const Parameter> Rows;
+} Tables[] = {
+    {~TypeSet{0}, ItemRows},
+    {Of(TypeFrame), FrameRows},
+    {Of(TypeLine), LineRows},
+    {Of(TypeRectangle, TypeEllipse), ShapeRows},
+    {Of(TypeBarGraph), BarGraphRows},
+    {Of(TypeFixedString, TypeVariableString, TypeNumeric), TextRows},
+    {Of(TypeFixedString), FixedStringRows},
+    {Of(TypeVariableString), VariableStringRows},
+    {Of(TypeNumeric), NumericRows},
+    {Of(TypeVariableString, TypeNumeric), InputRows},
+    {Of(TypeButton), ButtonRows},
+    {Of(TypeRadioButton, TypeCheckBox), ChoiceRows},
+    {Of(TypeRadioButton), RadioButtonRows},
+    {Of(TypeCheckBox), CheckBoxRows},
+    {Of(TypeBitmap), BitmapRows},
+    {Of(TypeMark), MarkRows},
+    {Of(TypeScrollBar), ScrollBarRows},
+    {Of(TypeSpinButton), SpinButtonRows},
 };
 
-// In the order of the slots within a type.
-constexpr Row Rows[] = {
-    {AllTypes, {NAMED_SLOT(ItemSlot, X1), Spread::One, nullptr, Coordinate}},
-    {AllTypes, {NAMED_SLOT(ItemSlot, Y1), Spread::One, nullptr, Coordinate}},
-    {AllTypes, {NAMED_SLOT(ItemSlot, X2), Spread::One, nullptr, Coordinate}},
-    {AllTypes, {NAMED_SLOT(ItemSlot, Y2), Spread::One, nullptr, Coordinate}},
-
-    {Of(TypeFrame), {NAMED_SLOT(FrameSlot, AreaColour), Spread::Systems, "領域色", Colour}},
-    {Of(TypeFrame), {NAMED_SLOT(FrameSlot, TopColour), Spread::Systems, "上 境界色", Colour}},
-    {Of(TypeFrame), {NAMED_SLOT(FrameSlot, BottomColour), Spread::Systems, "下 境界色", Colour}},
-    {Of(TypeFrame), {NAMED_SLOT(FrameSlot, LeftColour), Spread::Systems, "左 境界色", Colour}},
-    {Of(TypeFrame), {NAMED_SLOT(FrameSlot, RightColour), Spread::Systems, "右 境界色", Colour}},
-    {Of(TypeFrame),
-     {NAMED_SLOT(FrameSlot, TopWidth), Spread::One, "上 枠幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeFrame),
-     {NAMED_SLOT(FrameSlot, BottomWidth), Spread::One, "下 枠幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeFrame),
-     {NAMED_SLOT(FrameSlot, LeftWidth), Spread::One, "左 枠幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeFrame),
-     {NAMED_SLOT(FrameSlot, RightWidth), Spread::One, "右 枠幅", Thickness, {{{0, WidthRange}}}}},
-
-    {Of(TypeLine), {NAMED_SLOT(LineSlot, Colour), Spread::Systems, "表示色", Colour}},
-    {Of(TypeLine), {NAMED_SLOT(LineSlot, Position), Spread::One, "表示位置", LinePosition}},
-    {Of(TypeLine), {NAMED_SLOT(LineSlot, Style), Spread::One, "線種", ChoiceOf(LineStyleList)}},
-    {Of(TypeLine),
-     {NAMED_SLOT(LineSlot, Width), Spread::One, "線幅", Thickness, {{{1, LineWidthRange}}}}},
-
-    {Shapes, {NAMED_SLOT(ShapeSlot, LineColour), Spread::Systems, "境界色", Colour}},
-    {Shapes, {NAMED_SLOT(ShapeSlot, FillColour), Spread::Systems, "領域色", Colour}},
-    {Shapes, {NAMED_SLOT(ShapeSlot, Filled), Spread::One, "塗りつぶし", Switch}},
-    {Shapes, {NAMED_SLOT(ShapeSlot, Position), Spread::One, "表示位置", LinePosition}},
-    // Kept: the message names 0 as allowed; for a shape that is not filled it is not.
-    {Shapes,
-     {NAMED_SLOT(ShapeSlot, Width),
-      Spread::One,
-      "線幅",
-      Thickness,
-      {{{1, WidthRange, nullptr, Unless(ShapeSlot::Filled)}}}}},
-
-    {Of(TypeBarGraph), {NAMED_SLOT(BarSlot, BarColour), Spread::Systems, "表示色", Colour}},
-    {Of(TypeBarGraph), {NAMED_SLOT(BarSlot, BackColour), Spread::Systems, "背景色", Colour}},
-    {Of(TypeBarGraph), {NAMED_SLOT(BarSlot, OutlineColour), Spread::One, "外形色", Colour}},
-    {Of(TypeBarGraph),
-     {NAMED_SLOT(BarSlot, Direction), Spread::One, "表示方向", ChoiceOf(BarDirections)}},
-    {Of(TypeBarGraph),
-     {NAMED_SLOT(BarSlot, BarWidth), Spread::One, "線幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeBarGraph),
-     {NAMED_SLOT(BarSlot, OutlineWidth), Spread::One, "枠幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeBarGraph), {NAMED_SLOT(BarSlot, LowerLimit), Spread::One, "下限値", Amount}},
-    {Of(TypeBarGraph), {NAMED_SLOT(BarSlot, UpperLimit), Spread::One, "上限値", Amount}},
-
-    {Texts, {NAMED_SLOT(TextSlot, TextColour), Spread::Systems, "前景色", Colour}},
-    {Texts, {NAMED_SLOT(TextSlot, BackColour), Spread::Systems, "背景色", Colour}},
-    {Texts, {NAMED_SLOT(TextSlot, BackEnabled), Spread::One, "背景色有効", Switch}},
-    {Texts, {NAMED_SLOT(TextSlot, Blinking), Spread::One, "点滅", Switch}},
-    {Texts, {NAMED_SLOT(TextSlot, Font), Spread::One, "フォント", Font}},
-    {Of(TypeFixedString), {NAMED_SLOT(TextSlot, Length), Spread::One, "文字数", Characters}},
-    {Of(TypeVariableString),
-     {NAMED_SLOT(TextSlot, Length), Spread::One, "文字数", Digits, {{{1, LengthRange}}}}},
-    {Of(TypeNumeric),
-     {NAMED_SLOT(TextSlot, Length), Spread::One, "表示桁数", Digits, {{{1, LengthRange}}}}},
-    {Of(TypeNumeric),
-     {NAMED_SLOT(TextSlot, Decimals), Spread::One, "小数点以下桁数", Digits, {{{0, LengthRange}}}}},
-    {Inputs, {NAMED_SLOT(TextSlot, InputAllowed), Spread::One, "入力可", Switch}},
-    {Of(TypeVariableString),
-     {NAMED_SLOT(TextSlot, JapaneseInput), Spread::One, "日本語入力", Switch}},
-    {Of(TypeNumeric), {NAMED_SLOT(TextSlot, KeepZeros), Spread::One, "ゼロサプレスしない", Switch}},
-    {Of(TypeNumeric), {NAMED_SLOT(TextSlot, Grouping), Spread::One, "桁区切り使用", Switch}},
-    {Of(TypeNumeric), {NAMED_SLOT(TextSlot, Hexadecimal), Spread::One, "１６進数", Switch}},
-    {Inputs, {NAMED_SLOT(TextSlot, CursorKeys), Spread::One, "カーソル", ChoiceOf(CursorKeyTexts)}},
-
-    {Of(TypeButton), {NAMED_SLOT(ButtonSlot, TopLeftColour), Spread::One, "左上枠", Colour}},
-    {Of(TypeButton), {NAMED_SLOT(ButtonSlot, BottomRightColour), Spread::One, "右下枠", Colour}},
-    {Of(TypeButton), {NAMED_SLOT(ButtonSlot, FaceColour), Spread::One, "ボタンの表面", Colour}},
-    {Of(TypeButton),
-     {NAMED_SLOT(ButtonSlot, TextColour), Spread::EvenOdd, "ボタンの文字（色）", Colour}},
-    {Of(TypeButton),
-     {NAMED_SLOT(ButtonSlot, TextPlacement), Spread::One, "ボタン文字列",
-      ChoiceOf(TextPlacements)}},
-    {Of(TypeButton),
-     {NAMED_SLOT(ButtonSlot, TextOffset),
-      Spread::One,
-      "ボタン文字列 位置",
-      Thickness,
-      {{{0, OffsetRange}}}}},
-    {Of(TypeButton), {NAMED_SLOT(ButtonSlot, Font), Spread::One, "フォント", Font}},
-    {Of(TypeButton),
-     {NAMED_SLOT(ButtonSlot, BorderWidth),
-      Spread::One,
-      "ボタンの枠幅",
-      Thickness,
-      {{{1, WidthRange}}}}},
-
-    {Choices, {NAMED_SLOT(ChoiceSlot, TextColour), Spread::EvenOdd, "前景色", Colour}},
-    {Choices, {NAMED_SLOT(ChoiceSlot, BackColour), Spread::EvenOdd, "背景色", Colour}},
-    {Choices, {NAMED_SLOT(ChoiceSlot, BackEnabled), Spread::One, "背景色有効", Switch}},
-    {Choices, {NAMED_SLOT(ChoiceSlot, Font), Spread::One, "フォント", Font}},
-    {Choices, {NAMED_SLOT(ChoiceSlot, Length), Spread::One, "文字数", Characters}},
-    {Of(TypeRadioButton),
-     {NAMED_SLOT(ChoiceSlot, Number),
-      Spread::One,
-      "識別番号（ボタン）",
-      GroupNumber,
-      {{{0, GroupNumberRange}}}}},
-    {Of(TypeCheckBox),
-     {NAMED_SLOT(ChoiceSlot, Number), Spread::One, "識別番号（ボタン）", GroupNumber}},
-
-    {Of(TypeBitmap), {NAMED_SLOT(BitmapSlot, TransparentColour), Spread::One, "透過色", Colour}},
-    {Of(TypeBitmap), {NAMED_SLOT(BitmapSlot, Transparent), Spread::One, "透過色 有効", Switch}},
-
-    {Of(TypeMark), {NAMED_SLOT(MarkSlot, MarkColour), Spread::Systems, "前景色", Colour}},
-    {Of(TypeMark), {NAMED_SLOT(MarkSlot, BackColour), Spread::Systems, "背景色", Colour}},
-    {Of(TypeMark), {NAMED_SLOT(MarkSlot, BackEnabled), Spread::One, "背景色有効", Switch}},
-    {Of(TypeMark), {NAMED_SLOT(MarkSlot, Blinking), Spread::One, "点滅", Switch}},
-    {Of(TypeMark), {NAMED_SLOT(MarkSlot, Mark), Spread::Systems, "マーク", Mark}},
-
-    {Of(TypeScrollBar), {NAMED_SLOT(ScrollSlot, TopLeftColour), Spread::One, "左上枠", Colour}},
-    {Of(TypeScrollBar), {NAMED_SLOT(ScrollSlot, BottomRightColour), Spread::One, "右下枠", Colour}},
-    {Of(TypeScrollBar), {NAMED_SLOT(ScrollSlot, TroughColour), Spread::One, "内部", Colour}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, ThumbColour), Spread::One, "内部（つまみ）", Colour}},
-    {Of(TypeScrollBar), {NAMED_SLOT(ScrollSlot, SingleArrows), Spread::One, "シングル", Switch}},
-    {Of(TypeScrollBar), {NAMED_SLOT(ScrollSlot, DoubleArrows), Spread::One, "ダブル", Switch}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, Direction), Spread::One, "表示方向", ChoiceOf(ScrollDirections)}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, FrameWidth), Spread::One, "枠幅", Thickness, {{{0, WidthRange}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, DisplayAmount),
-      Spread::One,
-      "表示量",
-      Amount,
-      {{{1, DisplayAmountRange}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, DataAmount),
-      Spread::One,
-      "データ量",
-      Amount,
-      {{{0, DataAmountRange}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, SingleStep),
-      Spread::One,
-      "移動量 シングル",
-      Amount,
-      {{{0, StepRange}, {1, StepMissing, nullptr, While(ScrollSlot::SingleArrows)}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, DoubleStep),
-      Spread::One,
-      "移動量 ダブル",
-      Amount,
-      {{{0, StepRange}, {1, StepMissing, nullptr, While(ScrollSlot::DoubleArrows)}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, PageStep),
-      Spread::One,
-      "移動量 ページ",
-      Amount,
-      {{{0, StepRange}, {1, StepMissing}}}}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, MouseWheel), Spread::One, "マウスホィール", Switch}},
-    {Of(TypeScrollBar),
-     {NAMED_SLOT(ScrollSlot, FunctionKeys), Spread::One, "ファンクションキー", Switch}},
-
-    {Of(TypeSpinButton), {NAMED_SLOT(SpinSlot, LowerLimit), Spread::One, "下限値", Amount}},
-    {Of(TypeSpinButton), {NAMED_SLOT(SpinSlot, UpperLimit), Spread::One, "上限値", Amount}},
-
-    {AllTypes, {NAMED_SLOT(ItemSlot, TopLayer), Spread::One, "TOP", Switch}},
-    {AllTypes, {NAMED_SLOT(ItemSlot, EraseColour), Spread::One, "消去色", Colour}},
-};
-
-bool IsOf(const Row& row, gint type) {
-  const bool second = row.Is.Slot == ItemSlot::X2 || row.Is.Slot == ItemSlot::Y2;
-  return (row.Types >> type & 1u) != 0 && !(second && PtrnDataType[type] == 0);
+bool IsOfSecondPoint(const Parameter& row) {
+  return row.Slot == ItemSlot::X2 || row.Slot == ItemSlot::Y2;
 }
 
 using Parameters = std::vector<Parameter>;
 
 Parameters RowsOf(gint type) {
   Parameters parameters;
-  for (const Row& row : Rows)
-    if (IsOf(row, type)) parameters.push_back(row.Is);
+  for (const auto& table : Tables)
+    if ((table.Types >> type & 1u) != 0)
+      std::copy_if(table.Rows.begin(), table.Rows.end(), std::back_inserter(parameters),
+                   [type](const Parameter& row) {
+                     return !IsOfSecondPoint(row) || PtrnDataType[type] != 0;
+                   });
+  std::sort(parameters.begin(), parameters.end(),
+            [](const Parameter& one, const Parameter& other) { return one.Slot < other.Slot; });
   return parameters;
 }
 

@@ -1,34 +1,11 @@
-#include <string_view>
+#include <cstring>
 
-#include "Constant.h"
-#include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/Parameters.h"
 #include "layout/Validate.h"
+#include "layout/model/types/Messages.h"
 
 namespace {
-
-// Indexes into ErrorMessage.
-enum Message {
-  Valid = -1,
-  PointError = 0,
-  NumberRange = 1,
-  CodeMissing = 2,
-  LayoutNameMissing = 3,
-  WidthRange = 4,
-  LineWidthRange = 5,
-  LimitsCrossed = 6,
-  FixedTextMissing = 7,
-  LengthRange = 8,
-  TooManyDecimals = 9,
-  OffsetRange = 10,
-  GroupNumberRange = 11,
-  BitmapMissing = 12,
-  DisplayAmountRange = 13,
-  DataAmountRange = 14,
-  StepRange = 15,
-  StepMissing = 16,
-  CodeStart = 17,
-};
 
 bool SameX(const PTRNDATA& item) {
   return item.Point1.x == item.Point2.x;
@@ -43,18 +20,6 @@ bool IsOnePoint(const PTRNDATA& item) {
   return SameX(item) && SameY(item);
 }
 
-template <gint Slot>
-bool Negative(const PTRNDATA& item) {
-  return item.Parm[Slot] < 0;
-}
-template <gint Slot>
-bool BelowOne(const PTRNDATA& item) {
-  return item.Parm[Slot] < 1;
-}
-
-bool OpenWithoutLine(const PTRNDATA& item) {
-  return item.Parm[ShapeSlot::Filled] == 0 && item.Parm[ShapeSlot::Width] <= 0;
-}
 // Both limits 0 stand for no limits.
 bool CrossedLimits(const PTRNDATA& item) {
   const gint lower = item.Parm[BarSlot::LowerLimit];
@@ -65,13 +30,6 @@ static_assert(gint{BarSlot::LowerLimit} == gint{SpinSlot::LowerLimit} &&
               gint{BarSlot::UpperLimit} == gint{SpinSlot::UpperLimit});
 bool OnlyDecimals(const PTRNDATA& item) {
   return item.Parm[TextSlot::Length] <= item.Parm[TextSlot::Decimals];
-}
-bool ArrowsWithoutStep(const PTRNDATA& item) {
-  return (item.Parm[ScrollSlot::SingleArrows] != 0 && item.Parm[ScrollSlot::SingleStep] == 0) ||
-         (item.Parm[ScrollSlot::DoubleArrows] != 0 && item.Parm[ScrollSlot::DoubleStep] == 0);
-}
-bool NoPageStep(const PTRNDATA& item) {
-  return item.Parm[ScrollSlot::PageStep] == 0;
 }
 bool NoText(const PTRNDATA& item) {
   return item.Text1[0] == '\0';
@@ -102,62 +60,27 @@ struct Rule {
 
 constexpr gint AnyType = 0;
 
-// In the order in which they are tested; the first broken one is told.
+// In the order in which they are tested: the first that is broken is told.
+
+// Before the limits of the parameters.
+constexpr Rule PointRules[] = {
+    {TypeLine, IsOnePoint, PointError},  {TypeFrame, IsFlat, PointError},
+    {TypeRectangle, IsFlat, PointError}, {TypeEllipse, IsFlat, PointError},
+    {TypeBarGraph, IsFlat, PointError},  {TypeButton, IsFlat, PointError},
+    {TypeBitmap, IsFlat, PointError},    {TypeMark, IsFlat, PointError},
+    {TypeScrollBar, IsFlat, PointError}, {TypeSpinButton, IsFlat, PointError},
+};
+
+// After them.
 constexpr Rule Rules[] = {
-    {TypeLine, IsOnePoint, PointError},
-    {TypeFrame, IsFlat, PointError},
-    {TypeRectangle, IsFlat, PointError},
-    {TypeEllipse, IsFlat, PointError},
-    {TypeBarGraph, IsFlat, PointError},
-    {TypeButton, IsFlat, PointError},
-    {TypeBitmap, IsFlat, PointError},
-    {TypeMark, IsFlat, PointError},
-    {TypeScrollBar, IsFlat, PointError},
-    {TypeSpinButton, IsFlat, PointError},
-
-    {TypeFrame, Negative<FrameSlot::TopWidth>, WidthRange},
-    {TypeFrame, Negative<FrameSlot::BottomWidth>, WidthRange},
-    {TypeFrame, Negative<FrameSlot::LeftWidth>, WidthRange},
-    {TypeFrame, Negative<FrameSlot::RightWidth>, WidthRange},
-
-    {TypeLine, BelowOne<LineSlot::Width>, LineWidthRange},
-
-    // Kept: the message names 0 as allowed; for a shape that is not filled it is not.
-    {TypeRectangle, OpenWithoutLine, WidthRange},
-    {TypeEllipse, OpenWithoutLine, WidthRange},
-
-    {TypeBarGraph, Negative<BarSlot::BarWidth>, WidthRange},
-    {TypeBarGraph, Negative<BarSlot::OutlineWidth>, WidthRange},
     {TypeBarGraph, CrossedLimits, LimitsCrossed},
     {TypeBarGraph, NoCode, CodeMissing},
-
     {TypeFixedString, NoText, FixedTextMissing},
-
-    {TypeVariableString, BelowOne<TextSlot::Length>, LengthRange},
     {TypeVariableString, NoCode, CodeMissing},
-
-    {TypeNumeric, BelowOne<TextSlot::Length>, LengthRange},
-    {TypeNumeric, Negative<TextSlot::Decimals>, LengthRange},
     {TypeNumeric, OnlyDecimals, TooManyDecimals},
     {TypeNumeric, NoCode, CodeMissing},
-
-    {TypeButton, BelowOne<ButtonSlot::BorderWidth>, WidthRange},
-    {TypeButton, Negative<ButtonSlot::TextOffset>, OffsetRange},
-
-    {TypeRadioButton, Negative<ChoiceSlot::Number>, GroupNumberRange},
-
     {TypeBitmap, NoText, BitmapMissing},
-
-    {TypeScrollBar, Negative<ScrollSlot::FrameWidth>, WidthRange},
-    {TypeScrollBar, BelowOne<ScrollSlot::DisplayAmount>, DisplayAmountRange},
-    {TypeScrollBar, Negative<ScrollSlot::DataAmount>, DataAmountRange},
-    {TypeScrollBar, Negative<ScrollSlot::SingleStep>, StepRange},
-    {TypeScrollBar, Negative<ScrollSlot::DoubleStep>, StepRange},
-    {TypeScrollBar, Negative<ScrollSlot::PageStep>, StepRange},
-    {TypeScrollBar, ArrowsWithoutStep, StepMissing},
-    {TypeScrollBar, NoPageStep, StepMissing},
     {TypeScrollBar, NoCode, CodeMissing},
-
     {TypeSpinButton, CrossedLimits, LimitsCrossed},
     {TypeSpinButton, NoCode, CodeMissing},
 
@@ -167,13 +90,22 @@ constexpr Rule Rules[] = {
     {AnyType, BadCodeStart, CodeStart},
 };
 
+Message FirstBroken(std::span<const Rule> rules, const PTRNDATA& item) {
+  for (const Rule& rule : rules)
+    if ((rule.Type == AnyType || rule.Type == item.Type) && rule.IsBroken(item)) return rule.Number;
+  return Valid;
+}
+
 }  // namespace
 
+BrokenLimit FindBrokenLimit(const PTRNDATA& item) {
+  std::array<gint, sizeof(PTRNDATA::Parm) / sizeof(gint)> values;
+  std::memcpy(values.data(), item.Parm, sizeof values);
+  return FindBrokenLimit(ItemParameters(item.Type), values);
+}
+
 gint CheckPtrnData(const PTRNDATA* item) {
-  for (const Rule& rule : Rules) {
-    if ((rule.Type == AnyType || rule.Type == item->Type) && rule.IsBroken(*item)) {
-      return rule.Number;
-    }
-  }
-  return Valid;
+  if (const Message broken = FirstBroken(PointRules, *item); broken != Valid) return broken;
+  if (const Limit* broken = FindBrokenLimit(*item).By) return broken->Message;
+  return FirstBroken(Rules, *item);
 }
