@@ -2,16 +2,20 @@
 
 #include "dialogs/frame/Accessible.h"
 
-DialogWindow NewChooserWindow(const gchar* title, GCallback choose, GCallback cancel,
-                              GtkWidget** chooseButton) {
-  const DialogWindow dialog = NewDialogWindow(title);
-  gtk_widget_set_size_request(dialog.Window, 600, 400);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  *chooseButton = AddDialogButton(dialog, " 選択 ", choose, dialog.Window);
-  gtk_widget_set_sensitive(*chooseButton, FALSE);
-  SetDefaultButton(*chooseButton);
-  AddDialogButton(dialog, " 取消 ", cancel, dialog.Window);
-  return dialog;
+gint RunChooser(GtkWidget* parent, const Chooser& chooser) {
+  return RunDialog(parent, {.Title = chooser.Title,
+                            .Build =
+                                [&chooser](const DialogWindow& dialog) {
+                                  gtk_widget_set_size_request(dialog.Window, 600, 400);
+                                  chooser.Build(dialog);
+                                },
+                            .Buttons = {{.Label = " 選択 ",
+                                         .Pressed = chooser.Choose,
+                                         .Sensitive = false,
+                                         .Default = true,
+                                         .Shown = chooser.ChooseButton},
+                                        CancelButton()},
+                            .Resizable = true});
 }
 
 GtkWidget* NewScrolled(GtkWidget* child, GtkPolicyType horizontal) {

@@ -78,30 +78,43 @@ void CreateFileList(const std::string& path) {
   }
 }
 
-void FileSelect_Folder(const std::string& path) {
+// A folder was selected, or none is any more.
+void FileSelect_Slct1(const std::string& path) {
   if (FileList == nullptr) return;
   ClearFiles();
   if (!path.empty()) CreateFileList(path);
 }
 
-void FileSelect_File(GtkTreeSelection* selection, gpointer /*data*/) {
+// A file was selected, or none is any more.
+void FileSelect_Slct3(GtkTreeSelection* selection, gpointer /*data*/) {
   CopyText(SelectedFile, SelectedName(GTK_WIDGET(gtk_tree_selection_get_tree_view(selection))));
   gtk_widget_set_sensitive(FileSelect_Button, SelectedFile[0] != '\0');
 }
 
-void FileSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
+void FileSelect_OK(GtkWidget* inside) {
   if (SelectedFile[0] == '\0') return;
   CopyText(FileName, SelectedFile);
-  gtk_widget_destroy(window);
-}
-
-void FileSelect_CAN(GtkWidget* /*button*/, GtkWidget* window) {
-  gtk_widget_destroy(window);
+  CloseDialog(inside, 1);
 }
 
 void FileSelect_Activate(GtkTreeView* view, GtkTreePath* /*path*/, GtkTreeViewColumn* /*column*/,
                          gpointer /*data*/) {
-  FileSelect_OK(nullptr, gtk_widget_get_toplevel(GTK_WIDGET(view)));
+  FileSelect_OK(GTK_WIDGET(view));
+}
+
+// Folders at the left, files at the right.
+void AddHalves(const DialogWindow& dialog) {
+  KeepWidget(&FileList, NewNameList("ファイル"));
+  OnNameSelected(FileList, G_CALLBACK(FileSelect_Slct3), dialog.Window);
+  g_signal_connect(FileList, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
+  GtkWidget* halves = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
+  gtk_box_set_homogeneous(GTK_BOX(halves), TRUE);
+  gtk_container_set_border_width(GTK_CONTAINER(halves), 10);
+  GtkWidget* tree = CreateFolderTree(HomeFolder(), FileSelect_Slct1);
+  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(tree, GTK_POLICY_AUTOMATIC), TRUE, TRUE, 0);
+  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(FileList, GTK_POLICY_NEVER), TRUE, TRUE, 0);
+  gtk_box_pack_start(GTK_BOX(dialog.Content), halves, TRUE, TRUE, 0);
+  gtk_widget_show(halves);
 }
 
 }  // namespace
@@ -110,22 +123,9 @@ gchar* Dlg_FileSelect(GtkWidget* parent, const gchar* title, gint type) {
   FileType = type;
   FileName[0] = '\0';
   SelectedFile[0] = '\0';
-  GtkWidget* button = nullptr;
-  const DialogWindow dialog =
-      NewChooserWindow(title, G_CALLBACK(FileSelect_OK), G_CALLBACK(FileSelect_CAN), &button);
-  KeepWidget(&FileSelect_Button, button);
-  KeepWidget(&FileList, NewNameList("ファイル"));
-  OnNameSelected(FileList, G_CALLBACK(FileSelect_File), dialog.Window);
-  g_signal_connect(FileList, "row-activated", G_CALLBACK(FileSelect_Activate), nullptr);
-
-  GtkWidget* halves = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, 10);
-  gtk_box_set_homogeneous(GTK_BOX(halves), TRUE);
-  gtk_container_set_border_width(GTK_CONTAINER(halves), 10);
-  GtkWidget* tree = NewFolderTree(HomeFolder(), FileSelect_Folder);
-  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(tree, GTK_POLICY_AUTOMATIC), TRUE, TRUE, 0);
-  gtk_box_pack_start(GTK_BOX(halves), NewScrolled(FileList, GTK_POLICY_NEVER), TRUE, TRUE, 0);
-  gtk_box_pack_start(GTK_BOX(dialog.Content), halves, TRUE, TRUE, 0);
-  gtk_widget_show(halves);
-  RunModal(dialog.Window, parent);
+  RunChooser(parent, {.Title = title,
+                      .Build = AddHalves,
+                      .Choose = FileSelect_OK,
+                      .ChooseButton = &FileSelect_Button});
   return FileName;
 }

@@ -62,70 +62,64 @@ void FolderSelect_Slct(const std::string& path) {
   gtk_widget_set_sensitive(FolderSelect_Button, TRUE);
 }
 
-void Tell(GtkWidget* window, const gchar* text) {
-  Dlg_MessageBox(window, Title, text, "", 1);
+void Tell(GtkWidget* button, const gchar* text) {
+  Dlg_MessageBox(button, Title, text, "", 1);
 }
 
-void FolderSelect_OK(GtkWidget* /*button*/, GtkWidget* window) {
+void FolderSelect_OK(GtkWidget* button) {
   const std::string text = gtk_entry_get_text(GTK_ENTRY(FolderSelect_Entry));
   const std::string folder = text == GivenText ? GivenFolder : TypedFolder(text, GivenFolder);
   if (folder.size() > EntryLimit) {
-    Tell(window, "フォルダーへのパスが長すぎます。");
+    Tell(button, "フォルダーへのパスが長すぎます。");
     return;
   }
   CopyText(FolderName, folder);
   if (FolderName[0] == '\0') {
-    Tell(window, "フォルダーが設定されていません。");
+    Tell(button, "フォルダーが設定されていません。");
     return;
   }
   if (!g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
-    if (Dlg_MessageBox(window, Title, "フォルダーが存在しません。", "フォルダーを作成しますか ？。",
+    if (Dlg_MessageBox(button, Title, "フォルダーが存在しません。", "フォルダーを作成しますか ？。",
                        2) != 1)
       return;
     if (CreateFolder(FolderName) == 0 || !g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
-      Tell(window, "フォルダーの作成に失敗しました。");
+      Tell(button, "フォルダーの作成に失敗しました。");
       return;
     }
   }
-  gtk_widget_destroy(window);
+  CloseDialog(button, 1);
 }
 
-void FolderSelect_CAN(GtkWidget* /*button*/, GtkWidget* window) {
-  FolderName[0] = '\0';
-  gtk_widget_destroy(window);
-}
-
-gboolean FolderSelect_Delete(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
-  FolderName[0] = '\0';
-  return FALSE;
-}
-
-}  // namespace
-
-gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
-  const std::string home = HomeFolder();
-  CopyText(FolderName, home);
-  GtkWidget* button = nullptr;
-  const DialogWindow dialog =
-      NewChooserWindow(title, G_CALLBACK(FolderSelect_OK), G_CALLBACK(FolderSelect_CAN), &button);
-  g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(FolderSelect_Delete), nullptr);
-  KeepWidget(&FolderSelect_Button, button);
-
-  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
+void AddEntry(const DialogWindow& dialog) {
   GtkWidget* entry = gtk_entry_new();
   SetAccessibleName(entry, Title);
   gtk_entry_set_max_length(GTK_ENTRY(entry), EntryLimit);
   gtk_entry_set_activates_default(GTK_ENTRY(entry), TRUE);
   KeepWidget(&FolderSelect_Entry, entry);
-  Give(home);
+  Give(HomeFolder());
   g_signal_connect(entry, "insert-text", G_CALLBACK(FolderSelect_Insert), nullptr);
   g_signal_connect(entry, "delete-text", G_CALLBACK(FolderSelect_Erase), nullptr);
   g_signal_connect(entry, "changed", G_CALLBACK(FolderSelect_Input), nullptr);
   gtk_box_pack_start(GTK_BOX(dialog.Content), entry, FALSE, FALSE, 5);
   gtk_widget_show(entry);
-  GtkWidget* tree = NewFolderTree(home, FolderSelect_Slct);
+}
+
+void AddEntryAndTree(const DialogWindow& dialog) {
+  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
+  AddEntry(dialog);
+  GtkWidget* tree = CreateFolderTree(HomeFolder(), FolderSelect_Slct);
   gtk_box_pack_start(GTK_BOX(dialog.Content), NewScrolled(tree, GTK_POLICY_AUTOMATIC), TRUE, TRUE,
                      5);
-  RunModal(dialog.Window, parent);
+}
+
+}  // namespace
+
+gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
+  CopyText(FolderName, HomeFolder());
+  if (RunChooser(parent, {.Title = title,
+                          .Build = AddEntryAndTree,
+                          .Choose = FolderSelect_OK,
+                          .ChooseButton = &FolderSelect_Button}) != 1)
+    FolderName[0] = '\0';
   return FolderName;
 }

@@ -239,7 +239,7 @@ gboolean BelowRoot(GtkTreeSelection* /*selection*/, GtkTreeModel* /*model*/, Gtk
 
 }  // namespace
 
-GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected) {
+GtkWidget* CreateFolderTree(const std::string& root, FolderSelected selected) {
   auto owner = std::make_unique<TreeState>(std::move(selected));
   GtkTreeStore* store =
       gtk_tree_store_new(ColumnCount, G_TYPE_STRING, G_TYPE_STRING, G_TYPE_BOOLEAN, G_TYPE_BOOLEAN);

@@ -11,4 +11,4 @@ using FolderSelected = std::function<void(const std::string& path)>;
 
 // A shown tree whose root stands for `root`; the root itself cannot be selected. Hidden folders do
 // not appear; a folder reached twice through links is unfolded once.
-GtkWidget* NewFolderTree(const std::string& root, FolderSelected selected);
+GtkWidget* CreateFolderTree(const std::string& root, FolderSelected selected);

@@ -14,6 +14,7 @@ void PressButton(GtkWidget* button, const DialogButton* row) {
 void AddButton(const DialogWindow& dialog, const DialogButton& row) {
   GtkWidget* button =
       AddDialogButton(dialog, row.Label, G_CALLBACK(PressButton), const_cast<DialogButton*>(&row));
+  if (!row.Sensitive) gtk_widget_set_sensitive(button, FALSE);
   if (row.Default) SetDefaultButton(button);
   if (row.Shown != nullptr) KeepWidget(row.Shown, button);
 }

@@ -11,6 +11,7 @@ struct DialogButton {
   // Called with the button; without it a press closes the dialog with `Answer`.
   std::function<void(GtkWidget* button)> Pressed = {};
   gint Answer = 0;
+  bool Sensitive = true;        // at first
   bool Default = false;         // Return in an entry presses it
   GtkWidget** Shown = nullptr;  // the button for as long as it lives, then null
 };

@@ -1,6 +1,7 @@
 #include "dialogs/frame/DialogWindow.h"
 
 #include "dialogs/frame/ScreenRoom.h"
+#include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
 
 #include "layout/EditWindows.h"
@@ -64,6 +65,10 @@ GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCall
   gtk_box_pack_start(GTK_BOX(dialog.Actions), button, FALSE, FALSE, 0);
   gtk_widget_show(button);
   return button;
+}
+
+void AddDialogLabel(const DialogWindow& dialog, const gchar* text) {
+  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel(text), FALSE, FALSE, 0);
 }
 
 void LeaveOutActions(const DialogWindow& dialog) {

@@ -14,6 +14,8 @@ DialogWindow NewDialogWindow(const gchar* title);
 // Adds a shown button; `clicked` gets (button, data).
 GtkWidget* AddDialogButton(const DialogWindow& dialog, const gchar* label, GCallback clicked,
                            gpointer data);
+// Adds a label to the content.
+void AddDialogLabel(const DialogWindow& dialog, const gchar* text);
 // Takes line and row away from a dialog without buttons.
 void LeaveOutActions(const DialogWindow& dialog);
 // Return in an entry of the dialog presses this button.

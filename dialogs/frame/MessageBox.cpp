@@ -1,5 +1,4 @@
 #include "dialogs/frame/DialogFrame.h"
-#include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
 #include "layout/Screen.h"
 
@@ -16,9 +15,8 @@ void Message_Button(GtkWidget* button, gpointer data) {
   CloseDialog(button, GPOINTER_TO_INT(data));
 }
 
-void AddMessage(GtkWidget* box, const gchar* text) {
-  if (text != nullptr && *text != '\0')
-    gtk_box_pack_start(GTK_BOX(box), NewLabel(text), FALSE, FALSE, 0);
+void AddMessage(const DialogWindow& dialog, const gchar* text) {
+  if (text != nullptr && *text != '\0') AddDialogLabel(dialog, text);
 }
 
 void AddButtons(GtkWidget* box, gint set) {
@@ -46,8 +44,8 @@ gint Dlg_MessageBox(GtkWidget* parent, const gchar* title, const gchar* mesg1, c
                              [=](const DialogWindow& dialog) {
                                gtk_container_set_border_width(GTK_CONTAINER(dialog.Window), 10);
                                gtk_box_set_spacing(GTK_BOX(dialog.Content), 10);
-                               AddMessage(dialog.Content, mesg1);
-                               AddMessage(dialog.Content, mesg2);
+                               AddMessage(dialog, mesg1);
+                               AddMessage(dialog, mesg2);
                                AddButtons(dialog.Content, butn >= 1 && butn <= 3 ? butn : 0);
                              },
                          .Place = GTK_WIN_POS_CENTER_ON_PARENT});

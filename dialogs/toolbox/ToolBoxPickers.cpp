@@ -11,8 +11,7 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
-#include "dialogs/choosers/ChooserWindow.h"
-#include "dialogs/choosers/NameList.h"
+#include "dialogs/choosers/NameDialog.h"
 #include "dialogs/kit/Cells.h"
 #include "layout/Registry.h"
 #include "project/ProjectRecord.h"
@@ -65,20 +64,17 @@ std::vector<std::string> ListOfKind(gint kind) {
 }
 
 // An empty row is no choice: the picker stays.
-void ToolBoxList_Select(GtkTreeView* view, GtkTreePath* path, GtkTreeViewColumn* /*column*/,
-                        gpointer /*data*/) {
-  const std::string chosen = NameAt(GTK_WIDGET(view), path);
+void ToolBoxList_Select(GtkWidget* list, const std::string& chosen) {
   if (chosen.empty()) {
-    gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(view));
+    gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(GTK_TREE_VIEW(list)));
     return;
   }
   CopyText(SelectList, chosen);
-  gtk_widget_destroy(gtk_widget_get_toplevel(GTK_WIDGET(view)));
+  CloseDialog(list, 1);
 }
 
 // Texts of more than `limit` bytes are unusable.
-GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts, gsize limit) {
-  GtkWidget* list = NewNameList(name);
+void FillList(GtkWidget* list, const std::vector<std::string>& texts, gsize limit) {
   for (const std::string& text : texts)
     if (text.size() <= limit)
       AddName(list, text, text);
@@ -88,21 +84,15 @@ GtkWidget* NewList(const gchar* name, const std::vector<std::string>& texts, gsi
   // One click chooses. The selection alone would not do: a list that gets the keyboard focus
   // selects its first row by itself.
   gtk_tree_view_set_activate_on_single_click(GTK_TREE_VIEW(list), TRUE);
-  g_signal_connect(list, "row-activated", G_CALLBACK(ToolBoxList_Select), nullptr);
-  return list;
 }
 
 gchar* ToolBox_List(GtkWidget* parent, const gchar* title, gint kind, gsize limit) {
   SelectList[0] = '\0';
-  const DialogWindow dialog = NewDialogWindow(title);
-  gtk_window_set_resizable(GTK_WINDOW(dialog.Window), FALSE);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  GtkWidget* scrolled = NewScrolled(NewList(title, ListOfKind(kind), limit), GTK_POLICY_AUTOMATIC);
-  gtk_widget_set_size_request(scrolled, 600, 300);
-  gtk_container_set_border_width(GTK_CONTAINER(scrolled), 10);
-  gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);
-  LeaveOutActions(dialog);
-  RunModal(dialog.Window, parent);
+  RunNameDialog(parent, {.Frame = {.Title = title},
+                         .Names = title,
+                         .Room = {580, 280},
+                         .Fill = [=](GtkWidget* list) { FillList(list, ListOfKind(kind), limit); },
+                         .Taken = ToolBoxList_Select});
   return SelectList;
 }
 

@@ -2,24 +2,22 @@
 #include <string>
 
 #include "dialogs/Choosers.h"
-#include "dialogs/choosers/NameList.h"
+#include "dialogs/choosers/NameDialog.h"
 #include "dialogs/kit/Cells.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"
-#include "layout/dialog/LayoutNames.h"
 #include "project/ProjectRecord.h"
 #include "support/Files.h"
 #include "support/Text.h"
-
-gchar PtrnFileName[82];
 
 namespace {
 
 constexpr const gchar* Title = "レイアウトを開く";
 constexpr const gchar* UndefinedTitle = "レイアウトを開く [未設定]";
 
-gint PtrnFileOpen_Result = 0;
+constexpr gint Opened = 1;
+
 gint PtrnFileOpen_Flag = 0;  // 1 = only layouts with incomplete items are listed
 GtkWidget* LayoutNames = nullptr;
 GtkWidget* OpenButton = nullptr;
@@ -36,37 +34,28 @@ void PtrnFileOpen_List(gint mode) {
   ListLayouts(LayoutNames, mode == 1);
 }
 
-void PtrnFileOpen_Select(GtkTreeSelection* /*selection*/, gpointer /*data*/) {
-  SelectName(SelectedName(LayoutNames));
-}
-
-void PtrnFileOpen_Open(GtkWidget* /*button*/, GtkWidget* dialog) {
+void PtrnFileOpen_Open(GtkWidget* inside) {
   if (PtrnFileName[0] == '\0') return;
-  PtrnFileOpen_Result = 1;
   CopyText(PtrnName, PtrnFileName);
-  gtk_widget_destroy(dialog);
+  CloseDialog(inside, Opened);
 }
 
-void PtrnFileOpen_Activate(GtkTreeView* list, GtkTreePath* /*path*/, GtkTreeViewColumn* /*column*/,
-                           gpointer /*data*/) {
-  PtrnFileOpen_Open(nullptr, gtk_widget_get_toplevel(GTK_WIDGET(list)));
-}
-
-void PtrnFileOpen_Delete(GtkWidget* /*button*/, GtkWidget* /*dialog*/) {
+void PtrnFileOpen_Delete(GtkWidget* /*button*/) {
   if (PtrnFileName[0] == '\0') return;
   FileDelete(ProjPath, PtrnFileName, "ptn");
   PtrnFileOpen_List(PtrnFileOpen_Flag);
 }
 
-void PtrnFileOpen_Undef(GtkWidget* /*button*/, GtkWidget* dialog) {
+void PtrnFileOpen_Undef(GtkWidget* button) {
   PtrnFileOpen_Flag = PtrnFileOpen_Flag == 0 ? 1 : 0;
-  gtk_window_set_title(GTK_WINDOW(dialog), PtrnFileOpen_Flag == 0 ? Title : UndefinedTitle);
+  gtk_window_set_title(GTK_WINDOW(gtk_widget_get_toplevel(button)),
+                       PtrnFileOpen_Flag == 0 ? Title : UndefinedTitle);
   PtrnFileOpen_List(PtrnFileOpen_Flag);
 }
 
 // PtrnName stays as it was: what opens is the layout that it names.
-void PtrnFileOpen_Search(GtkWidget* /*button*/, GtkWidget* dialog) {
-  const gchar* chosen = Dlg_FileSelect(dialog, Title, 1);
+void PtrnFileOpen_Search(GtkWidget* button) {
+  const gchar* chosen = Dlg_FileSelect(button, Title, 1);
   if (*chosen == '\0') return;
   gchar path[PathSize];
   gchar name[PathSize];
@@ -74,35 +63,32 @@ void PtrnFileOpen_Search(GtkWidget* /*button*/, GtkWidget* dialog) {
   SplitPath(chosen, path, name, ext);
   FileCopy(path, name, ext, ProjPath, name, ext);
   CopyText(PtrnFileName, name);
-  PtrnFileOpen_Result = 1;
-  gtk_widget_destroy(dialog);
+  CloseDialog(button, Opened);
 }
 
-void PtrnFileOpen_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
-  PtrnFileOpen_Result = 0;
-  gtk_widget_destroy(dialog);
+void FillList(GtkWidget* list) {
+  KeepWidget(&LayoutNames, list);
+  PtrnFileOpen_List(0);
 }
 
 }  // namespace
 
 gint PtrnFileOpen(GtkWidget* parent) {
-  PtrnFileOpen_Result = 0;
   PtrnFileOpen_Flag = 0;
-  const DialogWindow dialog = NewDialogWindow(Title);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  KeepWidget(&LayoutNames, NewNameList("レイアウト"));
-  AddLayoutList(dialog, LayoutNames);
-  AddDialogButton(dialog, " フォルダーより探す ", G_CALLBACK(PtrnFileOpen_Search), dialog.Window);
-  AddDialogButton(dialog, " 未設定 ", G_CALLBACK(PtrnFileOpen_Undef), dialog.Window);
-  KeepWidget(&OpenButton,
-             AddDialogButton(dialog, " 開く ", G_CALLBACK(PtrnFileOpen_Open), dialog.Window));
-  KeepWidget(&DeleteButton,
-             AddDialogButton(dialog, " 削除 ", G_CALLBACK(PtrnFileOpen_Delete), dialog.Window));
-  AddDialogButton(dialog, " 取消 ", G_CALLBACK(PtrnFileOpen_CAN), dialog.Window);
-  PtrnFileOpen_List(0);
-  BeginOnNames(LayoutNames);
-  OnNameSelected(LayoutNames, G_CALLBACK(PtrnFileOpen_Select), dialog.Window);
-  g_signal_connect(LayoutNames, "row-activated", G_CALLBACK(PtrnFileOpen_Activate), nullptr);
-  RunModal(dialog.Window, parent);
-  return PtrnFileOpen_Result;
+  return RunNameDialog(
+      parent,
+      {.Frame =
+           {.Title = Title,
+            .Buttons = {{.Label = " フォルダーより探す ", .Pressed = PtrnFileOpen_Search},
+                        {.Label = " 未設定 ", .Pressed = PtrnFileOpen_Undef},
+                        {.Label = " 開く ", .Pressed = PtrnFileOpen_Open, .Shown = &OpenButton},
+                        {.Label = " 削除 ", .Pressed = PtrnFileOpen_Delete, .Shown = &DeleteButton},
+                        CancelButton()},
+            .Resizable = true},
+       .Names = "レイアウト",
+       .Fill = FillList,
+       .Above = [](const DialogWindow& dialog) { AddDialogLabel(dialog, "フォルダー"); },
+       .BeginOnList = true,
+       .Selected = SelectName,
+       .Taken = [](GtkWidget* list, const std::string&) { PtrnFileOpen_Open(list); }});
 }

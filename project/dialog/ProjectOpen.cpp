@@ -3,8 +3,7 @@
 #include <vector>
 
 #include "dialogs/Choosers.h"
-#include "dialogs/choosers/ChooserWindow.h"
-#include "dialogs/choosers/NameList.h"
+#include "dialogs/choosers/NameDialog.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/EntryLook.h"
@@ -29,7 +28,8 @@ struct PROJTABLE {
   bool whole;  // false: the profile gave the texts cut, and they lead to another project
 };
 
-gint ProjFileOpen_Result = 0;
+constexpr gint Opened = 1;
+
 GtkWidget* ProjFileOpen_Entry = nullptr;
 GtkWidget* ProjFileOpen_Buttn = nullptr;
 std::vector<PROJTABLE> ProjTable;
@@ -55,8 +55,7 @@ void ReadKnownProjects() {
 }
 
 // Rows carry their number in the table.
-void ProjFileOpen_Slct(GtkTreeSelection* selection, gpointer /*data*/) {
-  const std::string number = SelectedName(GTK_WIDGET(gtk_tree_selection_get_tree_view(selection)));
+void ProjFileOpen_Slct(const std::string& number) {
   if (number.empty()) {
     EditPath[0] = '\0';
     EditName[0] = '\0';
@@ -69,36 +68,22 @@ void ProjFileOpen_Slct(GtkTreeSelection* selection, gpointer /*data*/) {
   gtk_widget_set_sensitive(ProjFileOpen_Buttn, !number.empty());
 }
 
-void ProjFileOpen_Open(GtkWidget* /*button*/, GtkWidget* dialog) {
-  if (EditPath[0] == '\0' || EditName[0] == '\0') return;
-  ProjFileOpen_Result = 1;
-  gtk_widget_destroy(dialog);
+void ProjFileOpen_Open(GtkWidget* inside) {
+  if (EditPath[0] != '\0' && EditName[0] != '\0') CloseDialog(inside, Opened);
 }
 
-void ProjFileOpen_Activate(GtkTreeView* list, GtkTreePath* /*path*/, GtkTreeViewColumn* /*column*/,
-                           gpointer /*data*/) {
-  ProjFileOpen_Open(nullptr, gtk_widget_get_toplevel(GTK_WIDGET(list)));
-}
-
-void ProjFileOpen_Search(GtkWidget* /*button*/, GtkWidget* dialog) {
-  const gchar* chosen = Dlg_FileSelect(dialog, Title, 0);
+void ProjFileOpen_Search(GtkWidget* button) {
+  const gchar* chosen = Dlg_FileSelect(button, Title, 0);
   if (*chosen == '\0') return;
   gchar path[PathSize];
   gchar name[PathSize];
   SplitPath(chosen, path, name, nullptr);
   CopyText(EditPath, path);
   CopyText(EditName, name);
-  ProjFileOpen_Result = 1;
-  gtk_widget_destroy(dialog);
+  CloseDialog(button, Opened);
 }
 
-void ProjFileOpen_CAN(GtkWidget* /*button*/, GtkWidget* dialog) {
-  ProjFileOpen_Result = 0;
-  gtk_widget_destroy(dialog);
-}
-
-GtkWidget* AddList(const DialogWindow& dialog) {
-  GtkWidget* list = NewNameList("プロジェクト");
+void FillList(GtkWidget* list) {
   for (gsize row = 0; row < ProjTable.size(); ++row)
     if (ProjTable[row].whole)
       AddName(list, ProjTable[row].name, std::to_string(row));
@@ -106,17 +91,11 @@ GtkWidget* AddList(const DialogWindow& dialog) {
       AddUnusableName(
           list, ProjTable[row].name,
           "パスが長すぎるため、一覧からは開けません。「フォルダーより探す」で開きます。");
-  OnNameSelected(list, G_CALLBACK(ProjFileOpen_Slct), dialog.Window);
-  g_signal_connect(list, "row-activated", G_CALLBACK(ProjFileOpen_Activate), nullptr);
-  GtkWidget* scrolled = NewScrolled(list, GTK_POLICY_AUTOMATIC);
-  gtk_widget_set_size_request(scrolled, 480, 260);
-  gtk_box_pack_start(GTK_BOX(dialog.Content), scrolled, TRUE, TRUE, 0);
-  return list;
 }
 
 void AddFolderEntry(const DialogWindow& dialog) {
   constexpr const gchar* Label = "フォルダー";
-  gtk_box_pack_start(GTK_BOX(dialog.Content), NewLabel(Label), FALSE, FALSE, 0);
+  AddDialogLabel(dialog, Label);
   GtkWidget* entry = gtk_entry_new();
   SetAccessibleName(entry, Label);
   MakeReadOnly(entry);
@@ -129,21 +108,23 @@ void AddFolderEntry(const DialogWindow& dialog) {
 }  // namespace
 
 gint ProjFileOpen(GtkWidget* parent) {
-  ProjFileOpen_Result = 0;
   ReadKnownProjects();
-  const DialogWindow dialog = NewDialogWindow(Title);
-  gtk_window_set_position(GTK_WINDOW(dialog.Window), GTK_WIN_POS_CENTER);
-  gtk_container_set_border_width(GTK_CONTAINER(dialog.Content), 10);
-  gtk_box_set_spacing(GTK_BOX(dialog.Content), 5);
-  GtkWidget* list = AddList(dialog);
-  AddFolderEntry(dialog);
-  AddDialogButton(dialog, " フォルダーより探す ", G_CALLBACK(ProjFileOpen_Search), dialog.Window);
-  GtkWidget* open = AddDialogButton(dialog, " 開く ", G_CALLBACK(ProjFileOpen_Open), dialog.Window);
-  gtk_widget_set_sensitive(open, FALSE);
-  KeepWidget(&ProjFileOpen_Buttn, open);
-  AddDialogButton(dialog, " 取消 ", G_CALLBACK(ProjFileOpen_CAN), dialog.Window);
-  BeginOnNames(list);
-  RunModal(dialog.Window, parent);
+  const gint answer = RunNameDialog(
+      parent,
+      {.Frame = {.Title = Title,
+                 .Buttons = {{.Label = " フォルダーより探す ", .Pressed = ProjFileOpen_Search},
+                             {.Label = " 開く ",
+                              .Pressed = ProjFileOpen_Open,
+                              .Sensitive = false,
+                              .Shown = &ProjFileOpen_Buttn},
+                             CancelButton()},
+                 .Resizable = true},
+       .Names = "プロジェクト",
+       .Fill = FillList,
+       .Below = AddFolderEntry,
+       .BeginOnList = true,
+       .Selected = ProjFileOpen_Slct,
+       .Taken = [](GtkWidget* list, const std::string&) { ProjFileOpen_Open(list); }});
   ProjTable.clear();
-  return ProjFileOpen_Result;
+  return answer;
 }
