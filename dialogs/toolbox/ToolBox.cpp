@@ -159,7 +159,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   g_signal_connect(dialog.Window, "configure-event", G_CALLBACK(ToolBox_Configure), nullptr);
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
   g_signal_connect(dialog.Window, "destroy", G_CALLBACK(ToolBox_Destroy), nullptr);
-  BuildToolBoxPage(dialog.Window, PageOfType(type));
+  BuildToolBoxPage(dialog.Window, type);
   for (const auto& button : Buttons)
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
   SetDefaultButton(ToolBoxButton[RegisterCode]);

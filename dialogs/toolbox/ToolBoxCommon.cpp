@@ -1,11 +1,13 @@
 // The section of the tool box that all types share, and the point read-outs.
+#include <map>
+
 #include "Constant.h"
+#include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/kit/Cells.h"
-#include "dialogs/toolbox/ToolBoxPage.h"
 #include "dialogs/toolbox/ToolBoxRows.h"
-#include "dialogs/toolbox/ToolBoxTables.h"
+#include "layout/ItemSlots.h"
 #include "layout/Screen.h"
 
 GtkWidget* ToolBox_Label1 = nullptr;
@@ -13,45 +15,42 @@ GtkWidget* ToolBox_Label2 = nullptr;
 
 namespace {
 
-gint* const ItemUndf = ItemInt(offsetof(PTRNDATA, UndfFlag));
-gint* const ItemRegst = ItemInt(offsetof(PTRNDATA, RegstFlag));
-gint* const ItemCheck = ItemInt(offsetof(PTRNDATA, CheckFlag));
+constexpr const gchar* StartName = "始点";
+constexpr const gchar* PositionName = "位置";
+constexpr const gchar* EndName = "終点";
 
-}  // namespace
+struct CommonVariant {
+  gint Line;
+  bool OnePoint;
+  bool Registers;
 
-// Rows get their lines from ToolBox_Comn, where line 0 stands here.
-DLG_STRING ToolComn_String[] = {
-    Label(0, "始点"),     Label(0, "位置"),       Label(1, "終点"), Label(0, "処理種別"),
-    Label(0, "画面名称"), Label(0, "識別コード"), EndString};
-DLG_COMBOBOX ToolComn_Combo[] = {Choice(0, ItemInt(offsetof(PTRNDATA, ID_Type)), IDCodeList),
-                                 EndComboBox};
-DLG_EDITBOX ToolComn_Edit[] = {Entry(0, PtrnData.ID_Name, true), Entry(0, PtrnData.ID_Code, false),
-                               EndEditBox};
-DLG_NUMRBOX ToolComn_Numr[] = {Number(0, 1, ItemInt(offsetof(PTRNDATA, ID_No)), 9999), EndNumrBox};
-DLG_CHECKBUTN ToolComn_Check[] = {
-    Check(0, 3, 3, Parm(ItemSlot::TopLayer), "TOP"), Check(0, 1, 3, ItemUndf, "後で設定"),
-    Check(0, 1, 3, ItemRegst, "文字列一覧へ登録"),
-    Check(0, 1, 3, ItemCheck, "次回からの初期値として保存"), EndCheckButn};
+  auto operator<=>(const CommonVariant&) const = default;
+};
 
-namespace {
-
-void ShowIf(gint* culm1, gint culm, bool shown) {
-  *culm1 = shown ? culm : -1;
+void DescribeCommon(PageRows& rows, const CommonVariant& variant) {
+  rows.Row(variant.OnePoint ? PositionName : StartName)
+      .InColumn(3)
+      .Check(ItemSlot::TopLayer, "TOP", 1);
+  if (!variant.OnePoint) rows.Row(EndName);
+  rows.ContinueAt(variant.Line);
+  rows.Row("処理種別").Choice(ItemInt(offsetof(PTRNDATA, ID_Type)), IDCodeList);
+  rows.Row("画面名称").Entry(PtrnData.ID_Name, true).Browse(ToolBox_Page);
+  rows.Row("識別コード").Entry(PtrnData.ID_Code).Browse(ToolBox_Code);
+  rows.Row().Number(ItemInt(offsetof(PTRNDATA, ID_No)), 9999);
+  rows.Row().Check(ItemInt(offsetof(PTRNDATA, UndfFlag)), "後で設定", 3);
+  if (variant.Registers)
+    rows.Row().Check(ItemInt(offsetof(PTRNDATA, RegstFlag)), "文字列一覧へ登録", 3);
+  rows.Row().Check(ItemInt(offsetof(PTRNDATA, CheckFlag)), "次回からの初期値として保存", 3);
 }
 
-void SetCommonRows(gint line, bool onePoint, bool registers) {
-  ShowIf(&ToolComn_String[0].culm1, 0, !onePoint);
-  ShowIf(&ToolComn_String[1].culm1, 0, onePoint);
-  ShowIf(&ToolComn_String[2].culm1, 0, !onePoint);
-  for (gint k = 0; k < 3; ++k) ToolComn_String[3 + k].line = line + k;
-  ToolComn_Combo[0].line = line;
-  ToolComn_Edit[0].line = line + 1;
-  ToolComn_Edit[1].line = line + 2;
-  ToolComn_Numr[0].line = line + 3;
-  ToolComn_Check[1].line = line + 4;
-  ToolComn_Check[2].line = line + 5;
-  ShowIf(&ToolComn_Check[2].culm1, 1, registers);
-  ToolComn_Check[3].line = line + (registers ? 6 : 5);
+PageTables& CommonTables(const CommonVariant& variant) {
+  static std::map<CommonVariant, PageTables> known;
+  const auto [found, isNew] = known.try_emplace(variant);
+  if (isNew) {
+    PageRows rows(found->second, {}, 0);
+    DescribeCommon(rows, variant);
+  }
+  return found->second;
 }
 
 // In digits of one width, so that figures stand below each other and do not dance.
@@ -98,21 +97,15 @@ void ShowPoint(GtkWidget* label, const POINT& point) {
 }  // namespace
 
 void ToolBox_Comn(GtkWidget* table, gint line, gint flag1, gint flag2) {
-  GtkWidget* window = gtk_widget_get_toplevel(table);
-  SetCommonRows(line, flag1 != 0, flag2 != 0);
-  AddReadOut(table, &ToolBox_Label1, 0, ToolComn_String[flag1 == 0 ? 0 : 1].text);
+  const bool onePoint = flag1 != 0;
+  PageTables& tables = CommonTables({line, onePoint, flag2 != 0});
+  AddReadOut(table, &ToolBox_Label1, 0, onePoint ? PositionName : StartName);
   KeepWidget(&ToolBox_Label2, nullptr);
-  if (flag1 == 0) AddReadOut(table, &ToolBox_Label2, 1, ToolComn_String[2].text);
-  Dlg_String(window, table, ToolComn_String);
-  Dlg_EditBox(window, table, ToolComn_Edit);
-  Dlg_NumrBox(window, table, ToolComn_Numr);
+  if (!onePoint) AddReadOut(table, &ToolBox_Label2, 1, EndName);
+  BuildTables(gtk_widget_get_toplevel(table), table, tables);
   // Its row has no label.
-  SetAccessibleName(ToolComn_Numr[0].spin, "識別番号");
-  Dlg_ComboBox(window, table, ToolComn_Combo);
-  Dlg_CheckButn(window, table, ToolComn_Check);
+  SetAccessibleName(tables.Numr.Rows()->spin, "識別番号");
   SetToolBoxPoint();
-  AddBrowseButton(table, {line + 1, 4, ToolBox_Page, &ToolComn_Edit[0]});
-  AddBrowseButton(table, {line + 2, 4, ToolBox_Code, &ToolComn_Edit[1]});
 }
 
 void SetToolBoxPoint() {

@@ -1,21 +1,38 @@
-// Building a page of the tool box from its tables.
+// Building a page of the tool box into its window.
 #include "dialogs/toolbox/ToolBoxPage.h"
-#include "dialogs/kit/LatePress.h"
 
+#include <map>
+
+#include "Constant.h"
 #include "dialogs/frame/Accessible.h"
-#include "dialogs/kit/Cells.h"
+#include "dialogs/toolbox/ToolBoxRows.h"
+#include "layout/Guards.h"
+#include "layout/ItemSlots.h"
 #include "project/ProjectRecord.h"
+#include "support/Resource.h"
 
 namespace {
 
 constexpr const gchar* ContentKey = "varnix-content";
 
-// The third and fourth colour show only in projects of four colour systems. Swatches of a colour
-// table take one cell, so the second column still tells the place of a hidden one.
-void ShowSystemColours(DLG_COLRDATA* rows) {
-  const bool four = ProjData.Parm1[2] != 0;
-  for (DLG_COLRDATA* row = rows; row->line >= 0; ++row)
-    if (row->culm2 >= 3) row->culm1 = four ? row->culm2 : -1;
+// The tables of a page stay for as long as the program runs: a picker may still be open over a
+// panel that another one has replaced.
+PageTables& TablesOfType(gint type) {
+  static std::map<PageVariant, PageTables> known;
+  const PageVariant variant = {type, TextIndex(Language), ProjData.Parm1[2] != 0};
+  const auto [found, isNew] = known.try_emplace(variant);
+  PageTables& tables = found->second;
+  if (isNew) {
+    // The points take the first line, or the first two.
+    PageRows page(tables, variant, PtrnDataType[type] != 0 ? 2 : 1);
+    DescribePage(page, type);
+  }
+  return tables;
+}
+
+// Kept: a frame has its sixth column by the number of languages, not of colours.
+gint ColumnsOf(gint type) {
+  return type == TypeFrame && ProjData.Parm1[1] != 0 ? 6 : 5;
 }
 
 // A wider gap after the first column, the labels, than between the others, which are all as wide.
@@ -80,29 +97,13 @@ GtkWidget* ToolBox_Title(GtkWidget* window, const gchar* title, gint /*line*/, g
   return table;
 }
 
-void AddBrowseButton(GtkWidget* table, const BrowseButton& browse) {
-  GtkWidget* button = NewButton("参照");
-  gtk_widget_set_halign(button, GTK_ALIGN_FILL);
-  gtk_widget_set_valign(button, GTK_ALIGN_FILL);
-  g_signal_connect(button, "clicked", G_CALLBACK(browse.Open), browse.Edit);
-  gtk_grid_attach(GTK_GRID(table), button, browse.Culm, browse.Line, 1, 1);
-  gtk_widget_show(button);
-}
-
-void BuildToolBoxPage(GtkWidget* window, const ToolBoxPage& page) {
-  GtkWidget* table = ToolBox_Title(window, page.Title, page.Lines, page.Culms);
-  if (page.SystemColours) ShowSystemColours(page.Tables.Colr);
-  BuildControls(window, table, page.Tables);
-  Dlg_ColrData(window, table, page.MoreColours);
-  if (page.Browse.Open != nullptr) {
-    // Pickers are given the first row of the one-language table whatever table is shown; it then
-    // stands for the entry that the user sees.
-    if (page.Browse.Edit != page.Tables.Edit)
-      KeepWidget(&page.Browse.Edit->entry, page.Tables.Edit->entry);
-    AddBrowseButton(table, page.Browse);
-  }
-  ToolBox_Comn(table, page.CommonLine, page.OnePoint, page.Registers);
+void BuildToolBoxPage(GtkWidget* window, gint type) {
+  PageTables& tables = TablesOfType(type);
+  const gint columns = ColumnsOf(type);
+  GtkWidget* table = ToolBox_Title(window, PtrnTypeList[type - 1], tables.NextLine, columns);
+  BuildTables(window, table, tables);
+  ToolBox_Comn(table, tables.NextLine, PtrnDataType[type] == 0, tables.Registers);
   NameControls(table);
   AlignColumns(table);
-  BeginBelowTop(table, page.Lines, page.Culms);
+  BeginBelowTop(table, tables.NextLine, columns);
 }

@@ -1,14 +1,66 @@
-// Words that the tool box tables are written in. Every row is bound to the item in hand, PtrnData.
+// The rows of a tool box page, told in the order in which they read, and the control tables that
+// they make. Every control is bound to the item in hand, PtrnData.
 #pragma once
 
+#include <compare>
 #include <cstddef>
+#include <span>
+#include <vector>
 
-#include "Constant.h"
-#include "dialogs/Kit.h"
-#include "dialogs/ToolBox.h"
-#include "layout/ItemSlots.h"
+#include "dialogs/kit/ControlTables.h"
 #include "layout/Store.h"
-#include "support/Resource.h"
+
+using Picker = void (*)(GtkWidget* widget, DLG_EDITBOX* edit);
+
+// A browse button, the picker it opens and the row of the entries' table that takes the choice.
+struct BrowseButton {
+  gint Line;
+  gint Culm;
+  Picker Open;
+  gsize Entry;
+};
+
+// A control table that grows; its end row is always in place.
+template <class Row>
+class GrowingTable {
+ public:
+  void Add(const Row& row) { rows_.insert(rows_.end() - 1, row); }
+  gsize Count() const { return rows_.size() - 1; }
+  Row* Rows() { return rows_.data(); }
+
+ private:
+  static Row End() {
+    Row end = {};
+    end.line = -1;
+    return end;
+  }
+  std::vector<Row> rows_ = {End()};
+};
+
+// The tables of a page or of the section that all pages share. Controls keep pointers into them.
+struct PageTables {
+  GrowingTable<DLG_STRING> String;
+  GrowingTable<DLG_EDITBOX> Edit;
+  GrowingTable<DLG_NUMRBOX> Numr;
+  GrowingTable<DLG_COMBOBOX> Combo;
+  GrowingTable<DLG_RADIOBUTN> Radio;
+  GrowingTable<DLG_CHECKBUTN> Check;
+  GrowingTable<DLG_COLRDATA> Colr;
+  GrowingTable<DLG_COLRDATA> LaterColr;  // of a frame: ToolGbox_Colr2
+  GrowingTable<DLG_MARKDATA> Mark;
+  std::vector<BrowseButton> Browse;
+  gint NextLine = 0;       // below the last row
+  bool Registers = false;  // its text can go to the string list
+};
+
+// What a page's rows depend on.
+struct PageVariant {
+  gint Type = 0;      // 1..15
+  gint Language = 0;  // 0..2, the last one shown
+  bool FourSystems = false;
+
+  auto operator<=>(const PageVariant&) const = default;
+};
 
 // The integer at a byte offset of the item in hand. Formed by bytes, as the record is packed.
 inline gint* ItemInt(gsize offset) {
@@ -18,40 +70,75 @@ inline gint* Parm(gint slot) {
   return ItemInt(offsetof(PTRNDATA, Parm) + static_cast<gsize>(slot) * sizeof(gint));
 }
 
-inline DLG_STRING Label(gint line, const gchar* text) {
-  return {line, 0, 0, 0, text, nullptr};
-}
-// A number 0..max.
-inline DLG_NUMRBOX Number(gint line, gint culm, gint* data, gint max) {
-  return {line, culm, culm, max > 99 ? 4 : 2, max, 0, data, "", nullptr};
-}
-inline DLG_COLRDATA Colour(gint line, gint culm, gint* colr) {
-  return {line, culm, culm, colr, ""};
-}
-inline DLG_MARKDATA MarkRow(gint line, gint culm, gint* mark) {
-  return {line, culm, culm, mark};
-}
-inline DLG_COMBOBOX Choice(gint line, gint* item, const gchar* const* list) {
-  return {line, 1, 4, 0, item, list, ""};
-}
-inline DLG_RADIOBUTN Radio(gint line, gint culm1, gint culm2, gint* data, gint code,
-                           const gchar* text) {
-  return {line, culm1, culm2, code, data, text};
-}
-inline DLG_CHECKBUTN Check(gint line, gint culm1, gint culm2, gint* data, const gchar* text) {
-  return {line, culm1, culm2, data, text};
-}
-// An entry of a text field, as long as the field takes.
-template <gsize Size>
-DLG_EDITBOX Entry(gint line, gchar (&text)[Size], bool readOnly) {
-  return {line, 1, 3, static_cast<gint>(Size) - 2, readOnly ? 1 : 0, text, nullptr};
-}
+// Takes a page's rows down: lines and, from the label on, columns count themselves.
+class PageRows {
+ public:
+  PageRows(PageTables& tables, const PageVariant& variant, gint firstLine)
+      : tables_(tables), variant_(variant) {
+    ContinueAt(firstLine);
+  }
+  gint Language() const { return variant_.Language; }
 
-inline constexpr DLG_STRING EndString = {-1, 0, 0, 0, nullptr, nullptr};
-inline constexpr DLG_NUMRBOX EndNumrBox = {-1, 0, 0, 0, 0, 0, nullptr, nullptr, nullptr};
-inline constexpr DLG_COLRDATA EndColrData = {-1, 0, 0, nullptr, nullptr};
-inline constexpr DLG_MARKDATA EndMarkData = {-1, 0, 0, nullptr};
-inline constexpr DLG_COMBOBOX EndComboBox = {-1, 0, 0, 0, nullptr, nullptr, nullptr};
-inline constexpr DLG_RADIOBUTN EndRadioButn = {-1, 0, 0, 0, nullptr, nullptr};
-inline constexpr DLG_CHECKBUTN EndCheckButn = {-1, 0, 0, nullptr, nullptr};
-inline constexpr DLG_EDITBOX EndEditBox = {-1, 0, 0, 0, 0, nullptr, nullptr};
+  // Begins the next row; the controls that follow stand in it from the second column on.
+  PageRows& Row(const gchar* label = nullptr);
+  // The next row is this line.
+  void ContinueAt(gint line) { tables_.NextLine = line; }
+  // The row's controls go on in this line, or in this column, instead.
+  PageRows& InLine(gint line);
+  PageRows& InColumn(gint culm);
+  // The colours of systems 3 and 4 are built after all other controls, and a screen reader finds
+  // them there.
+  void BuildLaterColoursLast() { isLaterLast_ = true; }
+
+  // One swatch.
+  PageRows& Colour(gint slot);
+  // One swatch for even and one for odd colour systems.
+  PageRows& ColourPair(gint slot);
+  // One swatch per colour system of the project.
+  PageRows& SystemColours(gint slot);
+  // Marks of the four colour systems.
+  PageRows& SystemMarks(gint slot);
+  // A number 0..most.
+  PageRows& Number(gint* data, gint most);
+  PageRows& Number(gint slot, gint most) { return Number(Parm(slot), most); }
+  // A drop-down list, four columns wide.
+  PageRows& Choice(gint* item, const gchar* const* list);
+  PageRows& Choice(gint slot, const gchar* const* list) { return Choice(Parm(slot), list); }
+  // A radio button per value from 0 on, each some columns wide.
+  PageRows& Radio(gint slot, std::span<const gchar* const> values, gint width = 1);
+  PageRows& Check(gint* data, const gchar* text, gint width);
+  PageRows& Check(gint slot, const gchar* text, gint width = 2) {
+    return Check(Parm(slot), text, width);
+  }
+  // An entry of a text field, as long as the field takes; three columns wide.
+  template <gsize Size>
+  PageRows& Entry(gchar (&field)[Size], bool readOnly = false) {
+    return Entry(field, static_cast<gint>(Size) - 2, readOnly);
+  }
+  // A browse button for the row's entry.
+  PageRows& Browse(Picker open);
+  // A row for the text of each language shown. Kept: the browse button serves the first alone, and
+  // stands a column further out with each further language.
+  void Texts(std::span<const gchar* const> labels);
+
+ private:
+  // Columns of a control.
+  struct Columns {
+    gint First;
+    gint Last;
+  };
+  Columns Take(gint width);
+  PageRows& Entry(gchar* field, gint size, bool readOnly);
+  void AddColour(GrowingTable<DLG_COLRDATA>& table, gint slot);
+
+  PageTables& tables_;
+  PageVariant variant_;
+  gint line_ = 0;
+  gint culm_ = 1;
+  bool isLaterLast_ = false;
+};
+
+// Adds the rows of a type's page.
+void DescribePage(PageRows& page, gint type);
+// Builds the controls and browse buttons of tables into a grid.
+void BuildTables(GtkWidget* window, GtkWidget* grid, PageTables& tables);
