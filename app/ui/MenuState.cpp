@@ -74,7 +74,7 @@ bool TypeChosen(gint i) {
 bool TypeUnpickable(gint i) {
   return PtrnUnSlct[i] != 0;
 }
-bool GridShown(gint) {
+bool GridShown(gint /*i*/) {
   return PtrnHedr.Parm2[ViewSlot::GridShown] != 0;
 }
 bool ZoomChosen(gint i) {

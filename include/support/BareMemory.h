@@ -24,7 +24,7 @@ struct BareMemory {
     if (count > static_cast<std::size_t>(-1) / 2 / sizeof(Record)) throw std::bad_alloc();
     return static_cast<Record*>(TakeBareMemory(count * sizeof(Record)));
   }
-  void deallocate(Record* records, std::size_t) noexcept { GiveBareMemory(records); }
+  void deallocate(Record* records, std::size_t /*count*/) noexcept { GiveBareMemory(records); }
   template <typename Element>
   void construct(Element* place) {
     ::new (static_cast<void*>(place)) Element;
