@@ -4,6 +4,7 @@
 #include "dialogs/kit/Rows.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/Parameters.h"
 #include "layout/Store.h"
 #include "support/Resource.h"
 
@@ -16,6 +17,29 @@ gint* Parm1(gint slot) {
 }
 gint* Parm2(gint slot) {
   return IntAt(&EditHedr, offsetof(PTRNHEDR, Parm2) + static_cast<gsize>(slot) * sizeof(gint));
+}
+
+const gchar* LabelOf(gint slot) {
+  return FindParameter(HeaderParameters(), slot)->Label;
+}
+const ValueRange& RangeOf(gint slot) {
+  return FindParameter(HeaderParameters(), slot)->Range;
+}
+
+// Rows of the layout's own parameters, with their ranges, the texts of their values and their
+// labels.
+DLG_NUMRBOX Number(gint line, gint culm, gint slot, const gchar* caption) {
+  return Rows::Number(line, culm, Parm1(slot), RangeOf(slot).Least, RangeOf(slot).Most, caption);
+}
+DLG_RADIOBUTN Radio(gint line, gint culm, gint slot, gint value) {
+  return Rows::Radio(line, culm, Parm1(slot), value, RangeOf(slot).Values[value]);
+}
+DLG_CHECKBUTN Switch(gint line, gint culm1, gint culm2, gint slot) {
+  return Check(line, culm1, culm2, Parm1(slot), LabelOf(slot));
+}
+// A row of what else the header holds.
+DLG_CHECKBUTN Option(gint line, gint culm1, gint culm2, gint slot) {
+  return Check(line, culm1, culm2, Parm2(slot), FindParameter(ViewParameters(), slot)->Label);
 }
 
 constexpr gint TitleSize = 80;
@@ -38,31 +62,28 @@ void ShowTitles(DLG_STRING* labels, DLG_EDITBOX* entries) {
 
 // Parent window.
 
-DLG_STRING EditPtrn1_String[] = {Label(1, OnlyTitle),     Label(2, "タイトル２"),
-                                 Label(3, "タイトル３"),  Label(0, "タイトル領域"),
-                                 Label(4, "フォント"),    Label(5, "表示位置"),
-                                 Label(6, "作業領域"),    Label(7, "ビットマップ名"),
-                                 Label(8, "ボタン領域"),  Label(9, "マウスカーソル形状"),
-                                 Label(10, "キー入力時"), EndString};
+DLG_STRING EditPtrn1_String[] = {
+    Label(1, OnlyTitle),     Label(2, "タイトル２"),
+    Label(3, "タイトル３"),  Label(0, "タイトル領域"),
+    Label(4, "フォント"),    Label(5, LabelOf(HedrSlot::TitlePosition)),
+    Label(6, "作業領域"),    Label(7, "ビットマップ名"),
+    Label(8, "ボタン領域"),  Label(9, LabelOf(HedrSlot::MouseCursor)),
+    Label(10, "キー入力時"), EndString};
 DLG_EDITBOX EditPtrn1_Edit[] = {Entry(1, 1, 4, EditHedr.PtrnName1, TitleSize, false),
                                 Entry(2, 1, 4, EditHedr.PtrnName2, TitleSize, false),
                                 Entry(3, 1, 4, EditHedr.PtrnName3, TitleSize, false),
                                 Entry(7, 1, 3, EditHedr.BmapName, BitmapSize, false), EndEditBox};
-DLG_NUMRBOX EditPtrn1_Numr[] = {Number(0, 1, Parm1(HedrSlot::TitleHeight), 0, 99, "高さ"),
-                                Number(8, 1, Parm1(HedrSlot::ButtonAreaHeight), 0, 99, "高さ"),
-                                EndNumrBox};
+DLG_NUMRBOX EditPtrn1_Numr[] = {Number(0, 1, HedrSlot::TitleHeight, "高さ"),
+                                Number(8, 1, HedrSlot::ButtonAreaHeight, "高さ"), EndNumrBox};
 DLG_COMBOBOX EditPtrn1_Combo[] = {Choice(4, 1, 4, Parm1(HedrSlot::TitleFont), FontNameList),
                                   EndComboBox};
-DLG_RADIOBUTN EditPtrn1_Radio[] = {Radio(5, 1, Parm1(HedrSlot::TitlePosition), 0, "左端"),
-                                   Radio(5, 2, Parm1(HedrSlot::TitlePosition), 1, "中央"),
-                                   Radio(9, 1, Parm1(HedrSlot::MouseCursor), 0, "矢印"),
-                                   Radio(9, 2, Parm1(HedrSlot::MouseCursor), 1, "十字"),
-                                   Radio(9, 3, Parm1(HedrSlot::MouseCursor), 2, "砂時計"),
-                                   EndRadioButn};
-DLG_CHECKBUTN EditPtrn1_Check[] = {Check(6, 3, 4, Parm1(HedrSlot::Gradation), "グラデュエーション"),
-                                   Check(11, 1, 2, Parm2(ViewSlot::StartScreen), "起動時画面"),
-                                   Check(11, 3, 4, Parm1(HedrSlot::KeepAsIs), "自動更新不要"),
-                                   EndCheckButn};
+DLG_RADIOBUTN EditPtrn1_Radio[] = {
+    Radio(5, 1, HedrSlot::TitlePosition, 0), Radio(5, 2, HedrSlot::TitlePosition, 1),
+    Radio(9, 1, HedrSlot::MouseCursor, 0),   Radio(9, 2, HedrSlot::MouseCursor, 1),
+    Radio(9, 3, HedrSlot::MouseCursor, 2),   EndRadioButn};
+DLG_CHECKBUTN EditPtrn1_Check[] = {Switch(6, 3, 4, HedrSlot::Gradation),
+                                   Option(11, 1, 2, ViewSlot::StartScreen),
+                                   Switch(11, 3, 4, HedrSlot::KeepAsIs), EndCheckButn};
 DLG_COLRDATA EditPtrn1_Colr[] = {Colour(0, 2, Parm1(HedrSlot::TitleAreaColour), "領域色"),
                                  Colour(5, 3, Parm1(HedrSlot::TitleColour), "表示色"),
                                  Colour(6, 1, Parm1(HedrSlot::WorkAreaColour), "背景色"),
@@ -73,39 +94,45 @@ DLG_COLRDATA EditPtrn1_Colr[] = {Colour(0, 2, Parm1(HedrSlot::TitleAreaColour), 
 
 // Child window. Its "中央" of the display position edits the same field as the title position.
 
-DLG_STRING EditPtrn2_String[] = {
-    Label(3, OnlyTitle),        Label(4, "タイトル２"),     Label(5, "タイトル３"),
-    Label(0, "画面の解像度"),   Label(1, "画面の表示位置"), Label(2, "タイトル領域"),
-    Label(6, "フォント"),       Label(7, "表示位置"),       Label(8, "作業領域"),
-    Label(9, "ビットマップ名"), Label(10, "子ウィンドウ"),  Label(11, "マウスカーソル形状"),
-    Label(12, "マウス入力"),    Label(13, "キー入力時"),    EndString};
+DLG_STRING EditPtrn2_String[] = {Label(3, OnlyTitle),
+                                 Label(4, "タイトル２"),
+                                 Label(5, "タイトル３"),
+                                 Label(0, "画面の解像度"),
+                                 Label(1, "画面の表示位置"),
+                                 Label(2, "タイトル領域"),
+                                 Label(6, "フォント"),
+                                 Label(7, LabelOf(HedrSlot::TitlePosition)),
+                                 Label(8, "作業領域"),
+                                 Label(9, "ビットマップ名"),
+                                 Label(10, "子ウィンドウ"),
+                                 Label(11, LabelOf(HedrSlot::MouseCursor)),
+                                 Label(12, "マウス入力"),
+                                 Label(13, "キー入力時"),
+                                 EndString};
 DLG_EDITBOX EditPtrn2_Edit[] = {Entry(3, 1, 4, EditHedr.PtrnName1, TitleSize, false),
                                 Entry(4, 1, 4, EditHedr.PtrnName2, TitleSize, false),
                                 Entry(5, 1, 4, EditHedr.PtrnName3, TitleSize, false),
                                 Entry(9, 1, 3, EditHedr.BmapName, BitmapSize, false), EndEditBox};
-DLG_NUMRBOX EditPtrn2_Numr[] = {Number(0, 1, Parm1(HedrSlot::Width), 10, 9999, "Ｘ"),
-                                Number(0, 2, Parm1(HedrSlot::Height), 10, 9999, "Ｙ"),
-                                Number(1, 1, Parm1(HedrSlot::WindowX), 10, 9999, "Ｘ"),
-                                Number(1, 2, Parm1(HedrSlot::WindowY), 10, 9999, "Ｙ"),
-                                Number(2, 1, Parm1(HedrSlot::TitleHeight), 0, 99, "高さ"),
-                                Number(10, 1, Parm1(HedrSlot::FrameWidth), 0, 99, "枠幅"),
+DLG_NUMRBOX EditPtrn2_Numr[] = {Number(0, 1, HedrSlot::Width, "Ｘ"),
+                                Number(0, 2, HedrSlot::Height, "Ｙ"),
+                                Number(1, 1, HedrSlot::WindowX, "Ｘ"),
+                                Number(1, 2, HedrSlot::WindowY, "Ｙ"),
+                                Number(2, 1, HedrSlot::TitleHeight, "高さ"),
+                                Number(10, 1, HedrSlot::FrameWidth, "枠幅"),
                                 EndNumrBox};
 DLG_COMBOBOX EditPtrn2_Combo[] = {Choice(6, 1, 4, Parm1(HedrSlot::TitleFont), FontNameList),
                                   EndComboBox};
-DLG_RADIOBUTN EditPtrn2_Radio[] = {Radio(7, 1, Parm1(HedrSlot::TitlePosition), 0, "左端"),
-                                   Radio(7, 2, Parm1(HedrSlot::TitlePosition), 1, "中央"),
-                                   Radio(11, 1, Parm1(HedrSlot::MouseCursor), 0, "矢印"),
-                                   Radio(11, 2, Parm1(HedrSlot::MouseCursor), 1, "十字"),
-                                   Radio(11, 3, Parm1(HedrSlot::MouseCursor), 2, "砂時計"),
-                                   EndRadioButn};
-DLG_CHECKBUTN EditPtrn2_Check[] = {
-    Check(1, 3, 3, Parm1(HedrSlot::TitlePosition), "中央"),
-    Check(1, 4, 4, Parm1(HedrSlot::Fixed), "移動不可"),
-    Check(8, 3, 4, Parm1(HedrSlot::Gradation), "グラデュエーション"),
-    Check(12, 1, 4, Parm1(HedrSlot::ParentInput), "親ウィンドウで入力可"),
-    Check(14, 1, 2, Parm2(ViewSlot::StopScreen), "終了時画面"),
-    Check(14, 3, 4, Parm1(HedrSlot::KeepAsIs), "自動更新不要"),
-    EndCheckButn};
+DLG_RADIOBUTN EditPtrn2_Radio[] = {
+    Radio(7, 1, HedrSlot::TitlePosition, 0), Radio(7, 2, HedrSlot::TitlePosition, 1),
+    Radio(11, 1, HedrSlot::MouseCursor, 0),  Radio(11, 2, HedrSlot::MouseCursor, 1),
+    Radio(11, 3, HedrSlot::MouseCursor, 2),  EndRadioButn};
+DLG_CHECKBUTN EditPtrn2_Check[] = {Check(1, 3, 3, Parm1(HedrSlot::TitlePosition), "中央"),
+                                   Switch(1, 4, 4, HedrSlot::Fixed),
+                                   Switch(8, 3, 4, HedrSlot::Gradation),
+                                   Switch(12, 1, 4, HedrSlot::ParentInput),
+                                   Option(14, 1, 2, ViewSlot::StopScreen),
+                                   Switch(14, 3, 4, HedrSlot::KeepAsIs),
+                                   EndCheckButn};
 DLG_COLRDATA EditPtrn2_Colr[] = {Colour(2, 2, Parm1(HedrSlot::TitleAreaColour), "領域色"),
                                  Colour(7, 3, Parm1(HedrSlot::TitleColour), "表示色"),
                                  Colour(8, 1, Parm1(HedrSlot::WorkAreaColour), "背景色"),
@@ -118,23 +145,19 @@ DLG_COLRDATA EditPtrn2_Colr[] = {Colour(2, 2, Parm1(HedrSlot::TitleAreaColour), 
 
 DLG_STRING EditPtrn3_String[] = {
     Label(0, "領域の大きさ"), Label(1, "画面の表示位置"), Label(2, "レイアウト名"),
-    Label(3, "作業領域"),     Label(4, "子ウィンドウ"),   Label(5, "マウスカーソル形状"),
+    Label(3, "作業領域"),     Label(4, "子ウィンドウ"),   Label(5, LabelOf(HedrSlot::MouseCursor)),
     Label(6, "マウス入力"),   Label(7, "キー入力時"),     EndString};
 DLG_EDITBOX EditPtrn3_Edit[] = {Entry(2, 1, 4, EditHedr.PtrnName1, TitleSize, false), EndEditBox};
-DLG_NUMRBOX EditPtrn3_Numr[] = {Number(0, 1, Parm1(HedrSlot::Width), 10, 9999, "Ｘ"),
-                                Number(0, 2, Parm1(HedrSlot::Height), 10, 9999, "Ｙ"),
-                                Number(1, 1, Parm1(HedrSlot::WindowX), 10, 9999, "Ｘ"),
-                                Number(1, 2, Parm1(HedrSlot::WindowY), 10, 9999, "Ｙ"),
-                                Number(4, 1, Parm1(HedrSlot::FrameWidth), 0, 99, "枠幅"),
-                                EndNumrBox};
-DLG_RADIOBUTN EditPtrn3_Radio[] = {Radio(5, 1, Parm1(HedrSlot::MouseCursor), 0, "矢印"),
-                                   Radio(5, 2, Parm1(HedrSlot::MouseCursor), 1, "十字"),
-                                   Radio(5, 3, Parm1(HedrSlot::MouseCursor), 2, "砂時計"),
-                                   EndRadioButn};
-DLG_CHECKBUTN EditPtrn3_Check[] = {
-    Check(1, 3, 3, Parm1(HedrSlot::TitlePosition), "中央"),
-    Check(6, 1, 4, Parm1(HedrSlot::ParentInput), "親ウィンドウで入力可"),
-    Check(8, 1, 2, Parm1(HedrSlot::KeepAsIs), "自動更新不要"), EndCheckButn};
+DLG_NUMRBOX EditPtrn3_Numr[] = {
+    Number(0, 1, HedrSlot::Width, "Ｘ"),        Number(0, 2, HedrSlot::Height, "Ｙ"),
+    Number(1, 1, HedrSlot::WindowX, "Ｘ"),      Number(1, 2, HedrSlot::WindowY, "Ｙ"),
+    Number(4, 1, HedrSlot::FrameWidth, "枠幅"), EndNumrBox};
+DLG_RADIOBUTN EditPtrn3_Radio[] = {Radio(5, 1, HedrSlot::MouseCursor, 0),
+                                   Radio(5, 2, HedrSlot::MouseCursor, 1),
+                                   Radio(5, 3, HedrSlot::MouseCursor, 2), EndRadioButn};
+DLG_CHECKBUTN EditPtrn3_Check[] = {Check(1, 3, 3, Parm1(HedrSlot::TitlePosition), "中央"),
+                                   Switch(6, 1, 4, HedrSlot::ParentInput),
+                                   Switch(8, 1, 2, HedrSlot::KeepAsIs), EndCheckButn};
 DLG_COLRDATA EditPtrn3_Colr[] = {Colour(3, 1, Parm1(HedrSlot::WorkAreaColour), "背景色"),
                                  Colour(4, 2, Parm1(HedrSlot::FrameColour), "枠色  "),
                                  Colour(7, 1, Parm1(HedrSlot::KeyColour), "前景色"),
