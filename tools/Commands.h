@@ -72,3 +72,6 @@ int RunCheck(const CheckOptions& options);
 
 // Prints what two layouts differ in: ExitDone = nothing, ExitFailed = something.
 int RunDiff(const std::string& before, const std::string& after);
+
+// Prints which slots the named parameters have.
+int RunParameters();

@@ -118,6 +118,12 @@ void AddDiff(CLI::App& app, Options& options, int& result) {
   command->callback([&] { result = RunDiff(options.File, options.Other); });
 }
 
+// For scripts/check-docs; no help tells it.
+void AddParameters(CLI::App& app, int& result) {
+  CLI::App* command = app.add_subcommand("parameters", "Print the parameter tables")->group("");
+  command->callback([&] { result = RunParameters(); });
+}
+
 int Run(int argc, const char* const* argv) {
   CLI::App app(
       "Companion tool of VarnixMaster: shows, builds, compares, renders, checks, generates.",
@@ -133,6 +139,7 @@ int Run(int argc, const char* const* argv) {
   AddInfo(app, options, result);
   AddCheck(app, options, result);
   AddDiff(app, options, result);
+  AddParameters(app, result);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -5,8 +5,7 @@
 #include <vector>
 
 #include "Constant.h"
-#include "layout/Guards.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/model/types/Messages.h"
 #include "layout/model/types/Ranges.h"
 
@@ -212,10 +211,9 @@ Parameters RowsOf(gint type) {
   Parameters parameters;
   for (const auto& table : Tables)
     if ((table.Types >> type & 1u) != 0)
-      std::copy_if(table.Rows.begin(), table.Rows.end(), std::back_inserter(parameters),
-                   [type](const Parameter& row) {
-                     return !IsOfSecondPoint(row) || PtrnDataType[type] != 0;
-                   });
+      std::copy_if(
+          table.Rows.begin(), table.Rows.end(), std::back_inserter(parameters),
+          [type](const Parameter& row) { return !IsOfSecondPoint(row) || HasTwoPoints(type); });
   std::sort(parameters.begin(), parameters.end(),
             [](const Parameter& one, const Parameter& other) { return one.Slot < other.Slot; });
   return parameters;
@@ -225,7 +223,7 @@ Parameters RowsOf(gint type) {
 
 std::span<const Parameter> ItemParameters(gint type) {
   static const auto byType = [] {
-    std::array<Parameters, std::size(PtrnDataType)> all;
+    std::array<Parameters, ItemTypeCount + 1> all;
     for (gsize no = 1; no < all.size(); ++no) all[no] = RowsOf(static_cast<gint>(no));
     return all;
   }();
