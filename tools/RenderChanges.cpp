@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "layout/ItemTypes.h"
 #include "layout/Records.h"
 #include "layout/Store.h"
 #include "render/Primitives.h"
