@@ -1,7 +1,9 @@
 // Bitmaps and marks that are shown.
+#include <algorithm>
 #include <set>
 
 #include "layout/ItemTypes.h"
+#include "layout/Parameters.h"
 #include "project/check/Rules.h"
 #include "support/Text.h"
 
@@ -47,19 +49,23 @@ void FindUnreadable(const CheckedProject& project, FindingList& findings) {
   FindPictures(project, findings, PictureState::Unreadable, " cannot be read as a picture");
 }
 
+void CheckMark(const CheckedProject& project, const CheckedLayout& layout, const PTRNDATA& item,
+               const Parameter& parameter, FindingList& findings) {
+  std::set<gint> told;
+  for (gint system = 0; system < std::min(SystemCount(project), parameter.Count()); ++system) {
+    const gint mark = item.Parm[parameter.Slot + system];
+    const bool exists = mark >= 0 && mark < MarkCount;
+    if ((exists && project.MarkDrawn[static_cast<std::size_t>(mark)]) || !told.insert(mark).second)
+      continue;
+    findings.AddItem(layout, item, parameter.Name,
+                     "mark " + std::to_string(mark) + (exists ? " is empty" : " does not exist"));
+  }
+}
+
 void FindEmptyMarks(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    if (item.Type != TypeMark) return;
-    std::set<gint> told;
-    for (gint system = 0; system < SystemCount(project); ++system) {
-      const gint mark = item.Parm[MarkSlot::Mark + system];
-      const bool exists = mark >= 0 && mark < MarkCount;
-      if ((exists && project.MarkDrawn[static_cast<std::size_t>(mark)]) ||
-          !told.insert(mark).second)
-        continue;
-      findings.AddItem(layout, item, "Mark",
-                       "mark " + std::to_string(mark) + (exists ? " is empty" : " does not exist"));
-    }
+    for (const Parameter& parameter : ItemParameters(item.Type))
+      if (parameter.Range.Kind == Unit::Mark) CheckMark(project, layout, item, parameter, findings);
   });
 }
 

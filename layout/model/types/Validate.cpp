@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/Parameters.h"
 #include "layout/Validate.h"
 #include "layout/model/types/Messages.h"
@@ -13,11 +13,11 @@ bool SameX(const PTRNDATA& item) {
 bool SameY(const PTRNDATA& item) {
   return item.Point1.y == item.Point2.y;
 }
-bool IsFlat(const PTRNDATA& item) {
-  return SameX(item) || SameY(item);
-}
-bool IsOnePoint(const PTRNDATA& item) {
-  return SameX(item) && SameY(item);
+// A line may be level or upright, what lies between corners may not.
+bool HasNoExtent(const PTRNDATA& item) {
+  if (!HasTwoPoints(item.Type)) return false;
+  return ItemTypeOf(item.Type).Shape == ItemShape::Line ? SameX(item) && SameY(item)
+                                                        : SameX(item) || SameY(item);
 }
 
 // Both limits 0 stand for no limits.
@@ -36,6 +36,12 @@ bool NoText(const PTRNDATA& item) {
 }
 bool NoCode(const PTRNDATA& item) {
   return item.ID_Code[0] == '\0';
+}
+bool NoPicture(const PTRNDATA& item) {
+  return ItemTypeOf(item.Type).Texts == ItemTexts::Picture && NoText(item);
+}
+bool NoNeededCode(const PTRNDATA& item) {
+  return ItemTypeOf(item.Type).NeedsCode && NoCode(item);
 }
 bool NegativeNumber(const PTRNDATA& item) {
   return item.ID_No < 0;
@@ -64,26 +70,18 @@ constexpr gint AnyType = 0;
 
 // Before the limits of the parameters.
 constexpr Rule PointRules[] = {
-    {TypeLine, IsOnePoint, PointError},  {TypeFrame, IsFlat, PointError},
-    {TypeRectangle, IsFlat, PointError}, {TypeEllipse, IsFlat, PointError},
-    {TypeBarGraph, IsFlat, PointError},  {TypeButton, IsFlat, PointError},
-    {TypeBitmap, IsFlat, PointError},    {TypeMark, IsFlat, PointError},
-    {TypeScrollBar, IsFlat, PointError}, {TypeSpinButton, IsFlat, PointError},
+    {AnyType, HasNoExtent, PointError},
 };
 
 // After them.
 constexpr Rule Rules[] = {
     {TypeBarGraph, CrossedLimits, LimitsCrossed},
-    {TypeBarGraph, NoCode, CodeMissing},
     {TypeFixedString, NoText, FixedTextMissing},
-    {TypeVariableString, NoCode, CodeMissing},
     {TypeNumeric, OnlyDecimals, TooManyDecimals},
-    {TypeNumeric, NoCode, CodeMissing},
-    {TypeBitmap, NoText, BitmapMissing},
-    {TypeScrollBar, NoCode, CodeMissing},
     {TypeSpinButton, CrossedLimits, LimitsCrossed},
-    {TypeSpinButton, NoCode, CodeMissing},
 
+    {AnyType, NoPicture, BitmapMissing},
+    {AnyType, NoNeededCode, CodeMissing},
     {AnyType, NegativeNumber, NumberRange},
     {AnyType, MessageWithoutCode, CodeMissing},
     {AnyType, OpeningWithoutName, LayoutNameMissing},
