@@ -212,7 +212,7 @@ static_assert([] {
   gint type = 0;
   for (const TypePage& page : Pages)
     if (page.Type != ++type) return false;
-  return type == TypeSpinButton;
+  return type == ItemTypeCount;
 }());
 
 }  // namespace
