@@ -15,15 +15,13 @@ namespace {
 // Opens the project in the program folder; false = it is not there.
 bool OpenPlant(benchmark::State& state) {
   CopyText(PathName, VARNIX_PROGRAM_FOLDER);
-  CopyText(ProjPath, VARNIX_PROGRAM_FOLDER "/PowerSample");
-  CopyText(ProjName, "PowerPlant");
+  EnterProject(VARNIX_PROGRAM_FOLDER "/PowerSample", "PowerPlant");
   PROJFILE file{};
   if (FileRead(ProjPath, ProjName, "prj", &file, sizeof file, 0) != 1) {
     state.SkipWithError("the sample project has not been built");
     return false;
   }
   ProjData = file.Data;
-  SetBmapPath();
   InitDrawData();
   LoadColrFile();
   LoadMarkFile();

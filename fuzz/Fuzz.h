@@ -56,10 +56,7 @@ class FuzzFolder {
  private:
   FuzzFolder() {
     g_strlcpy(PathName, folder_.Path().c_str(), sizeof PathName);
-    g_strlcpy(ProjPath, folder_.Path().c_str(), sizeof ProjPath);
-    g_strlcpy(ProjName, "Plant", sizeof ProjName);
-    ProjFlag = 1;
-    SetBmapPath();
+    EnterProject(folder_.Path(), "Plant");
   }
 
   TempFolder folder_;

@@ -48,11 +48,8 @@ bool OpenProject(const std::string& file) {
   // The bitmap folder is the longest path made of the project's.
   if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath))
     return Refuse(file, "its path is longer than the program can hold");
-  ProjFlag = 1;
-  g_strlcpy(ProjName, name.c_str(), sizeof(ProjName));
-  g_strlcpy(ProjPath, folder.c_str(), sizeof(ProjPath));
+  EnterProject(folder, name);
   ProjData = EndTexts(record->Data);
-  SetBmapPath();
   return true;
 }
 

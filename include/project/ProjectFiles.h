@@ -2,6 +2,8 @@
 // layouts.
 #pragma once
 
+#include <string_view>
+
 #include "project/ProjectRecord.h"
 
 // Fills `EditData` and the palette from the designer profile; keys that are missing give 0.
@@ -21,8 +23,8 @@ void ProjFileRenew(const gchar* path);
 void PtrnFileRenew(const gchar* path, const gchar* name);
 // Records the project as the current one and in the list of known projects.
 void ProfileRenew(const gchar* path, const gchar* name);
-// False when the key of the designer profile that names a project by name and folder gives one of
-// them cut, too long or at a ",": what is left may lead to another project.
-bool IsKnownProjectWhole(const gchar* section, const gchar* key);
+// The project of this folder and name becomes the open one: ProjFlag, ProjName, ProjPath and
+// BmapPath. ProjData, the palette and the marks stay as they are.
+void EnterProject(std::string_view folder, std::string_view name);
 // Sets BmapPath from ProjPath.
 void SetBmapPath();

@@ -8,19 +8,14 @@
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/EntryLook.h"
 #include "layout/Screen.h"
-#include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
-#include "support/FileTools.h"
+#include "project/model/KnownProjects.h"
 #include "support/Files.h"
-#include "support/Profile.h"
-#include "support/ProfileFile.h"
 #include "support/Text.h"
 
 namespace {
 
 constexpr const gchar* Title = "プロジェクトを開く";
-constexpr gint KnownProjects = 100;
-constexpr const gchar* Section = "PROJNAME";
 
 struct PROJTABLE {
   gchar path[258];
@@ -34,22 +29,13 @@ GtkWidget* ProjFileOpen_Entry = nullptr;
 GtkWidget* ProjFileOpen_Buttn = nullptr;
 std::vector<PROJTABLE> ProjTable;
 
-// The known projects that still exist; the profile forgets the others.
-void ReadKnownProjects() {
+void FillTable() {
   ProjTable.clear();
-  for (gint no = 0; no < KnownProjects; ++no) {
-    gchar name[100];
-    gchar path[100];
-    ProfileRead2("", Section, Section, no, "ss", name, path);
-    if (name[0] == '\0' || path[0] == '\0') continue;
-    if (IsMissing(JoinPath(path, name, "prj"))) {
-      ProfileDelete2("", Section, Section, no);
-      continue;
-    }
+  for (const KnownProject& project : ReadKnownProjects()) {
     PROJTABLE row = {};
-    row.whole = IsKnownProjectWhole(Section, NumberedKey(Section, no).c_str());
-    CopyText(row.path, path);
-    CopyText(row.name, name);
+    row.whole = project.Whole;
+    CopyText(row.path, project.Folder);
+    CopyText(row.name, project.Name);
     ProjTable.push_back(row);
   }
 }
@@ -108,7 +94,7 @@ void AddFolderEntry(const DialogWindow& dialog) {
 }  // namespace
 
 gint ProjFileOpen(GtkWidget* parent) {
-  ReadKnownProjects();
+  FillTable();
   const gint answer = RunNameDialog(
       parent,
       {.Frame = {.Title = Title,

@@ -8,6 +8,7 @@
 #include "project/ProjectCommands.h"
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
+#include "project/edit/ShownProject.h"
 #include "render/MarkFile.h"
 #include "render/Palette.h"
 #include "support/KeptResources.h"
@@ -111,19 +112,12 @@ bool ChangesConfirmed() {
 void TakeSettings() {
   PtrnFlag = 0;
   ProjData = EditData;
-  CopyText(ProjName, FieldText(EditName));
-  CopyText(ProjPath, FieldText(EditPath));
+  EnterProject(FieldText(EditPath), FieldText(EditName));
 }
 
 void SaveResources() {
   SaveColrFile();
   SaveMarkFile();
-}
-
-void ShowProject() {
-  SetBmapPath();
-  SetMainMenu();
-  SetWindTitle(ProjName, "");
 }
 
 }  // namespace
@@ -137,7 +131,6 @@ void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer d
   if (!NewProjectConfirmed()) {
     return;
   }
-  ProjFlag = 1;
   TakeSettings();
   ProjFileWrite(ProjPath, ProjName);
   ProjFileCopy1(ProjPath);
@@ -153,12 +146,9 @@ void ProjDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
   if (ProjFileOpen(PtrnWnd) != 1) {
     return;
   }
-  ProjFlag = 1;
-  CopyText(ProjPath, FieldText(EditPath));
-  CopyText(ProjName, FieldText(EditName));
-  ProjFileRead(ProjPath, ProjName);
-  LoadColrFile();
-  LoadMarkFile();
+  // A file that cannot be read leaves the settings of the project before.
+  ProjFileRead(EditPath, EditName);
+  EnterReadProject(FieldText(EditPath), FieldText(EditName));
   ShowProject();
 }
 

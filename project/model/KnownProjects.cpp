@@ -1,46 +1,60 @@
+#include "project/model/KnownProjects.h"
+
 #include <algorithm>
 #include <optional>
-#include <string>
 
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
 #include "support/FileTools.h"
+#include "support/Profile.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
 
 namespace {
 
 constexpr gint KnownCount = 100;
+// Sections that hold keys of the same name: the list's are numbered.
 constexpr gchar ListName[] = "PROJNAME";
-constexpr gchar CurrentName[] = "PROJECT";
+constexpr gchar LastName[] = "PROJECT";
 
-struct KnownProject {
-  std::string Name;
-  std::string Folder;
-  bool operator==(const KnownProject&) const = default;
-};
+bool IsWhole(const std::string& value) {
+  const std::string_view name = ProfileField(value, 0);
+  const std::string_view path = ProfileField(value, 1);
+  if (name.size() >= sizeof ProjName || path != ProfileTextField(value, 1)) {
+    return false;
+  }
+  const std::string rest = value.substr(std::min(name.size() + 1, value.size()));
+  return rest == path || IsMissing(JoinPath(rest, name, "prj"));
+}
 
-KnownProject ReadProject(std::string_view profile, std::string_view section, std::string_view key) {
-  const std::string value = ProfileValue(profile, section, key).value_or("");
-  return {std::string(CheckedField(ProfileField(value, 0), FieldKind::Text)),
-          std::string(CheckedField(ProfileField(value, 1), FieldKind::Text))};
+std::string ProjectValue(std::string_view profile, std::string_view section, std::string_view key) {
+  return ProfileValue(profile, section, key).value_or("");
+}
+
+std::string NameOf(const std::string& value) {
+  return std::string(ProfileTextField(value, 0));
+}
+
+std::string FolderOf(const std::string& value) {
+  return std::string(ProfileTextField(value, 1));
 }
 
 void EnterInList(std::string& profile, const std::string& value) {
   // A profile line cannot hold every name and path. What it gives back is what can be found again.
   std::string line;
-  SetProfileValue(line, CurrentName, CurrentName, value);
-  const KnownProject project = ReadProject(line, CurrentName, CurrentName);
+  SetProfileValue(line, LastName, LastName, value);
+  const std::string entered = ProjectValue(line, LastName, LastName);
 
   std::optional<std::string> place;
   for (gint no = 0; no < KnownCount; ++no) {
     const std::string key = NumberedKey(ListName, no);
-    const KnownProject known = ReadProject(profile, ListName, key);
-    if (!known.Name.empty() && known == project) {
+    const std::string known = ProjectValue(profile, ListName, key);
+    if (NameOf(known).empty()) {
+      if (!place) {
+        place = key;
+      }
+    } else if (NameOf(known) == NameOf(entered) && FolderOf(known) == FolderOf(entered)) {
       return;
-    }
-    if (known.Name.empty() && !place) {
-      place = key;
     }
   }
   if (place) {
@@ -54,19 +68,36 @@ void ProfileRenew(const gchar* path, const gchar* name) {
   const std::string value = std::string(name) + "," + path;
   ChangeProfile(ProfilePath(""), [&value](std::string& profile) {
     EnterInList(profile, value);
-    SetProfileValue(profile, CurrentName, CurrentName, value);
+    SetProfileValue(profile, LastName, LastName, value);
     return true;
   });
 }
 
-bool IsKnownProjectWhole(const gchar* section, const gchar* key) {
+std::vector<KnownProject> ReadKnownProjects() {
+  std::vector<KnownProject> projects;
   const std::string profile = LoadProfile(ProfilePath("")).value_or("");
-  const std::string value = ProfileValue(profile, section, key).value_or("");
-  const std::string_view name = ProfileField(value, 0);
-  const std::string_view path = ProfileField(value, 1);
-  if (name.size() >= sizeof ProjName || path != ProfileTextField(value, 1)) {
-    return false;
+  for (gint no = 0; no < KnownCount; ++no) {
+    const std::string value = ProjectValue(profile, ListName, NumberedKey(ListName, no));
+    const std::string name = NameOf(value);
+    const std::string folder = FolderOf(value);
+    if (name.empty() || folder.empty()) {
+      continue;
+    }
+    if (IsMissing(JoinPath(folder, name, "prj"))) {
+      ProfileDelete2("", ListName, ListName, no);
+    } else {
+      projects.push_back({name, folder, IsWhole(value)});
+    }
   }
-  const std::string rest = value.substr(std::min(name.size() + 1, value.size()));
-  return rest == path || IsMissing(JoinPath(rest, name, "prj"));
+  return projects;
+}
+
+KnownProject ReadLastProject() {
+  const std::string profile = LoadProfile(ProfilePath("")).value_or("");
+  const std::string value = ProjectValue(profile, LastName, LastName);
+  return {NameOf(value), FolderOf(value), IsWhole(value)};
+}
+
+void ForgetLastProject() {
+  ProfileDelete1("", LastName, LastName);
 }

@@ -6,6 +6,7 @@
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Program.h"
+#include "support/Text.h"
 
 namespace {
 
@@ -53,4 +54,11 @@ void SetBmapPath() {
     return;
   }
   MakePath(BmapPath, ProjPath, BitmapFolder, "");
+}
+
+void EnterProject(std::string_view folder, std::string_view name) {
+  ProjFlag = 1;
+  CopyText(ProjName, name);
+  CopyText(ProjPath, folder);
+  SetBmapPath();
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "project/model/KnownProjects.h"
 #include "tests/project/ProjectFixture.h"
 
 namespace {
@@ -76,7 +77,7 @@ TEST_F(KnownProjectsTest, AProjectIsWholeWhenTheProfileGivesAllOfNameAndFolder) 
   const auto whole = [this](const std::string& value) {
     std::filesystem::remove(folder_.Path("program/VarnixMaster.ini"));
     folder_.Write("program/VarnixMaster.ini", "[PROJECT]\nPROJECT=" + value + "\n");
-    return IsKnownProjectWhole("PROJECT", "PROJECT");
+    return ReadLastProject().Whole;
   };
   EXPECT_TRUE(whole(std::string(81, 'n') + ",/" + std::string(98, 'd')));
   EXPECT_FALSE(whole("A,/" + std::string(99, 'd')));
@@ -86,9 +87,9 @@ TEST_F(KnownProjectsTest, AProjectIsWholeWhenTheProfileGivesAllOfNameAndFolder) 
 TEST_F(KnownProjectsTest, AFolderWithACommaIsWholeOnlyWhereNoProjectLiesInIt) {
   const std::string folder = folder_.Path("a,b");
   folder_.Write("program/VarnixMaster.ini", "[PROJECT]\nPROJECT=P," + folder + "\n");
-  EXPECT_TRUE(IsKnownProjectWhole("PROJECT", "PROJECT"));
+  EXPECT_TRUE(ReadLastProject().Whole);
   folder_.Write("a,b/P.prj", "x");
-  EXPECT_FALSE(IsKnownProjectWhole("PROJECT", "PROJECT"));
+  EXPECT_FALSE(ReadLastProject().Whole);
 }
 
 }  // namespace

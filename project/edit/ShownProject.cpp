@@ -1,0 +1,18 @@
+#include "project/edit/ShownProject.h"
+
+#include "layout/Screen.h"
+#include "project/ProjectFiles.h"
+#include "project/ProjectRecord.h"
+#include "render/MarkFile.h"
+#include "render/Palette.h"
+
+void EnterReadProject(std::string_view folder, std::string_view name) {
+  EnterProject(folder, name);
+  LoadColrFile();
+  LoadMarkFile();
+}
+
+void ShowProject() {
+  SetMainMenu();
+  SetWindTitle(ProjName, "");
+}
