@@ -30,7 +30,7 @@ struct CommonVariant {
 void DescribeCommon(PageRows& rows, const CommonVariant& variant) {
   rows.Row(variant.OnePoint ? PositionName : StartName)
       .InColumn(3)
-      .Check(ItemSlot::TopLayer, "TOP", 1);
+      .Check(Parm(ItemSlot::TopLayer), "TOP", 1);
   if (!variant.OnePoint) rows.Row(EndName);
   rows.ContinueAt(variant.Line);
   rows.Row("処理種別").Choice(ItemInt(offsetof(PTRNDATA, ID_Type)), IDCodeList);

@@ -1,8 +1,11 @@
 #include "dialogs/toolbox/ToolBoxRows.h"
 
+#include <algorithm>
+
 #include "dialogs/ToolBox.h"
 #include "dialogs/kit/LatePress.h"
 #include "dialogs/kit/Rows.h"
+#include "support/Resource.h"
 
 namespace {
 
@@ -17,11 +20,28 @@ void AddBrowseButton(GtkWidget* grid, const BrowseButton& browse, DLG_EDITBOX* e
 
 }  // namespace
 
-PageRows& PageRows::Row(const gchar* label) {
+PageRows& PageRows::Row() {
   line_ = tables_.NextLine++;
   culm_ = 1;
-  if (label != nullptr) tables_.String.Add(Rows::Label(line_, label));
+  needsLabel_ = true;
   return *this;
+}
+
+PageRows& PageRows::Row(const gchar* label) {
+  Row();
+  AddLabel(label);
+  return *this;
+}
+
+void PageRows::AddLabel(const gchar* label) {
+  tables_.String.Add(Rows::Label(tables_.NextLine - 1, label));
+  needsLabel_ = false;
+}
+
+const Parameter& PageRows::Labelling(gint slot) {
+  const Parameter& parameter = *FindParameter(variant_.Type, slot);
+  if (needsLabel_) AddLabel(parameter.Label);
+  return parameter;
 }
 
 PageRows& PageRows::InLine(gint line) {
@@ -39,32 +59,28 @@ PageRows::Columns PageRows::Take(gint width) {
   return {culm_ - width, culm_ - 1};
 }
 
-void PageRows::AddColour(GrowingTable<DLG_COLRDATA>& table, gint slot) {
-  table.Add(Rows::Colour(line_, Take(1).First, Parm(slot), ""));
-}
-
-PageRows& PageRows::Colour(gint slot) {
-  AddColour(tables_.Colr, slot);
-  return *this;
-}
-
-PageRows& PageRows::ColourPair(gint slot) {
-  return Colour(slot).Colour(slot + 1);
-}
-
-PageRows& PageRows::SystemColours(gint slot) {
-  ColourPair(slot);
-  if (!variant_.FourSystems) return *this;
-  for (const gint later : {2, 3})
-    AddColour(isLaterLast_ ? tables_.LaterColr : tables_.Colr, slot + later);
-  return *this;
-}
-
-PageRows& PageRows::SystemMarks(gint slot) {
-  for (gint system = 0; system < 4; ++system) {
-    const gint culm = Take(1).First;
-    tables_.Mark.Add({line_, culm, culm, Parm(slot + system)});
+PageRows& PageRows::Colours(gint slot) {
+  const Parameter& parameter = Labelling(slot);
+  const gint shown = variant_.FourSystems ? 4 : 2;
+  for (gint value = 0; value < std::min(parameter.Count(), shown); ++value) {
+    auto& table = isLaterLast_ && value >= 2 ? tables_.LaterColr : tables_.Colr;
+    table.Add(Rows::Colour(line_, Take(1).First, Parm(slot + value), ""));
   }
+  return *this;
+}
+
+PageRows& PageRows::Marks(gint slot) {
+  const Parameter& parameter = Labelling(slot);
+  for (gint value = 0; value < parameter.Count(); ++value) {
+    const gint culm = Take(1).First;
+    tables_.Mark.Add({line_, culm, culm, Parm(slot + value)});
+  }
+  return *this;
+}
+
+PageRows& PageRows::Number(gint slot) {
+  const ValueRange& range = Labelling(slot).Range;
+  tables_.Numr.Add(Rows::Number(line_, Take(1).First, Parm(slot), range.Least, range.Most, ""));
   return *this;
 }
 
@@ -73,19 +89,41 @@ PageRows& PageRows::Number(gint* data, gint most) {
   return *this;
 }
 
+PageRows& PageRows::Choice(gint slot) {
+  const ValueRange& range = Labelling(slot).Range;
+  return Choice(Parm(slot), range.Kind == Unit::Font ? FontNameList : range.Values);
+}
+
 PageRows& PageRows::Choice(gint* item, const gchar* const* list) {
   const Columns columns = Take(4);
   tables_.Combo.Add(Rows::Choice(line_, columns.First, columns.Last, item, list));
   return *this;
 }
 
-PageRows& PageRows::Radio(gint slot, std::span<const gchar* const> values, gint width) {
-  gint code = 0;
-  for (const gchar* value : values) {
+PageRows& PageRows::Radio(gint slot, gint width) {
+  const gchar* const* values = Labelling(slot).Range.Values;
+  for (gint code = 0; *values[code] != '\0'; ++code) {
     const Columns columns = Take(width);
-    tables_.Radio.Add({line_, columns.First, columns.Last, code++, Parm(slot), value});
+    tables_.Radio.Add({line_, columns.First, columns.Last, code, Parm(slot), values[code]});
   }
   return *this;
+}
+
+PageRows& PageRows::Check(gint slot, gint width) {
+  return Check(Parm(slot), FindParameter(variant_.Type, slot)->Label, width);
+}
+
+PageRows& PageRows::Check(gint slot, const gchar* text, gint width) {
+  Labelling(slot);
+  return Check(Parm(slot), text, width);
+}
+
+PageRows& PageRows::CursorKeys(gint slot) {
+  Labelling(slot);
+  return Check(&CusrUp, "↑", 1)
+      .Check(&CusrDown, "↓", 1)
+      .Check(&CusrLeft, "←", 1)
+      .Check(&CusrRight, "→", 1);
 }
 
 PageRows& PageRows::Check(gint* data, const gchar* text, gint width) {

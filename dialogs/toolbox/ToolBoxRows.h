@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dialogs/kit/ControlTables.h"
+#include "layout/Parameters.h"
 #include "layout/Store.h"
 
 using Picker = void (*)(GtkWidget* widget, DLG_EDITBOX* edit);
@@ -26,7 +27,8 @@ class GrowingTable {
  public:
   void Add(const Row& row) { rows_.insert(rows_.end() - 1, row); }
   gsize Count() const { return rows_.size() - 1; }
-  Row* Rows() { return rows_.data(); }
+  // Null without rows.
+  Row* Rows() { return Count() == 0 ? nullptr : rows_.data(); }
 
  private:
   static Row End() {
@@ -79,8 +81,10 @@ class PageRows {
   }
   gint Language() const { return variant_.Language; }
 
-  // Begins the next row; the controls that follow stand in it from the second column on.
-  PageRows& Row(const gchar* label = nullptr);
+  // Begins the next row; the controls that follow stand in it from the second column on. Without a
+  // label of its own a row bears that of its first parameter, unless a check button tells it.
+  PageRows& Row();
+  PageRows& Row(const gchar* label);
   // The next row is this line.
   void ContinueAt(gint line) { tables_.NextLine = line; }
   // The row's controls go on in this line, or in this column, instead.
@@ -90,26 +94,25 @@ class PageRows {
   // them there.
   void BuildLaterColoursLast() { isLaterLast_ = true; }
 
-  // One swatch.
-  PageRows& Colour(gint slot);
-  // One swatch for even and one for odd colour systems.
-  PageRows& ColourPair(gint slot);
-  // One swatch per colour system of the project.
-  PageRows& SystemColours(gint slot);
-  // Marks of the four colour systems.
-  PageRows& SystemMarks(gint slot);
-  // A number 0..most.
-  PageRows& Number(gint* data, gint most);
-  PageRows& Number(gint slot, gint most) { return Number(Parm(slot), most); }
+  // Controls of a parameter of the type, in the range and with the values of its row.
+  // A swatch for each of its values, those for colour systems that the project has.
+  PageRows& Colours(gint slot);
+  // A swatch for each of its values, whatever colour systems the project has.
+  PageRows& Marks(gint slot);
+  PageRows& Number(gint slot);
   // A drop-down list, four columns wide.
+  PageRows& Choice(gint slot);
+  // A radio button per value, each some columns wide.
+  PageRows& Radio(gint slot, gint width = 1);
+  PageRows& Check(gint slot, gint width = 2);
+  PageRows& Check(gint slot, const gchar* text, gint width = 2);
+  // A check button per cursor key.
+  PageRows& CursorKeys(gint slot);
+
+  // Controls of other fields. A number 0..most.
+  PageRows& Number(gint* data, gint most);
   PageRows& Choice(gint* item, const gchar* const* list);
-  PageRows& Choice(gint slot, const gchar* const* list) { return Choice(Parm(slot), list); }
-  // A radio button per value from 0 on, each some columns wide.
-  PageRows& Radio(gint slot, std::span<const gchar* const> values, gint width = 1);
   PageRows& Check(gint* data, const gchar* text, gint width);
-  PageRows& Check(gint slot, const gchar* text, gint width = 2) {
-    return Check(Parm(slot), text, width);
-  }
   // An entry of a text field, as long as the field takes; three columns wide.
   template <gsize Size>
   PageRows& Entry(gchar (&field)[Size], bool readOnly = false) {
@@ -128,13 +131,16 @@ class PageRows {
     gint Last;
   };
   Columns Take(gint width);
+  void AddLabel(const gchar* label);
+  // The row of a type's parameter, which labels the page's row when nothing else does.
+  const Parameter& Labelling(gint slot);
   PageRows& Entry(gchar* field, gint size, bool readOnly);
-  void AddColour(GrowingTable<DLG_COLRDATA>& table, gint slot);
 
   PageTables& tables_;
   PageVariant variant_;
   gint line_ = 0;
   gint culm_ = 1;
+  bool needsLabel_ = false;
   bool isLaterLast_ = false;
 };
 

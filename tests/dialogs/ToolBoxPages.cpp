@@ -256,6 +256,15 @@ Lines ExpectedCells(const PageCells& page) {
   return cells;
 }
 
+// The cells of one kind, in their order.
+Lines OfKind(const Lines& cells, const std::string& kind) {
+  Lines found;
+  std::copy_if(cells.begin(), cells.end(), std::back_inserter(found), [&](const std::string& cell) {
+    return cell.find(" " + kind + " ") != std::string::npos;
+  });
+  return found;
+}
+
 bool IsLaterSystem(const std::string& cell) {
   return cell.find("/3-3 colour") != std::string::npos ||
          cell.find("/4-4 colour") != std::string::npos;
@@ -287,6 +296,23 @@ TEST_F(ToolBoxPages, ShowTheirCellsWithFourColourSystems) {
   for (const PageCells& page : AllPageCells()) {
     SCOPED_TRACE(testing::Message() << "type " << page.Type << ", language " << page.Language);
     EXPECT_TRUE(SameCells(Show(page.Type, page.Language, 1), ExpectedCells(page)));
+  }
+}
+
+// A screen reader finds the controls in the order in which they were added, kind by kind.
+TEST_F(ToolBoxPages, AddTheControlsOfAKindInTheOrderOfTheirRows) {
+  for (const PageCells& page : AllPageCells()) {
+    const Lines shown = Show(page.Type, page.Language, 1);
+    for (const gchar* kind :
+         {"label", "entry", "spin", "combo", "radio", "check", "colour", "mark"}) {
+      SCOPED_TRACE(testing::Message()
+                   << "type " << page.Type << ", language " << page.Language << ", " << kind);
+      // What all types share is added last.
+      const Lines rows = OfKind(Split(page.Rows), kind);
+      Lines first = OfKind(shown, kind);
+      first.resize(std::min(first.size(), rows.size()));
+      EXPECT_THAT(first, testing::ElementsAreArray(rows));
+    }
   }
 }
 
