@@ -17,17 +17,16 @@ gint Channel(double value) {
   return static_cast<gint>(value * Full + Lost);
 }
 
-COLRDATA MakeColr_Data;
-gint MakeColr_Result = 0;
-
-void MakeColrData_Response(GtkDialog* dialog, gint response, gpointer /*data*/) {
-  if (response == GTK_RESPONSE_OK) {
-    GdkRGBA colour;
-    gtk_color_chooser_get_rgba(GTK_COLOR_CHOOSER(dialog), &colour);
-    MakeColr_Data = {Channel(colour.red), Channel(colour.green), Channel(colour.blue)};
-    MakeColr_Result = 1;
+// The button that confirms, the one that cancels or another way of closing.
+void MakeColrData_OK(GtkDialog* dialog, gint response, COLRDATA* colour) {
+  if (response != GTK_RESPONSE_OK) {
+    CloseDialog(GTK_WIDGET(dialog), 0);
+    return;
   }
-  gtk_widget_destroy(GTK_WIDGET(dialog));
+  GdkRGBA chosen;
+  gtk_color_chooser_get_rgba(GTK_COLOR_CHOOSER(dialog), &chosen);
+  *colour = {Channel(chosen.red), Channel(chosen.green), Channel(chosen.blue)};
+  CloseDialog(GTK_WIDGET(dialog), 1);
 }
 
 // Controls of the dialog that the toolkit leaves without a name.
@@ -65,8 +64,7 @@ void LabelButton(GtkWidget* dialog, gint response, const gchar* label) {
 }  // namespace
 
 gint MakeColrData(GtkWidget* parent, gint colrno, COLRBOX* colrbox) {
-  MakeColr_Result = 0;
-  const COLRDATA& colour = colrbox[colrno].colr;
+  COLRDATA& colour = colrbox[colrno].colr;
   GtkWidget* dialog = gtk_color_chooser_dialog_new("表示色作成", nullptr);
   // The toolkit's labels follow the user's locale; the program speaks Japanese everywhere.
   LabelButton(dialog, GTK_RESPONSE_OK, " 設定 ");
@@ -79,8 +77,6 @@ gint MakeColrData(GtkWidget* parent, gint colrno, COLRBOX* colrbox) {
   g_object_set(dialog, "show-editor", TRUE, nullptr);
   NameLeftOut(dialog, nullptr);
   KeepSlidersFromWheel(dialog, nullptr);
-  g_signal_connect(dialog, "response", G_CALLBACK(MakeColrData_Response), nullptr);
-  RunModal(dialog, parent);
-  if (MakeColr_Result == 1) colrbox[colrno].colr = MakeColr_Data;
-  return MakeColr_Result;
+  g_signal_connect(dialog, "response", G_CALLBACK(MakeColrData_OK), &colour);
+  return RunModal(dialog, parent);
 }

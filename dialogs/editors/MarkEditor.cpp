@@ -7,22 +7,20 @@
 
 #include "dialogs/Editors.h"
 #include "dialogs/frame/Accessible.h"
-#include "dialogs/frame/DialogWindow.h"
 #include "dialogs/frame/ScreenRoom.h"
+#include "dialogs/frame/TableDialog.h"
 
 namespace {
 
 constexpr gint Cell = 8;  // screen dots per mark pixel
 
 struct MarkEdit {
-  GtkWidget* Dialog;
   GtkWidget* ActualSize;
   GtkWidget* Enlarged;
   MARKBOX* Marks;
   gint Number;
   SIZE Size;
   MARKDATA Data;
-  gint Result;
   std::optional<POINT> Last;  // where the line of this drag has come to; nothing before its start
   POINT Cursor;               // mark pixel that the keyboard draws
 };
@@ -192,19 +190,10 @@ gboolean MakeMarkData_Key(GtkWidget* view, const GdkEventKey* event, MarkEdit* e
   return TRUE;
 }
 
-void MakeMarkData_OK(GtkWidget* /*button*/, MarkEdit* edit) {
-  edit->Result = 1;
-  gtk_widget_destroy(edit->Dialog);
-}
-
-void MakeMarkData_CAN(GtkWidget* /*button*/, MarkEdit* edit) {
-  gtk_widget_destroy(edit->Dialog);
-}
-
 // Takes another mark over from the top-left corner; what does not fit is cut.
-void MakeMarkData_Search(GtkWidget* /*button*/, MarkEdit* edit) {
+void MakeMarkData_Search(GtkWidget* button, MarkEdit* edit) {
   edit->Last.reset();
-  const gint source = Dlg_MarkSearch(edit->Dialog, edit->Marks);
+  const gint source = Dlg_MarkSearch(button, edit->Marks);
   if (source == -1) return;
   const MARKDATA from = edit->Marks[source].mark;
   edit->Data = {};
@@ -249,24 +238,22 @@ void AddViews(GtkWidget* content, MarkEdit* edit) {
 }  // namespace
 
 gint MakeMarkData(GtkWidget* parent, gint markno, MARKBOX* markbox) {
-  const DialogWindow window = NewDialogWindow("マーク作成");
-  MarkEdit edit = {.Dialog = window.Window,
-                   .ActualSize = nullptr,
+  MarkEdit edit = {.ActualSize = nullptr,
                    .Enlarged = nullptr,
                    .Marks = markbox,
                    .Number = markno,
                    .Size = MarkDataSize[markno / 50],
                    .Data = markbox[markno].mark,
-                   .Result = 0,
                    .Last = std::nullopt,
                    .Cursor = {0, 0}};
-  gtk_window_set_resizable(GTK_WINDOW(window.Window), FALSE);
-  gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
-  AddViews(window.Content, &edit);
-  AddDialogButton(window, "設定", G_CALLBACK(MakeMarkData_OK), &edit);
-  AddDialogButton(window, "参照", G_CALLBACK(MakeMarkData_Search), &edit);
-  AddDialogButton(window, "取消", G_CALLBACK(MakeMarkData_CAN), &edit);
-  RunModal(window.Window, parent);
-  if (edit.Result == 1) markbox[markno].mark = edit.Data;
-  return edit.Result;
+  const auto search = [&edit](GtkWidget* button) { MakeMarkData_Search(button, &edit); };
+  return RunTableDialog(
+      parent,
+      {.Frame = {.Title = "マーク作成",
+                 .Build = [&edit](const DialogWindow& window) { AddViews(window.Content, &edit); }},
+       .Ok = "設定",
+       .ReturnPressesOk = false,
+       .More = {{.Label = "参照", .Pressed = search}},
+       .Cancel = "取消",
+       .Take = [&edit] { edit.Marks[edit.Number].mark = edit.Data; }});
 }

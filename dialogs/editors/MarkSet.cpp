@@ -23,10 +23,11 @@ void PaintSwatch(GtkWidget* area, cairo_t* cairo, gpointer data) {
 
 void PressSwatch(GtkWidget* area, guint button, gpointer data) {
   const auto* swatch = static_cast<const MarkSwatch*>(data);
-  swatch->Press(area, swatch->Number, button);
+  const MarkPress press = swatch->Press;  // the swatch may go with what is pressed
+  press(area, swatch->Number, button);
 }
 
-GtkWidget* NewSwatch(const MARKBOX* marks, gint number, MarkPress press) {
+GtkWidget* NewSwatch(const MARKBOX* marks, gint number, const MarkPress& press) {
   const SIZE size = MarkDataSize[number / 50];
   auto swatch = std::make_unique<MarkSwatch>(MarkSwatch{marks, number, press});
   GtkWidget* area =
@@ -44,11 +45,9 @@ void CopyMarks(MarkBoxes* boxes) {
     (*boxes)[number] = {nullptr, MarkData[number]};
 }
 
-DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press,
-                              gint first) {
-  const DialogWindow window = NewDialogWindow(title);
+void AddMarkSet(const DialogWindow& window, const MARKBOX* marks, const MarkPress& press,
+                gint first) {
   gtk_window_set_default_size(GTK_WINDOW(window.Window), 600, 400);
-  gtk_window_set_position(GTK_WINDOW(window.Window), GTK_WIN_POS_CENTER);
   GtkWidget* table = gtk_grid_new();
   gtk_container_set_border_width(GTK_CONTAINER(table), 10);
   for (gint number = 0; number < MarkCount; ++number) {
@@ -63,5 +62,4 @@ DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPres
   GtkWidget* scrolled = NewScrolled(table, GTK_POLICY_AUTOMATIC);
   gtk_box_pack_start(GTK_BOX(window.Content), scrolled, TRUE, TRUE, 0);
   gtk_widget_show_all(table);
-  return window;
 }

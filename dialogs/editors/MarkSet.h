@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "dialogs/Editors.h"
 #include "dialogs/frame/DialogWindow.h"
@@ -12,9 +13,9 @@ using MarkBoxes = std::array<MARKBOX, MarkCount>;
 void CopyMarks(MarkBoxes* boxes);
 
 // Called for a press of `button` on the swatch of mark `number`.
-using MarkPress = void (*)(GtkWidget* swatch, gint number, guint button);
+using MarkPress = std::function<void(GtkWidget* swatch, gint number, guint button)>;
 
-// A dialog of 600 x 400 dots with a swatch of every mark in `marks`. The swatches paint from there.
-// The keyboard begins at mark `first`, in view.
-DialogWindow NewMarkSetWindow(const gchar* title, const MARKBOX* marks, MarkPress press,
-                              gint first = 0);
+// Makes a dialog one of 600 x 400 dots that can grow, with a swatch of every mark in `marks`. The
+// swatches paint from there. The keyboard begins at mark `first`, in view.
+void AddMarkSet(const DialogWindow& window, const MARKBOX* marks, const MarkPress& press,
+                gint first = 0);
