@@ -7,6 +7,7 @@
 #include <gtk/gtk.h>
 
 #include "Types.h"
+#include "support/Resource.h"
 
 struct DLG_STRING {
   gint line, culm1, culm2;
@@ -84,6 +85,17 @@ void Dlg_CheckButn(GtkWidget* parent, GtkWidget* table, DLG_CHECKBUTN* rows);
 void Dlg_ComboBox(GtkWidget* parent, GtkWidget* table, DLG_COMBOBOX* rows);
 void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows);
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows);
+
+// What a press on a swatch opens, brought by the editors: the number chosen, beginning at
+// `current`, -1 when closed without a choice.
+gint Dlg_ColrSelect(GtkWidget* parent, gint current = 0);
+gint Dlg_MarkSelect(GtkWidget* parent, gint current = 0);
+// Paint a swatch.
+void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colrdata);
+void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDATA& markdata);
+// Have assistive technology read the number that a swatch shows.
+void TellColour(GtkWidget* swatch, gint colrno);
+void TellMark(GtkWidget* swatch, gint markno);
 
 // The parent window of the latest call of each builder; pickers of swatches open over theirs.
 extern GtkWidget* Dlg_String_Parent;

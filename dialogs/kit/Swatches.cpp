@@ -1,7 +1,6 @@
 // Colour and mark swatches: their pictures, and the choice of another number with a click.
 #include <string>
 
-#include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/RecentColours.h"
@@ -44,72 +43,50 @@ void PaintOutline(GtkWidget* box, cairo_t* cairo, gint x, gint y, gint width, gi
   cairo_stroke(cairo);
 }
 
-// How a row's kind of swatch shows, tells and chooses its number.
-void PaintNumbered(GtkWidget* area, cairo_t* cairo, const DLG_COLRDATA& row) {
-  const gint number = LoadInt(row.colr);
+constexpr SIZE ColourSize = {62, 20};
+
+void Dlg_ColrData_Draw(GtkWidget* area, cairo_t* cairo, gpointer row) {
+  const gint number = LoadInt(static_cast<const DLG_COLRDATA*>(row)->colr);
   if (number >= 0 && number < ColrCount)
     DrawColrData(area, cairo, number, ColrData[number]);
   else
     PaintNumber(area, cairo, number);
 }
-void PaintNumbered(GtkWidget* area, cairo_t* cairo, const DLG_MARKDATA& row) {
-  const gint number = LoadInt(row.mark);
+
+void Dlg_ColrData_Slct(GtkWidget* area, guint button, gpointer data) {
+  if (button != GDK_BUTTON_PRIMARY) return;
+  const auto* row = static_cast<const DLG_COLRDATA*>(data);
+  const gint number = Dlg_ColrSelect(Dlg_ColrData_Parent, LoadInt(row->colr));
+  if (number == -1) return;
+  NoteRecentColour(number);
+  StoreInt(row->colr, number);
+  TellColour(area, number);
+  gtk_widget_queue_draw(area);
+}
+
+void Dlg_MarkData_Draw(GtkWidget* area, cairo_t* cairo, gpointer row) {
+  const gint number = LoadInt(static_cast<const DLG_MARKDATA*>(row)->mark);
   if (number >= 0 && number < MarkCount)
     DrawMarkData(area, cairo, number, MarkData[number]);
   else
     PaintNumber(area, cairo, number);
 }
-void TellNumber(GtkWidget* area, const DLG_COLRDATA& row) {
-  TellColour(area, LoadInt(row.colr));
-}
-void TellNumber(GtkWidget* area, const DLG_MARKDATA& row) {
-  TellMark(area, LoadInt(row.mark));
-}
-gint* ChooseNumber(const DLG_COLRDATA& row, gint* number) {
-  *number = Dlg_ColrSelect(Dlg_ColrData_Parent, LoadInt(row.colr));
-  if (*number != -1) NoteRecentColour(*number);
-  return row.colr;
-}
-gint* ChooseNumber(const DLG_MARKDATA& row, gint* number) {
-  *number = Dlg_MarkSelect(Dlg_MarkData_Parent, LoadInt(row.mark));
-  return row.mark;
-}
 
-SIZE SwatchSize(const DLG_COLRDATA& /*row*/) {
-  return {62, 20};
-}
 // The cells beside it give room for a mark of 32 x 32; a larger one needs its own.
-SIZE SwatchSize(const DLG_MARKDATA& row) {
-  const gint number = LoadInt(row.mark);
+SIZE MarkSize(gint number) {
   const SIZE mark = number >= 0 && number < MarkCount ? MarkDataSize[number / 50] : SIZE{0, 0};
   return {mark.cx > 32 ? mark.cx + 28 : 32, mark.cy > 32 ? mark.cy + 4 : 36};
 }
 
-template <class Row>
-void PaintRow(GtkWidget* area, cairo_t* cairo, gpointer row) {
-  PaintNumbered(area, cairo, *static_cast<const Row*>(row));
-}
-
-template <class Row>
-void PressRow(GtkWidget* area, guint button, gpointer data) {
+void Dlg_MarkData_Slct(GtkWidget* area, guint button, gpointer data) {
   if (button != GDK_BUTTON_PRIMARY) return;
-  const auto* row = static_cast<const Row*>(data);
-  gint number = -1;
-  gint* bound = ChooseNumber(*row, &number);
+  const auto* row = static_cast<const DLG_MARKDATA*>(data);
+  const gint number = Dlg_MarkSelect(Dlg_MarkData_Parent, LoadInt(row->mark));
   if (number == -1) return;
-  StoreInt(bound, number);
-  ResizeSwatchArea(area, SwatchSize(*row));
-  TellNumber(area, *row);
+  StoreInt(row->mark, number);
+  ResizeSwatchArea(area, MarkSize(number));
+  TellMark(area, number);
   gtk_widget_queue_draw(area);
-}
-
-template <class Row>
-GtkWidget* NewSwatch(Row& row) {
-  GtkWidget* area = NewSwatchArea(SwatchSize(row), PaintRow<Row>, PressRow<Row>, &row);
-  // In line with the controls beside it where the cell is higher.
-  gtk_widget_set_valign(area, GTK_ALIGN_CENTER);
-  TellNumber(area, row);
-  return area;
 }
 
 }  // namespace
@@ -153,7 +130,10 @@ void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
   Dlg_ColrData_Parent = parent;
   ForEachRow(rows, [table](DLG_COLRDATA& row) {
     GtkWidget* box = NewCaptionBox(row.text, 5, 0);
-    GtkWidget* swatch = NewSwatch(row);
+    GtkWidget* swatch = NewSwatchArea(ColourSize, Dlg_ColrData_Draw, Dlg_ColrData_Slct, &row);
+    // In line with the caption beside it where the cell is higher.
+    gtk_widget_set_valign(swatch, GTK_ALIGN_CENTER);
+    TellColour(swatch, LoadInt(row.colr));
     ShowRange(swatch, "色番号", 0, ColrCount - 1);
     gtk_box_pack_start(GTK_BOX(box), swatch, TRUE, TRUE, 0);
     PlaceControl(table, box, row);
@@ -163,7 +143,9 @@ void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows) {
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows) {
   Dlg_MarkData_Parent = parent;
   ForEachRow(rows, [table](DLG_MARKDATA& row) {
-    GtkWidget* swatch = NewSwatch(row);
+    const gint number = LoadInt(row.mark);
+    GtkWidget* swatch = NewSwatchArea(MarkSize(number), Dlg_MarkData_Draw, Dlg_MarkData_Slct, &row);
+    TellMark(swatch, number);
     ShowRange(swatch, "マーク", 0, MarkCount - 1);
     PlaceControl(table, swatch, row);
   });
