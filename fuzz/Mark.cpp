@@ -1,7 +1,7 @@
 // The marks: read into the drawing marks and painted. An input of odd size is a file as it is, one
 // of even size is repeated to a whole file.
 #include "Fuzz.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 #include "tools/json/Convert.h"

@@ -3,7 +3,7 @@
 
 #include "Types.h"
 #include "render/FontTable.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Palette.h"
 #include "support/Files.h"
 #include "support/Profile.h"

@@ -11,7 +11,7 @@
 #include "project/ProjectRecord.h"
 #include "render/FontTable.h"
 #include "render/Layout.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"

@@ -10,7 +10,7 @@
 #include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
 #include "layout/Commands.h"
-#include "render/Primitives.h"
+#include "render/Layout.h"
 
 namespace {
 GtkWidget* CreateCanvas() {

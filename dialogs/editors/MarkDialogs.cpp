@@ -6,7 +6,7 @@
 #include "dialogs/kit/Cells.h"
 #include "layout/EditWindows.h"
 #include "layout/Mouse.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 
 namespace {
 

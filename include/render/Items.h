@@ -1,4 +1,4 @@
-// Painting of single items: a painter per type, and one row per type that says so.
+// The items of a layout by type: painters, of which each type has its row, and outlines.
 #pragma once
 
 #include <array>
@@ -33,3 +33,22 @@ inline constexpr auto ItemPainters = std::to_array<ItemPainter>(
      DrawPtrnData07, DrawPtrnData08, DrawPtrnData09, DrawPtrnData10, DrawPtrnData11, DrawPtrnData12,
      DrawPtrnData13, DrawPtrnData14, DrawPtrnData15});
 static_assert(ItemPainters.size() == ItemTypeCount, "each type has a painter");
+
+// Outline and handles of an item at `zoom` percent. `undefined` 1: red, without handles.
+void DrawMoveData(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint zoom);
+void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData02(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData04(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
+                    gint zoom);
+
+// Whether an outline runs across the inside of its item's box, not along its edges alone.
+bool OutlineCrossesBox(gint type);
+
+// The outlines of the incomplete items of the open layout.
+void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom);
+// Sample text of a numeric item, at most 99 characters.
+void NumericSample(const PTRNDATA* item, gchar* text, gsize size);

@@ -21,23 +21,8 @@ void DrawPageData3(Drawable* drawable, DrawGc* gc);
 void DrawPageData4(Drawable* drawable, DrawGc* gc);
 // All items of a layer (0 or 1); writes the sizes found while painting back into the store.
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, gint layer);
-void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom);
-
-// Outline and handles of an item at `zoom` percent. `undefined` 1: red, without handles.
-void DrawMoveData(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint zoom);
-void DrawMoveData01(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
-                    gint zoom);
-void DrawMoveData02(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
-                    gint zoom);
-void DrawMoveData04(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
-                    gint zoom);
-void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint undefined,
-                    gint zoom);
-
-// Whether an outline runs across the inside of its item's box, not along its edges alone.
-bool OutlineCrossesBox(gint type);
 
 // The clock of the title area: a fixed local time for pictures that must repeat; null = now.
 void SetPictureTime(const std::tm* time);
-// Sample text of a numeric item, at most 99 characters.
-void NumericSample(const PTRNDATA* item, gchar* text, gsize size);
+// Once at start: colours 100..102, small font, cursor colours, built-in pictures, mark tables.
+void InitDrawData();

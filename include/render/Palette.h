@@ -1,5 +1,26 @@
-// The palette's file and the drawing colours made of it.
+// The drawing colours and the palette's file, of which most of them are made.
 #pragma once
+
+#include "Types.h"
+
+// A colour as it is drawn.
+struct DRAWCOLR {
+  guint16 red;
+  guint16 green;
+  guint16 blue;
+  guint32 pixel;  // 0xRRGGBB, high bytes of the channels
+};
+
+extern DRAWCOLR DrawColr[103];
+enum { ColourWhite = 100, ColourBlack = 101, ColourRed = 102 };
+// Foreground and background of the mouse cursors, from the profile.
+extern DRAWCOLR CusrColr[2];
+// True of a number that names one.
+inline bool ColourExists(gint colour) {
+  return colour >= 0 && colour <= ColourRed;
+}
+// 0xRRGGBB of 16-bit channels.
+guint32 PixelOf(gint red, gint green, gint blue);
 
 // Reads "PtrnColr" of the project folder, zeros when missing or short, and rebuilds the colours.
 void LoadColrFile();

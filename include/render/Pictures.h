@@ -1,7 +1,7 @@
-// Built-in pictures and mouse cursors, as picture text.
+// Pictures: files, and the built-in ones and mouse cursors as picture text.
 #pragma once
 
-#include "Types.h"
+#include "render/Surface.h"
 
 extern const gchar* XPM_Radio_OFF[];
 extern const gchar* XPM_Radio_ON[];
@@ -37,3 +37,11 @@ void XPM_DataInit();
 // Takes the three colours of profile key "XPM_COLR<no>" into a picture's colour lines.
 void SetXpmColr(const gchar** xpm, gint no);
 void MakeCursor(const gchar* const* xpm, guint8* data, guint8* mask);
+
+// A picture file scaled into a box; transparent colour -1 = opaque. An unreadable file draws
+// nothing.
+void DrawBmap(Drawable* drawable, DrawGc* gc, gint x, gint y, gint width, gint height,
+              gint transparent, const gchar* path, const gchar* name);
+// A built-in picture scaled into a box.
+void DrawXpm(Drawable* drawable, DrawGc* gc, gint x, gint y, gint width, gint height,
+             const gchar* const* xpm);

@@ -3,36 +3,11 @@
 // nothing. Texts are EUC-JP.
 #pragma once
 
+#include "render/FontTable.h"
+#include "render/Marks.h"
+#include "render/Palette.h"
+#include "render/Pictures.h"
 #include "render/Surface.h"
-
-// A colour as the primitives use it.
-struct DRAWCOLR {
-  guint16 red;
-  guint16 green;
-  guint16 blue;
-  guint32 pixel;  // 0xRRGGBB, high bytes of the channels
-};
-
-extern DRAWCOLR DrawColr[103];
-enum { ColourWhite = 100, ColourBlack = 101, ColourRed = 102 };
-// Foreground and background of the mouse cursors, from the profile.
-extern DRAWCOLR CusrColr[2];
-enum { SmallFont = 20 };
-
-// Built-in indicator images kept beside the marks.
-enum { MarkRadioOff = 350, MarkRadioOn = 351, MarkCheckOff = 352, MarkCheckOn = 353 };
-
-// One mark as picture text: a header, two colour lines, the pixel rows.
-constexpr gint MarkHeaderLines = 3;
-struct MARK_XPM {
-  const gchar* mark[67];
-  gchar data[67][66];
-};
-extern MARK_XPM Mark_XPM[354];
-
-// Once at start: colours 100..102, small font, cursor colours, built-in pictures, mark tables.
-void InitDrawData();
-void MarkDataInit();
 
 // One line of text with its top-left corner at (x, y); background -1 = none.
 void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg, gint bg,
@@ -65,17 +40,3 @@ void DrawGbox(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2
 void DrawButn(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint border,
               gint topLeftColour, gint bottomRightColour, gint faceColour, gint textColour,
               gint position, gint font, const gchar* label);
-// A mark scaled into a box; background -1 = transparent.
-void DrawMark(Drawable* drawable, DrawGc* gc, gint x, gint y, gint width, gint height, gint fg,
-              gint bg, gint mark);
-// A picture file scaled into a box; transparent colour -1 = opaque. An unreadable file draws
-// nothing.
-void DrawBmap(Drawable* drawable, DrawGc* gc, gint x, gint y, gint width, gint height,
-              gint transparent, const gchar* path, const gchar* name);
-// A built-in picture scaled into a box.
-void DrawXpm(Drawable* drawable, DrawGc* gc, gint x, gint y, gint width, gint height,
-             const gchar* const* xpm);
-// Fills w x h pixels at (x, y) with 0xRRGGBB, for colours outside the palette.
-void FillPixels(Drawable* drawable, gint x, gint y, gint w, gint h, guint32 rgb);
-// 0xRRGGBB of 16-bit channels.
-guint32 PixelOf(gint red, gint green, gint blue);

@@ -85,3 +85,5 @@ PixbufPtr PixbufFromSurface(const Drawable& surface);
 void PaintZoomed(Drawable& target, const Drawable& picture, gint width, gint height);
 // Writes a PNG, all or nothing. False = failed.
 bool WritePng(const Drawable& surface, const gchar* path);
+// Fills w x h pixels at (x, y) with 0xRRGGBB, for colours outside the palette.
+void FillPixels(Drawable* drawable, gint x, gint y, gint w, gint h, guint32 rgb);

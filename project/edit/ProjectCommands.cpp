@@ -9,7 +9,7 @@
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
 #include "project/edit/ShownProject.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Palette.h"
 #include "support/KeptResources.h"
 #include "support/Profile.h"

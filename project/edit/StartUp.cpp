@@ -6,6 +6,7 @@
 #include "project/edit/ShownProject.h"
 #include "project/model/KnownProjects.h"
 #include "render/FontTable.h"
+#include "render/Marks.h"
 #include "support/Text.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "render/fonts/DrawFonts.h"
 
-#include "render/Primitives.h"
+#include "render/FontTable.h"
 #include "support/Resource.h"
 
 namespace {

@@ -1,5 +1,5 @@
 #include "layout/Store.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/items/OutlineByType.h"
 
 void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom) {

@@ -1,6 +1,6 @@
 // Bar graph, shown at half of its scale.
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 

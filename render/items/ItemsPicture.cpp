@@ -4,7 +4,7 @@
 
 #include "layout/ItemSlots.h"
 #include "project/ProjectRecord.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"

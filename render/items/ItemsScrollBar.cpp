@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"

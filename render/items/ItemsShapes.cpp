@@ -1,6 +1,6 @@
 // Framed box, line, rectangle and ellipse.
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 

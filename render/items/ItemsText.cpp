@@ -3,7 +3,7 @@
 #include <string>
 
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 

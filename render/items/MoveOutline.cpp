@@ -1,7 +1,7 @@
 // Outlines and drag handles.
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 #include "render/items/OutlineByType.h"

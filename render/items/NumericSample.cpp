@@ -2,7 +2,7 @@
 #include <string>
 
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 #include "support/Text.h"
 
 void NumericSample(const PTRNDATA* item, gchar* text, gsize size) {

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "layout/ItemTypes.h"
-#include "render/Layout.h"
+#include "render/Items.h"
 
 namespace {
 

@@ -1,5 +1,7 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 
+#include "render/Palette.h"
+#include "render/Pictures.h"
 #include "render/pictures/KeptPictures.h"
 #include "render/pictures/PictureFiles.h"
 

@@ -1,4 +1,4 @@
-#include "render/surface/Paint.h"
+#include "render/Palette.h"
 
 DRAWCOLR DrawColr[103];
 DRAWCOLR CusrColr[2];

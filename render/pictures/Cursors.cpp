@@ -1,5 +1,6 @@
 #include <cstring>
 
+#include "render/Palette.h"
 #include "render/Pictures.h"
 #include "support/Profile.h"
 #include "support/Resource.h"

@@ -1,5 +1,7 @@
 #include <cstring>
 
+#include "render/Marks.h"
+#include "render/Palette.h"
 #include "render/pictures/KeptPictures.h"
 #include "render/pictures/XpmPicture.h"
 

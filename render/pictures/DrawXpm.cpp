@@ -2,6 +2,7 @@
 #include <map>
 #include <string>
 
+#include "render/Pictures.h"
 #include "render/pictures/KeptPictures.h"
 #include "render/pictures/XpmPicture.h"
 

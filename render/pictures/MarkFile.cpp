@@ -1,4 +1,4 @@
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/pictures/ResourceFile.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include <array>
 #include <cstring>
 
-#include "render/MarkFile.h"
-#include "render/Primitives.h"
+#include "render/Marks.h"
+#include "render/Palette.h"
 #include "support/Resource.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "render/Marks.h"
 #include "render/Pictures.h"
-#include "render/Primitives.h"
 
 MARK_XPM Mark_XPM[MarkCheckOn + 1];
 

@@ -1,5 +1,4 @@
 #include "render/Palette.h"
-#include "render/surface/Paint.h"
 #include "support/Resource.h"
 
 void SetDrawColr() {

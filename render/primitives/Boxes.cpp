@@ -1,6 +1,8 @@
 #include <cstdlib>
 
+#include "render/Primitives.h"
 #include "render/primitives/LineWalk.h"
+#include "render/primitives/Outlines.h"
 
 namespace {
 

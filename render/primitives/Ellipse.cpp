@@ -1,4 +1,6 @@
+#include "render/Primitives.h"
 #include "render/primitives/EllipseRows.h"
+#include "render/primitives/Outlines.h"
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "render/Primitives.h"
 #include "render/surface/Paint.h"
 
 namespace {

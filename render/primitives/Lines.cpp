@@ -1,3 +1,4 @@
+#include "render/Primitives.h"
 #include "render/primitives/LineWalk.h"
 
 namespace {

@@ -1,3 +1,4 @@
+#include "render/Primitives.h"
 #include "render/fonts/DrawFonts.h"
 #include "render/surface/Paint.h"
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "render/Primitives.h"
+#include "render/Surface.h"
 
 // A box of the plane: from (x1, y1) up to, but not including, (x2, y2).
 struct PlaneBox {
@@ -56,24 +56,8 @@ inline void FillBox(Drawable& drawable, const PlaneBox& box, guint32 rgb) {
   }
 }
 
-inline bool ColourExists(gint colour) {
-  return colour >= 0 && colour <= ColourRed;
-}
-
-// A wider outline would lie outside any surface; figures of hostile width end here.
-constexpr gint MaxOutlines = 32767;
-
 // Copies of a figure at every offset from `low` to `high`.
 struct OffsetRange {
   gint64 low;
   gint64 high;
 };
-
-// Insets of the one-pixel outlines that make up a thick outline; a negative inset lies outside.
-inline OffsetRange OutlineInsets(gint width, gint position) {
-  const gint64 count = std::min(width, MaxOutlines);
-  if (position == 0) {
-    return {-(count / 2), (count - 1) / 2};
-  }
-  return position == 1 ? OffsetRange{0, count - 1} : OffsetRange{-count, -1};
-}

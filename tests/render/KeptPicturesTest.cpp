@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "AsciiPicture.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "support/Resource.h"
 #include "tests/common/TempFolder.h"
 

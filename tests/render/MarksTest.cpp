@@ -3,7 +3,7 @@
 #include <string>
 
 #include "AsciiPicture.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "support/Resource.h"
 
 namespace {

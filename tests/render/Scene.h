@@ -15,7 +15,7 @@
 #include "layout/Store.h"
 #include "render/FontTable.h"
 #include "render/Layout.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
