@@ -1,5 +1,5 @@
 // Layout files: what has been read is written, and reads back the same. The conversion to JSON
-// reads the same bytes in its own way.
+// takes the same bytes from memory.
 #include <vector>
 
 #include "Fuzz.h"

@@ -11,12 +11,12 @@ namespace {
 
 // The first item in store order decides, as for the mouse; not the one painted on top. A press
 // beside the layout picks nothing.
-std::string HitLine(const POINT& point) {
-  if (!IsOnLayout(PtrnHedr, point.x, point.y)) return "none\n";
-  for (gint no = 0; no < GetPtrnCount(); ++no) {
-    const PTRNDATA* item = ViewPtrnData(no);
-    if (const gint hit = SearchPtrnData(&point, item))
-      return "index=" + std::to_string(no) + " type=" + std::to_string(item->Type) +
+std::string HitLine(const Layout& layout, const POINT& point) {
+  if (!IsOnLayout(layout.Header, point.x, point.y)) return "none\n";
+  for (std::size_t no = 0; no < layout.Items.size(); ++no) {
+    const PTRNDATA& item = layout.Items[no];
+    if (const gint hit = SearchPtrnData(&point, &item))
+      return "index=" + std::to_string(no) + " type=" + std::to_string(item.Type) +
              " hit=" + std::to_string(hit) + "\n";
   }
   return "none\n";
@@ -30,9 +30,9 @@ int RunHit(const HitOptions& options) {
   const std::string name = FindLayout(options.Name);
   if (name.empty()) return Fail(options.Name, "no such layout in the project");
   PrepareDrawing(options.View);
-  const OpenLayout layout(name);
-  if (!layout.Error().empty()) return Fail(options.Name, layout.Error());
+  ViewedLayout layout = LoadView(name);
+  if (!layout.Error.empty()) return Fail(options.Name, layout.Error);
   // Texts have an extent only once they have been painted.
-  const LayoutPicture picture;
-  return Print(HitLine({options.X, options.Y}));
+  const LayoutPicture picture(layout.Value);
+  return Print(HitLine(layout.Value, {options.X, options.Y}));
 }

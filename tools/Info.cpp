@@ -3,6 +3,7 @@
 #include "Constant.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/LayoutFile.h"
 #include "layout/ProjectSlots.h"
 #include "project/ProjectRecord.h"
 #include "support/FileTools.h"
@@ -11,7 +12,6 @@
 #include "tools/InputFile.h"
 #include "tools/OpenProject.h"
 #include "tools/Report.h"
-#include "tools/json/LayoutFile.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ struct Totals {
   std::set<std::string> Codes;
 };
 
-std::string LayoutLine(const std::string& name, const LayoutFile& layout, Totals& totals) {
+std::string LayoutLine(const std::string& name, const Layout& layout, Totals& totals) {
   std::size_t undefined = 0;
   std::set<std::string> codes;
   for (const PTRNDATA& item : layout.Items) {

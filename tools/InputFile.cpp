@@ -10,8 +10,9 @@
 #include <cstring>
 #include <memory>
 
-#include "layout/Records.h"
+#include "layout/LayoutFile.h"
 #include "project/ProjectRecord.h"
+#include "support/RecordBytes.h"
 #include "support/Resource.h"
 #include "support/Text.h"
 #include "tools/Report.h"
@@ -57,11 +58,17 @@ std::string ReadHead(InputFile& input, guint64 limit) {
   return bytes;
 }
 
+std::optional<guint64> SizeOfLayout(std::string_view head) {
+  PTRNHEDR header;
+  if (!FillRecords(&header, 1, head)) return std::nullopt;
+  return LayoutFileSize(header);
+}
+
 // The bytes that a file of this kind takes, nothing when it is not whole.
 std::optional<guint64> SizeOfKind(FileKind kind, InputFile& input) {
   switch (kind) {
     case FileKind::Layout:
-      return LayoutFileSize(ReadHead(input, sizeof(PTRNHEDR)));
+      return SizeOfLayout(ReadHead(input, sizeof(PTRNHEDR)));
     case FileKind::Project:
       return sizeof(PROJFILE);
     case FileKind::Palette:
@@ -112,11 +119,11 @@ FileBytes ReadFileOfKind(FileKind kind, const std::string& path) {
   return {std::move(bytes), ""};
 }
 
-std::optional<LayoutFile> ReadLayout(const std::string& path) {
+std::optional<Layout> ReadLayout(const std::string& path) {
   // So version control names the side where the file does not exist.
-  if (path == "/dev/null") return LayoutFile{};
+  if (path == "/dev/null") return Layout{};
   const FileBytes input = ReadFileOfKind(FileKind::Layout, ExistingPath(path));
-  std::optional<LayoutFile> layout;
+  std::optional<Layout> layout;
   if (input.Bytes) layout = DecodeLayout(*input.Bytes);
   if (!layout) Refuse(path, input.Error);
   return layout;

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "layout/Layout.h"
 #include "tools/json/Convert.h"
-#include "tools/json/LayoutFile.h"
 
 // The part of a path after its last "/", and what is before it ("." when there is none).
 std::string_view BaseName(std::string_view path);
@@ -27,4 +27,4 @@ struct FileBytes {
 FileBytes ReadFileOfKind(FileKind kind, const std::string& path);
 // A layout file of any name, an empty layout for "/dev/null"; nothing when it cannot be read, the
 // reason has then been told.
-std::optional<LayoutFile> ReadLayout(const std::string& path);
+std::optional<Layout> ReadLayout(const std::string& path);

@@ -6,6 +6,7 @@
 #include "Constant.h"
 #include "layout/EditState.h"
 #include "layout/ItemSlots.h"
+#include "layout/LayoutFile.h"
 #include "layout/Records.h"
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
@@ -41,52 +42,44 @@ void PrepareDrawing(const ViewOptions& options) {
   ColorCode = options.Colour;
 }
 
-OpenLayout::OpenLayout(const std::string& name) {
-  IntPtrnData();
-  PtrnHedr = {};
+ViewedLayout LoadView(const std::string& name) {
+  ViewedLayout view;
   if (CheckPtrnFile(ProjPath, name.c_str()) != LayoutFileState::Whole) {
-    error_ = "not a whole layout file";
-    return;
+    view.Error = "not a whole layout file";
+    return view;
   }
   // The result tells a layout without items from others; both can be drawn.
-  PtrnFileRead(ProjPath, name.c_str());
-  CheckSize();
+  ReadLayoutFile(ProjPath, name.c_str(), view.Value);
+  view.Error = DrawingFault(view.Value);
+  return view;
 }
 
-OpenLayout::OpenLayout(const LayoutFile& layout) {
-  IntPtrnData();
-  PtrnHedr = layout.Header;
-  for (const PTRNDATA& item : layout.Items) AddPtrnData(&item);
-  CheckSize();
+std::string DrawingFault(const Layout& layout) {
+  const PTRNHEDR& header = layout.Header;
+  return DrawableSize(header.Parm1[HedrSlot::Width], header.Parm1[HedrSlot::Height])
+             ? ""
+             : "its size cannot be drawn";
 }
 
-void OpenLayout::CheckSize() {
-  if (!DrawableSize(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]))
-    error_ = "its size cannot be drawn";
-}
-
-OpenLayout::~OpenLayout() {
-  ExtPtrnData();
-}
-
-LayoutPicture::LayoutPicture()
-    : surface_(PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height]) {
+LayoutPicture::LayoutPicture(Layout& layout)
+    : surface_(layout.Header.Parm1[HedrSlot::Width], layout.Header.Parm1[HedrSlot::Height]) {
   DrawGc gc;
-  DrawWindow1(&surface_, &gc);
+  DrawLayout(&surface_, &gc, layout.Header, layout.Items);
 }
 
-CanvasPicture PaintCanvas(int zoom, bool grid) {
-  PtrnHedr.Parm2[ViewSlot::Zoom] = ZoomIndex(zoom);
-  PtrnHedr.Parm2[ViewSlot::GridShown] = grid;
-  const LayoutPicture picture;
-  const gint64 width = gint64{PtrnHedr.Parm1[HedrSlot::Width]} * zoom / 100;
-  const gint64 height = gint64{PtrnHedr.Parm1[HedrSlot::Height]} * zoom / 100;
+CanvasPicture PaintCanvas(Layout& layout, int zoom, bool grid) {
+  PTRNHEDR& header = layout.Header;
+  header.Parm2[ViewSlot::Zoom] = ZoomIndex(zoom);
+  header.Parm2[ViewSlot::GridShown] = grid;
+  const LayoutPicture picture(layout);
+  const gint64 width = gint64{header.Parm1[HedrSlot::Width]} * zoom / 100;
+  const gint64 height = gint64{header.Parm1[HedrSlot::Height]} * zoom / 100;
   if (!DrawableSize(width, height)) return {nullptr, "too large at this zoom"};
   auto canvas = std::make_unique<Drawable>(static_cast<gint>(width), static_cast<gint>(height));
   if (!picture.Surface().Valid() || !canvas->Valid()) return {nullptr, "too large for the memory"};
   PaintZoomed(*canvas, picture.Surface(), canvas->Width(), canvas->Height());
   DrawGc gc;
-  DrawGridData(canvas.get(), &gc);
+  DrawGridData(canvas.get(), &gc, header);
   return {std::move(canvas), ""};
 }
 

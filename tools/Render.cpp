@@ -14,9 +14,9 @@
 namespace {
 
 int RenderLayout(const std::string& name, const std::string& file, const RenderOptions& options) {
-  const OpenLayout layout(name);
-  if (!layout.Error().empty()) return Fail(file, layout.Error());
-  const CanvasPicture canvas = PaintCanvas(options.Zoom, options.Grid);
+  ViewedLayout layout = LoadView(name);
+  if (!layout.Error.empty()) return Fail(file, layout.Error);
+  const CanvasPicture canvas = PaintCanvas(layout.Value, options.Zoom, options.Grid);
   if (!canvas.Surface) return Fail(file, canvas.Error);
   return WritePng(*canvas.Surface, file.c_str()) ? Print(ShownPath(file) + "\n")
                                                  : Fail(file, "cannot be written");

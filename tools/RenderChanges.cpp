@@ -46,12 +46,16 @@ ItemBox Grown(const ItemBox& box, gint by) {
   return {box.X1 - by, box.Y1 - by, box.X2 + by, box.Y2 + by};
 }
 
-// The boxes of all items of the open layout, which has been painted.
-std::vector<ItemBox> PaintedBoxes() {
+// Paints a layout for the sizes of its items alone.
+void FindSizes(Layout& layout) {
+  const LayoutPicture painted(layout);
+}
+
+// The boxes of all items of a layout that has been painted.
+std::vector<ItemBox> PaintedBoxes(const Layout& layout) {
   std::vector<ItemBox> boxes;
-  const gint count = GetPtrnCount();
-  boxes.reserve(static_cast<std::size_t>(count));
-  for (gint no = 0; no < count; ++no) boxes.push_back(PaintedBox(*ViewPtrnData(no)));
+  boxes.reserve(layout.Items.size());
+  for (const PTRNDATA& item : layout.Items) boxes.push_back(PaintedBox(item));
   return boxes;
 }
 
@@ -104,22 +108,20 @@ void OutlineChanges(Drawable& canvas, int zoom, const LayoutChanges& changes,
 }  // namespace
 
 int RenderChanges(const RenderOptions& options) {
-  const std::optional<LayoutFile> before = ReadLayout(options.Before);
-  const std::optional<LayoutFile> after = ReadLayout(options.After);
+  std::optional<Layout> before = ReadLayout(options.Before);
+  std::optional<Layout> after = ReadLayout(options.After);
   if (!before || !after) return ExitFailed;
-  std::vector<ItemBox> boxesBefore;
-  {
-    const OpenLayout open(*before);
-    if (!open.Error().empty()) return Fail(options.Before, open.Error());
-    const LayoutPicture painted;
-    boxesBefore = PaintedBoxes();
-  }
-  const OpenLayout open(*after);
-  if (!open.Error().empty()) return Fail(options.After, open.Error());
-  const CanvasPicture canvas = PaintCanvas(options.Zoom, options.Grid);
+  // Before the painting: the sizes that it finds are no differences.
+  const LayoutChanges changes = CompareLayouts(*before, *after);
+  if (const std::string fault = DrawingFault(*before); !fault.empty())
+    return Fail(options.Before, fault);
+  FindSizes(*before);
+  if (const std::string fault = DrawingFault(*after); !fault.empty())
+    return Fail(options.After, fault);
+  const CanvasPicture canvas = PaintCanvas(*after, options.Zoom, options.Grid);
   if (!canvas.Surface) return Fail(options.After, canvas.Error);
-  OutlineChanges(*canvas.Surface, options.Zoom, CompareLayouts(*before, *after), boxesBefore,
-                 PaintedBoxes());
+  OutlineChanges(*canvas.Surface, options.Zoom, changes, PaintedBoxes(*before),
+                 PaintedBoxes(*after));
   return WritePng(*canvas.Surface, options.Folder.c_str())
              ? Print(ShownPath(options.Folder) + "\n")
              : Fail(options.Folder, "cannot be written");

@@ -1,7 +1,10 @@
-// The items of the open layout and the layout file.
+// The open layout: its header, its items, its file.
 #pragma once
 
-#include "layout/Records.h"
+#include <span>
+
+#include "layout/Layout.h"
+#include "layout/LayoutFile.h"
 
 // Header of the open layout, and the working copy of the settings dialog.
 extern PTRNHEDR PtrnHedr;
@@ -22,20 +25,18 @@ gint GetPtrnCount();
 gint GetPtrnData(gint no, PTRNDATA* out);
 gint SetPtrnData(gint no, const PTRNDATA* in);
 void AddPtrnData(const PTRNDATA* in);
-// Appends `count` empty items; the first of them, the others follow it. Gone with the next change.
-PTRNDATA* AddEmptyPtrnData(gint count);
-// Removes the last `count` items.
-void DropLastPtrnData(gint count);
-// Removes the first `count` items.
-void DropFirstPtrnData(gint count);
-// Makes room for `count` more items, so that adding them does not move the others.
-void MakeRoomForPtrnData(gint count);
 // Removes an item, the later ones move down.
 void DelPtrnData(gint no);
 // Removes every item that `chosen` tells, at the cost of one; the number removed.
 gint DelPtrnDataIf(bool (*chosen)(const PTRNDATA* item));
 // The item itself, for reading without a copy; null outside the store. Gone with the next change.
 const PTRNDATA* ViewPtrnData(gint no);
+// All items in their order, for reading. Gone with the next change.
+std::span<const PTRNDATA> ViewAllPtrnData();
+// The same, for the sizes that painting finds.
+std::span<PTRNDATA> ReachAllPtrnData();
+// Exchanges all items for others, at the cost of none.
+void SwapPtrnData(ItemArray& items);
 
 // Reads "<path>/<name>.ptn" into PtrnHedr and appends its items. 0 = unreadable, not whole, or
 // without texts (a layout without items reports 0, too, with its header loaded).
@@ -46,20 +47,6 @@ void PtrnFileWrite(const gchar* path, const gchar* name);
 // Fills EditHedr for a new layout: 0 parent window, 1 child window, else other.
 void PtrnFileInit(gint type);
 
-// How whole a layout file is. One that cannot be read counts as broken.
-enum class LayoutFileState { Whole, Missing, Broken };
-// Looks at the file's size and counts alone; reads nothing into the store. `items` takes the number
-// of items of a whole file, 0 of any other.
-LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name, gint* items = nullptr);
-// What a layout file holds must outlive its rewriting: copies it to "<name>.ptn.bak", which
-// replaces an older one. False when that failed, so that the file must not be written. An empty
-// file holds nothing.
-bool KeepPtrnFile(const gchar* path, const gchar* name);
-// The same for a damaged file alone; true of any other.
-bool KeepDamagedPtrnFile(const gchar* path, const gchar* name);
-// Short = missing, not whole, or without items. Failed = the device or the memory was at fault:
-// what the store holds then is less than the file does and must not be written back.
-enum class LayoutReading { Whole, Short, Failed };
 // As PtrnFileRead, and tells why.
 LayoutReading ReadPtrnFile(const gchar* path, const gchar* name);
 // As PtrnFileWrite, and tells whether the file was written. Without folder or name it is not.

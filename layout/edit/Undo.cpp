@@ -87,18 +87,18 @@ void PopPtrnData() {
   if (PtrnSaveCount <= 0) {
     return;
   }
-  const PTRNHEDR header = PtrnHedr;
-  const gint count = GetPtrnCount();
+  Layout snapshot;
+  snapshot.Header = PtrnHedr;
   const bool gone = IsEmptySlot(PtrnSaveCount - 1);
-  if (ReadPtrnFile(PtrnSavePath, PtrnSaveName[PtrnSaveCount - 1]) == LayoutReading::Failed) {
-    PtrnHedr = header;
-    DropLastPtrnData(GetPtrnCount() - count);
+  if (ReadLayoutFile(PtrnSavePath, PtrnSaveName[PtrnSaveCount - 1], snapshot) ==
+      LayoutReading::Failed) {
     return;
   }
-  DropFirstPtrnData(count);
   --PtrnSaveCount;
   // What is open now is no state of its file, and must not cost what that holds.
   if (gone) ForgetOwnFile();
-  PtrnHedr.Parm2[ViewSlot::GridShown] = header.Parm2[ViewSlot::GridShown];
+  snapshot.Header.Parm2[ViewSlot::GridShown] = PtrnHedr.Parm2[ViewSlot::GridShown];
+  PtrnHedr = snapshot.Header;
+  SwapPtrnData(snapshot.Items);
   SetMainMenu();
 }

@@ -1,4 +1,5 @@
 #include "layout/Guards.h"
+#include "layout/Store.h"
 #include "render/Layout.h"
 #include "render/Primitives.h"
 #include "render/surface/PageArea.h"
@@ -25,20 +26,24 @@ void EachGridLine(gint step, gint extent, gint start, gint visible, Draw draw) {
 
 }  // namespace
 
-void DrawGridData(Drawable* drawable, DrawGc* gc) {
-  if (PtrnHedr.Parm2[ViewSlot::GridShown] == 0) return;
-  const gint zoom = ZoomPercent(PtrnHedr.Parm2[ViewSlot::Zoom]);
-  const PageArea page;
+void DrawGridData(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header) {
+  if (header.Parm2[ViewSlot::GridShown] == 0) return;
+  const gint zoom = ZoomPercent(header.Parm2[ViewSlot::Zoom]);
+  const PageArea page(header);
   const gint width = Zoomed(page.Width, zoom);
   const gint height = Zoomed(page.Height, zoom);
-  const gint colour = PtrnHedr.Parm2[ViewSlot::GridColour];
+  const gint colour = header.Parm2[ViewSlot::GridColour];
 
-  EachGridLine(Zoomed(GridDots(PtrnHedr.Parm2[ViewSlot::GridX]), zoom), width, drawable->X(),
+  EachGridLine(Zoomed(GridDots(header.Parm2[ViewSlot::GridX]), zoom), width, drawable->X(),
                drawable->Width(), [&](gint x, gint style) {
                  DrawLine(drawable, gc, x, 0, x, height, style, 1, 0, colour);
                });
-  EachGridLine(Zoomed(GridDots(PtrnHedr.Parm2[ViewSlot::GridY]), zoom), height, drawable->Y(),
+  EachGridLine(Zoomed(GridDots(header.Parm2[ViewSlot::GridY]), zoom), height, drawable->Y(),
                drawable->Height(), [&](gint y, gint style) {
                  DrawLine(drawable, gc, 0, y, width, y, style, 1, 0, colour);
                });
+}
+
+void DrawGridData(Drawable* drawable, DrawGc* gc) {
+  DrawGridData(drawable, gc, PtrnHedr);
 }

@@ -1,9 +1,14 @@
+#include "layout/Store.h"
 #include "render/Layout.h"
 #include "render/pictures/PictureFiles.h"
 
-void DrawWindow1(Drawable* drawable, DrawGc* gc) {
+void DrawLayout(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header, std::span<PTRNDATA> items) {
   const KeptPicturePaths paths;
-  DrawPageData(drawable, gc);
-  DrawPtrnData(drawable, gc, 0);
-  DrawPtrnData(drawable, gc, 1);
+  DrawPageData(drawable, gc, header);
+  DrawPtrnData(drawable, gc, items, 0);
+  DrawPtrnData(drawable, gc, items, 1);
+}
+
+void DrawWindow1(Drawable* drawable, DrawGc* gc) {
+  DrawLayout(drawable, gc, PtrnHedr, ReachAllPtrnData());
 }

@@ -2,6 +2,7 @@
 #include <array>
 #include <string>
 
+#include "layout/Store.h"
 #include "project/ProjectRecord.h"
 #include "render/Layout.h"
 #include "render/Primitives.h"
@@ -12,8 +13,8 @@
 
 namespace {
 
-void DrawGradation(Drawable* drawable, const PageArea& page) {
-  const gint colour = PtrnHedr.Parm1[HedrSlot::WorkAreaColour];
+void DrawGradation(Drawable* drawable, const PTRNHEDR& header, const PageArea& page) {
+  const gint colour = header.Parm1[HedrSlot::WorkAreaColour];
   if (colour < 0 || colour >= ColrCount) return;
   std::array<guint32, 256> shades;
   for (gint shade = 0; shade < 256; ++shade) {
@@ -27,37 +28,45 @@ void DrawGradation(Drawable* drawable, const PageArea& page) {
   }
 }
 
-void DrawWorkArea(Drawable* drawable, DrawGc* gc, const PageArea& page) {
+void DrawWorkArea(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header, const PageArea& page) {
   if (page.Width <= 0 || page.WorkHeight() <= 0) return;
-  if (!FieldText(PtrnHedr.BmapName).empty()) {
-    DrawPageData4(drawable, gc);
-  } else if (PtrnHedr.Parm1[HedrSlot::Gradation] != 0) {
-    DrawGradation(drawable, page);
+  if (!FieldText(header.BmapName).empty()) {
+    DrawPageData4(drawable, gc, header);
+  } else if (header.Parm1[HedrSlot::Gradation] != 0) {
+    DrawGradation(drawable, header, page);
   } else {
     FillArea(drawable, gc, {0, page.TitleHeight, page.Width, page.Height - page.ButtonHeight},
-             PtrnHedr.Parm1[HedrSlot::WorkAreaColour]);
+             header.Parm1[HedrSlot::WorkAreaColour]);
   }
 }
 
 }  // namespace
 
-void DrawPageData3(Drawable* drawable, DrawGc* gc) {
-  const PageArea page;
-  DrawWorkArea(drawable, gc, page);
+void DrawPageData3(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header) {
+  const PageArea page(header);
+  DrawWorkArea(drawable, gc, header, page);
   if (page.ButtonHeight > 0 && page.Width > 0) {
     FillArea(drawable, gc, {0, page.Height - page.ButtonHeight, page.Width, page.Height},
-             PtrnHedr.Parm1[HedrSlot::ButtonAreaColour]);
+             header.Parm1[HedrSlot::ButtonAreaColour]);
   }
-  const gint frameWidth = BoundedWidth(PtrnHedr.Parm1[HedrSlot::FrameWidth]);
+  const gint frameWidth = BoundedWidth(header.Parm1[HedrSlot::FrameWidth]);
   if (frameWidth != 0) {
     DrawRect(drawable, gc, 0, 0, page.Width, page.Height, frameWidth, 1,
-             PtrnHedr.Parm1[HedrSlot::FrameColour], -1);
+             header.Parm1[HedrSlot::FrameColour], -1);
   }
 }
 
-void DrawPageData4(Drawable* drawable, DrawGc* gc) {
-  const PageArea page;
-  const std::string name(FieldText(PtrnHedr.BmapName));
+void DrawPageData4(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header) {
+  const PageArea page(header);
+  const std::string name(FieldText(header.BmapName));
   DrawBmap(drawable, gc, 0, page.TitleHeight, page.Width, page.WorkHeight(), -1, BmapPath,
            name.c_str());
+}
+
+void DrawPageData3(Drawable* drawable, DrawGc* gc) {
+  DrawPageData3(drawable, gc, PtrnHedr);
+}
+
+void DrawPageData4(Drawable* drawable, DrawGc* gc) {
+  DrawPageData4(drawable, gc, PtrnHedr);
 }

@@ -68,7 +68,7 @@ void PaintPart(Drawable& picture, const DrawnBox& box) {
 PaintedLayout::Clock PaintedLayout::PresentClock(const Drawable& picture) {
   Clock clock;
   const gint format = CalendarFormat(PtrnHedr.Parm1[HedrSlot::DateFormat]);
-  if (format == 0 || PageArea().TitleHeight <= 0) return clock;
+  if (format == 0 || PageArea(PtrnHedr).TitleHeight <= 0) return clock;
   clock.Text = CalendarText(format, PictureTime());
   Drawable probe(picture.Width(), picture.Height(), &clock.Box);
   DrawGc gc;

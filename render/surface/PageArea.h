@@ -1,15 +1,21 @@
-// The heights and widths of the open layout's areas, in layout dots.
+// The heights and widths of a layout's areas, in layout dots.
 #pragma once
 
 #include "layout/ItemSlots.h"
-#include "layout/Store.h"
+#include "layout/Records.h"
 #include "render/surface/Plane.h"
 
 struct PageArea {
-  gint Width = OnPlane(PtrnHedr.Parm1[HedrSlot::Width]);
-  gint Height = OnPlane(PtrnHedr.Parm1[HedrSlot::Height]);
-  gint TitleHeight = OnPlane(PtrnHedr.Parm1[HedrSlot::TitleHeight]);
-  gint ButtonHeight = OnPlane(PtrnHedr.Parm1[HedrSlot::ButtonAreaHeight]);
+  explicit PageArea(const PTRNHEDR& header)
+      : Width(OnPlane(header.Parm1[HedrSlot::Width])),
+        Height(OnPlane(header.Parm1[HedrSlot::Height])),
+        TitleHeight(OnPlane(header.Parm1[HedrSlot::TitleHeight])),
+        ButtonHeight(OnPlane(header.Parm1[HedrSlot::ButtonAreaHeight])) {}
+
+  gint Width;
+  gint Height;
+  gint TitleHeight;
+  gint ButtonHeight;
 
   gint WorkHeight() const { return Height - TitleHeight - ButtonHeight; }
 };

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 namespace {
 
 PTRNDATA Numbered(gint number) {
@@ -109,31 +107,6 @@ TEST_F(StoreTest, InitialisingAndReleasingBothEmptyIt) {
   EXPECT_EQ(GetPtrnCount(), 0);
   Fill(5);
   ExtPtrnData();
-  EXPECT_EQ(GetPtrnCount(), 0);
-}
-
-TEST_F(StoreTest, EmptyItemsAreAllZeros) {
-  Fill(3);
-  MakeRoomForPtrnData(100);
-  PTRNDATA* first = AddEmptyPtrnData(100);
-  const PTRNDATA empty{};
-  for (gint i = 0; i < 100; ++i) {
-    ASSERT_EQ(std::memcmp(first + i, &empty, sizeof empty), 0) << i;
-  }
-  EXPECT_EQ(GetPtrnCount(), 103);
-  EXPECT_EQ(NumberAt(2), 2);
-  first[99].ID_No = 77;
-  EXPECT_EQ(NumberAt(102), 77);
-}
-
-TEST_F(StoreTest, DropsItemsFromTheEnd) {
-  Fill(5);
-  DropLastPtrnData(2);
-  EXPECT_EQ(GetPtrnCount(), 3);
-  EXPECT_EQ(NumberAt(2), 2);
-  AddEmptyPtrnData(1);
-  EXPECT_EQ(NumberAt(3), 0) << "not what was there before";
-  DropLastPtrnData(100);
   EXPECT_EQ(GetPtrnCount(), 0);
 }
 

@@ -1,5 +1,5 @@
 // The tool's view of a layout file and the program's own agree.
-#include "tools/json/LayoutFile.h"
+#include "layout/LayoutFile.h"
 
 #include <gtest/gtest.h>
 

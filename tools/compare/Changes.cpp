@@ -146,7 +146,7 @@ std::vector<FieldChange> ItemChanges(const PTRNDATA& before, const PTRNDATA& aft
   return changes.Take();
 }
 
-LayoutChanges CompareLayouts(const LayoutFile& before, const LayoutFile& after) {
+LayoutChanges CompareLayouts(const Layout& before, const Layout& after) {
   LayoutChanges changes;
   changes.Header = HeaderChanges(before.Header, after.Header);
   ItemMatch match = MatchItems(before.Items, after.Items);
@@ -164,8 +164,7 @@ LayoutChanges CompareLayouts(const LayoutFile& before, const LayoutFile& after) 
   return changes;
 }
 
-std::string ChangesText(const LayoutChanges& changes, const LayoutFile& before,
-                        const LayoutFile& after) {
+std::string ChangesText(const LayoutChanges& changes, const Layout& before, const Layout& after) {
   std::string text;
   if (!changes.Header.empty()) text += "~ レイアウト情報\n" + FieldLines(changes.Header);
   for (const ChangedItem& item : changes.Changed)

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "layout/Layout.h"
 #include "tools/compare/Match.h"
-#include "tools/json/LayoutFile.h"
 
 // One field in the words of the dialogs, its values fit to show.
 struct FieldChange {
@@ -35,7 +35,6 @@ struct LayoutChanges {
   }
 };
 
-LayoutChanges CompareLayouts(const LayoutFile& before, const LayoutFile& after);
+LayoutChanges CompareLayouts(const Layout& before, const Layout& after);
 // All changes as lines for people; "" when there are none.
-std::string ChangesText(const LayoutChanges& changes, const LayoutFile& before,
-                        const LayoutFile& after);
+std::string ChangesText(const LayoutChanges& changes, const Layout& before, const Layout& after);

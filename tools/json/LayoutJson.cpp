@@ -1,8 +1,8 @@
 #include "layout/ItemTypes.h"
+#include "layout/LayoutFile.h"
 #include "support/Program.h"
 #include "support/Text.h"
 #include "tools/json/Kinds.h"
-#include "tools/json/LayoutFile.h"
 #include "tools/json/SourceReader.h"
 
 namespace {
@@ -78,7 +78,7 @@ Json ShowLayout(std::string_view bytes) {
 
 std::string BuildLayout(const JsonSource& source) {
   ObjectReader reader(source, "");
-  LayoutFile layout;
+  Layout layout;
   PTRNHEDR& header = layout.Header;
   header.Version = reader.Number("Version", Version);
   reader.ParmInto<30>("Parm1", HeaderParameters(), header.Parm1);
@@ -95,5 +95,6 @@ std::string BuildLayout(const JsonSource& source) {
       layout.Items.push_back(BuildItem(item, EntryPlace("Items", no++)));
   }
   reader.Finish();
-  return EncodeLayout(layout);
+  const LayoutBytes bytes = EncodeLayout(header, layout.Items);
+  return {bytes.data(), bytes.size()};
 }

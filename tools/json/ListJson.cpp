@@ -1,30 +1,23 @@
 // Code registry and string lists.
-#include <cstring>
 #include <vector>
 
-#include "layout/Records.h"
+#include "layout/LayoutFile.h"
+#include "support/RecordBytes.h"
 #include "support/Text.h"
 #include "tools/json/Kinds.h"
-#include "tools/json/LayoutFile.h"
 #include "tools/json/SourceReader.h"
 
 namespace {
 
 constexpr std::size_t EntryLimit = 1'000'000;
 
+// Stricter than the program, which passes over what is left behind the last whole record.
 template <class Record>
 std::vector<Record> Decode(std::string_view bytes, const char* kind) {
   if (bytes.size() % sizeof(Record) != 0)
     throw SourceError(std::string("not a whole ") + kind + ": no multiple of " +
                       std::to_string(sizeof(Record)) + " bytes");
-  std::vector<Record> records(bytes.size() / sizeof(Record));
-  if (!records.empty()) std::memcpy(records.data(), bytes.data(), bytes.size());
-  return records;
-}
-
-template <class Record>
-void Append(std::string& bytes, const Record& record) {
-  bytes.append(reinterpret_cast<const char*>(&record), sizeof(record));
+  return RecordsOf<Record>(bytes);
 }
 
 }  // namespace
@@ -50,7 +43,7 @@ std::string BuildRegistry(const JsonSource& source) {
     record.DataNo = reader.Number("DataNo");
     record.DispNo = reader.Number("DispNo");
     reader.Finish();
-    Append(bytes, record);
+    bytes += BytesOfRecords(&record, 1);
   }
   return bytes;
 }
@@ -68,7 +61,7 @@ std::string BuildTexts(const JsonSource& source) {
   for (const JsonSource& entry : ListOf(source, "list", EntryLimit)) {
     PTRNTEXT record{};
     CopyText(record.text, EucOf(entry, EntryPlace("list", no++), TextLimit::Text));
-    Append(bytes, record);
+    bytes += BytesOfRecords(&record, 1);
   }
   return bytes;
 }

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-void FilePieces::Begin(const FileHandle& file, gint64 offset, gint64 size) {
+void FilePieces::Begin(const FileSource& file, gint64 offset, gint64 size) {
   file_ = &file;
   next_ = offset;
   left_ = size;

@@ -1,16 +1,16 @@
-// A stretch of an open file, read from its beginning to its end in large pieces.
+// A stretch of a file, read from its beginning to its end in large pieces.
 #pragma once
 
 #include <algorithm>
 #include <array>
 
 #include "Types.h"
-#include "support/FileHandle.h"
+#include "layout/model/file/FileSource.h"
 
 class FilePieces {
  public:
-  // Goes to the `size` bytes from `offset` on. The file must stay open meanwhile.
-  void Begin(const FileHandle& file, gint64 offset, gint64 size);
+  // Goes to the `size` bytes from `offset` on. The source must stay meanwhile.
+  void Begin(const FileSource& file, gint64 offset, gint64 size);
   // The next `size` bytes, at most MostAhead; zeros where the stretch or the file ends before.
   // Valid until the next call.
   const char* Ahead(std::size_t size);
@@ -26,7 +26,7 @@ class FilePieces {
 
   void Refill();
 
-  const FileHandle* file_ = nullptr;
+  const FileSource* file_ = nullptr;
   gint64 next_ = 0;  // place in the file of the bytes that have not come yet
   gint64 left_ = 0;  // number of those bytes
   std::size_t begin_ = 0;

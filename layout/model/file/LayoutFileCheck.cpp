@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "layout/Store.h"
+#include "layout/LayoutFile.h"
 #include "layout/model/file/LayoutInput.h"
 #include "support/FileTools.h"
 #include "support/Files.h"

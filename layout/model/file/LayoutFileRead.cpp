@@ -1,9 +1,10 @@
 #include <algorithm>
+#include <cstring>
 #include <new>
 
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
-#include "layout/Store.h"
+#include "layout/LayoutFile.h"
 #include "layout/model/file/LayoutInput.h"
 #include "support/FileTools.h"
 
@@ -20,22 +21,19 @@ void Terminate(gchar (&field)[Size]) {
   field[Size - 1] = '\0';
 }
 
-bool ReadHeader(LayoutInput& input, PTRNHEDR& header) {
-  if (!input.ReadHeader(header)) {
-    return false;
-  }
+// As a layout is opened, whatever its file says.
+void OpenHeader(PTRNHEDR& header) {
   Terminate(header.PtrnName1);
   Terminate(header.PtrnName2);
   Terminate(header.PtrnName3);
   Terminate(header.LogoName);
   Terminate(header.BmapName);
   header.Parm2[ViewSlot::GridShown] = 0;
-  return true;
 }
 
-// Appends those of the next `count` items whose type the store may hold.
-bool ReadBatch(LayoutInput& input, gint count) {
-  PTRNDATA* const first = AddEmptyPtrnData(count);
+// Appends those of the next `count` items whose type a layout may hold.
+bool ReadBatch(LayoutInput& input, ItemArray& items, gint count) {
+  PTRNDATA* const first = AddEmptyItems(items, count);
   PTRNDATA* next = first;
   bool whole = true;
   for (gint i = 0; i < count && (whole = input.NextItem(*next)); ++i) {
@@ -45,43 +43,57 @@ bool ReadBatch(LayoutInput& input, gint count) {
       *next = PTRNDATA{};
     }
   }
-  DropLastPtrnData(count - static_cast<gint>(next - first));
+  items.resize(static_cast<std::size_t>(next - items.data()));
   return whole;
 }
 
-bool ReadItems(LayoutInput& input) {
+bool ReadItems(LayoutInput& input, ItemArray& items) {
   gint left = input.RecordsHeld();
-  MakeRoomForPtrnData(std::min(left, MostRoom));
+  items.reserve(items.size() + static_cast<std::size_t>(std::min(left, MostRoom)));
   bool whole = true;
   while (whole && left > 0) {
     const gint count = std::min(left, BatchSize);
-    whole = ReadBatch(input, count);
+    whole = ReadBatch(input, items, count);
     left -= count;
   }
   return whole;
 }
 
-bool ReadLayout(LayoutInput& input) {
-  if (!input.IsOpen() || !ReadHeader(input, PtrnHedr)) {
+bool ReadLayout(LayoutInput& input, Layout& layout) {
+  if (!input.IsOpen() || !input.ReadHeader(layout.Header)) {
     return false;
   }
-  return ReadItems(input) && PtrnHedr.TextSize != 0 && input.HoldsTexts();
+  OpenHeader(layout.Header);
+  return ReadItems(input, layout.Items) && layout.Header.TextSize != 0 && input.HoldsTexts();
 }
 
 }  // namespace
 
-LayoutReading ReadPtrnFile(const gchar* path, const gchar* name) {
+PTRNDATA* AddEmptyItems(ItemArray& items, gint count) {
+  const std::size_t before = items.size();
+  items.resize(before + static_cast<std::size_t>(count));
+  PTRNDATA* first = items.data() + before;
+  std::memset(first, 0, static_cast<std::size_t>(count) * sizeof *first);
+  return first;
+}
+
+std::optional<Layout> DecodeLayout(std::string_view bytes) {
+  LayoutInput input(bytes);
+  Layout layout;
+  if (!input.ReadHeader(layout.Header) || !input.HoldsTexts() || !ReadItems(input, layout.Items)) {
+    return std::nullopt;
+  }
+  return layout;
+}
+
+LayoutReading ReadLayoutFile(const gchar* path, const gchar* name, Layout& layout) {
   try {
     LayoutInput input(JoinPath(path, name, "ptn"));
-    const bool whole = ReadLayout(input);
+    const bool whole = ReadLayout(input, layout);
     return input.Failed() ? LayoutReading::Failed
            : whole        ? LayoutReading::Whole
                           : LayoutReading::Short;
   } catch (const std::bad_alloc&) {
     return LayoutReading::Failed;
   }
-}
-
-gint PtrnFileRead(const gchar* path, const gchar* name) {
-  return ReadPtrnFile(path, name) == LayoutReading::Whole ? 1 : 0;
 }

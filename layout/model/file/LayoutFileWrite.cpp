@@ -6,17 +6,14 @@
 
 #include "Constant.h"
 #include "layout/Guards.h"
-#include "layout/Store.h"
+#include "layout/LayoutFile.h"
 #include "layout/model/file/StoredItem.h"
 #include "layout/model/file/TextWords.h"
-#include "support/BareMemory.h"
 #include "support/FileTools.h"
 #include "support/Program.h"
 #include "support/Text.h"
 
 namespace {
-
-using FileBytes = std::vector<char, BareMemory<char>>;
 
 std::array<std::string_view, 5> TextsOf(const PTRNDATA& item) {
   return {FieldText(item.Text1), FieldText(item.Text2), FieldText(item.Text3),
@@ -37,27 +34,25 @@ using TypeGroups = std::array<TypeGroup, ItemTypeCount + 1>;
 
 // Fills the header's counts and measures the groups. The header counts every item, those of no
 // known type included, which are not written.
-TypeGroups CountItems() {
+TypeGroups CountItems(PTRNHEDR& header, std::span<const PTRNDATA> items) {
   TypeGroups groups;
   std::size_t textSize = 0;
-  PtrnHedr.Version = Version;
-  PtrnHedr.DataCount = GetPtrnCount();
-  PtrnHedr.UndfFlag = 0;
-  for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
-    const PTRNDATA& item = *ViewPtrnData(no);
+  header.DataCount = static_cast<gint>(items.size());
+  header.UndfFlag = 0;
+  for (const PTRNDATA& item : items) {
     std::size_t size = 0;
     for (const std::string_view text : TextsOf(item)) {
       size += text.size() + 1;
     }
     textSize += size;
-    PtrnHedr.UndfFlag += item.UndfFlag != 0;
+    header.UndfFlag += item.UndfFlag != 0;
     if (IsItemType(item.Type)) {
       TypeGroup& group = groups[static_cast<std::size_t>(item.Type)];
       ++group.count;
       group.textSize += size;
     }
   }
-  PtrnHedr.TextSize = static_cast<gint>(textSize);
+  header.TextSize = static_cast<gint>(textSize);
   return groups;
 }
 
@@ -108,14 +103,15 @@ void PutItem(char* bytes, TypeGroup& group, const PTRNDATA& item) {
   group.nextText = static_cast<std::size_t>(to - bytes);
 }
 
-FileBytes LayoutBytes() {
-  TypeGroups groups = CountItems();
+}  // namespace
+
+LayoutBytes EncodeLayout(PTRNHEDR& header, std::span<const PTRNDATA> items) {
+  TypeGroups groups = CountItems(header, items);
   const std::size_t end = PlaceGroups(groups);
   const std::size_t recordsEnd = groups[static_cast<std::size_t>(PtrnTable[0])].nextText;
-  FileBytes bytes(recordsEnd + static_cast<std::size_t>(PtrnHedr.TextSize));
-  std::memcpy(bytes.data(), &PtrnHedr, sizeof PtrnHedr);
-  for (gint no = 0; no < PtrnHedr.DataCount; ++no) {
-    const PTRNDATA& item = *ViewPtrnData(no);
+  LayoutBytes bytes(recordsEnd + static_cast<std::size_t>(header.TextSize));
+  std::memcpy(bytes.data(), &header, sizeof header);
+  for (const PTRNDATA& item : items) {
     if (IsItemType(item.Type)) {
       PutItem(bytes.data(), groups[static_cast<std::size_t>(item.Type)], item);
     }
@@ -124,21 +120,17 @@ FileBytes LayoutBytes() {
   return bytes;
 }
 
-}  // namespace
-
-bool WritePtrnFile(const gchar* path, const gchar* name) {
+bool WriteLayoutFile(const gchar* path, const gchar* name, PTRNHEDR& header,
+                     std::span<const PTRNDATA> items) {
   // A layout without a name would become a hidden file, one without a folder a file somewhere.
   if (*path == '\0' || *name == '\0') {
     return false;
   }
   try {
-    const FileBytes bytes = LayoutBytes();
+    header.Version = Version;
+    const LayoutBytes bytes = EncodeLayout(header, items);
     return ReplaceFile(JoinPath(path, name, "ptn"), {bytes.data(), bytes.size()});
   } catch (const std::bad_alloc&) {
     return false;
   }
-}
-
-void PtrnFileWrite(const gchar* path, const gchar* name) {
-  WritePtrnFile(path, name);
 }

@@ -5,17 +5,16 @@
 #include <cerrno>
 #include <cstring>
 
+#include "layout/LayoutFile.h"
 #include "layout/model/file/StoredItem.h"
 #include "layout/model/file/TextWords.h"
 #include "support/Text.h"
 
 namespace {
 
-constexpr std::size_t TextLimit = 100;
-constexpr std::size_t NameLimit = 80;
-constexpr std::size_t CodeLimit = 20;
 // The most bytes that the texts of one item take, terminators included.
-constexpr std::size_t TextsLimit = 3 * (TextLimit + 1) + (NameLimit + 1) + (CodeLimit + 1);
+constexpr std::size_t TextsLimit =
+    3 * (TextLimit::Text + 1) + (TextLimit::Name + 1) + (TextLimit::Code + 1);
 
 static_assert(TextsLimit + sizeof(TextWord) <= FilePieces::MostAhead);
 
@@ -65,9 +64,16 @@ LayoutInput::LayoutInput(const std::string& path) {
   if (!file || fstat(file.Get(), &status) != 0) {
     failed_ = !IsRefusal(errno);
   } else if (S_ISREG(status.st_mode)) {
-    file_ = std::move(file);
-    size_ = status.st_size;
+    file_ = FileSource(std::move(file), status.st_size);
   }
+}
+
+std::optional<gint64> LayoutFileSize(const PTRNHEDR& header) {
+  if (header.DataCount < 0 || header.TextSize < 0) {
+    return std::nullopt;
+  }
+  return gint64{sizeof(PTRNHEDR)} + gint64{header.DataCount} * gint64{sizeof(PTRNFILE)} +
+         header.TextSize;
 }
 
 bool LayoutInput::ReadHeader(PTRNHEDR& header) {
@@ -81,12 +87,13 @@ bool LayoutInput::ReadHeader(PTRNHEDR& header) {
   constexpr gint64 start = sizeof(PTRNHEDR);
   constexpr gint64 record = sizeof(PTRNFILE);
   const gint64 wanted = read.DataCount;
-  const gint64 held = std::clamp<gint64>((size_ - start) / record, 0, std::max<gint64>(wanted, 0));
-  const gint64 textStart = start + record * held;
+  const gint64 held =
+      std::clamp<gint64>((file_.Size() - start) / record, 0, std::max<gint64>(wanted, 0));
+  const std::optional<gint64> whole = LayoutFileSize(read);
   recordsHeld_ = static_cast<gint>(held);
-  holdsTexts_ = held == wanted && read.TextSize >= 0 && read.TextSize <= size_ - textStart;
+  holdsTexts_ = whole && *whole <= file_.Size();
   records_.Begin(file_, start, record * held);
-  texts_.Begin(file_, textStart, holdsTexts_ ? read.TextSize : 0);
+  texts_.Begin(file_, start + record * held, holdsTexts_ ? read.TextSize : 0);
   return true;
 }
 
@@ -99,10 +106,10 @@ bool LayoutInput::NextItem(PTRNDATA& item) {
 void LayoutInput::TakeTexts(PTRNDATA& item) {
   const char* const begin = texts_.Ahead(TextsLimit + sizeof(TextWord));
   const char* from = begin;
-  from = TakeText(item.Text1, from, TextLimit);
-  from = TakeText(item.Text2, from, TextLimit);
-  from = TakeText(item.Text3, from, TextLimit);
-  from = TakeText(item.ID_Name, from, NameLimit);
-  from = TakeText(item.ID_Code, from, CodeLimit);
+  from = TakeText(item.Text1, from, TextLimit::Text);
+  from = TakeText(item.Text2, from, TextLimit::Text);
+  from = TakeText(item.Text3, from, TextLimit::Text);
+  from = TakeText(item.ID_Name, from, TextLimit::Name);
+  from = TakeText(item.ID_Code, from, TextLimit::Code);
   texts_.Skip(static_cast<std::size_t>(from - begin));
 }

@@ -7,17 +7,19 @@
 
 #include "layout/Records.h"
 #include "layout/model/file/FilePieces.h"
-#include "support/FileHandle.h"
+#include "layout/model/file/FileSource.h"
 
 class LayoutInput {
  public:
   // Opens a regular file; anything else (a folder, a pipe) counts as not open.
   explicit LayoutInput(const std::string& path);
+  // Reads from the bytes of a file, which must stay meanwhile.
+  explicit LayoutInput(std::string_view bytes) : file_(bytes) {}
 
   // True when the system could not deliver what is there; a file that is missing, forbidden or no
   // regular one is merely not open.
   bool Failed() const { return failed_ || records_.Failed() || texts_.Failed(); }
-  bool IsOpen() const { return static_cast<bool>(file_); }
+  bool IsOpen() const { return file_.IsOpen(); }
   // The header, untouched, and goes to the first record and its texts. False when the file ends
   // before; what follows here is not for such a file.
   bool ReadHeader(PTRNHEDR& header);
@@ -34,9 +36,8 @@ class LayoutInput {
  private:
   void TakeTexts(PTRNDATA& item);
 
-  FileHandle file_;
+  FileSource file_;
   bool failed_ = false;
-  gint64 size_ = 0;
   gint recordsHeld_ = 0;
   bool holdsTexts_ = false;
   FilePieces records_;

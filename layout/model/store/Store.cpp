@@ -1,16 +1,10 @@
 #include "layout/Store.h"
 
-#include <algorithm>
-#include <cstring>
 #include <vector>
-
-#include "support/BareMemory.h"
 
 namespace {
 
 constexpr std::size_t FirstCapacity = 100;
-
-using ItemArray = std::vector<PTRNDATA, BareMemory<PTRNDATA>>;
 
 ItemArray PtrnArray;
 
@@ -53,26 +47,6 @@ void AddPtrnData(const PTRNDATA* in) {
   PtrnArray.push_back(*in);
 }
 
-PTRNDATA* AddEmptyPtrnData(gint count) {
-  const std::size_t before = PtrnArray.size();
-  PtrnArray.resize(before + static_cast<std::size_t>(count));
-  PTRNDATA* first = PtrnArray.data() + before;
-  std::memset(first, 0, static_cast<std::size_t>(count) * sizeof *first);
-  return first;
-}
-
-void DropFirstPtrnData(gint count) {
-  PtrnArray.erase(PtrnArray.begin(), PtrnArray.begin() + std::min(count, GetPtrnCount()));
-}
-
-void DropLastPtrnData(gint count) {
-  PtrnArray.resize(PtrnArray.size() - std::min(PtrnArray.size(), static_cast<std::size_t>(count)));
-}
-
-void MakeRoomForPtrnData(gint count) {
-  PtrnArray.reserve(PtrnArray.size() + static_cast<std::size_t>(count));
-}
-
 void DelPtrnData(gint no) {
   if (IsStored(no)) {
     PtrnArray.erase(PtrnArray.begin() + no);
@@ -86,4 +60,16 @@ gint DelPtrnDataIf(bool (*chosen)(const PTRNDATA* item)) {
 
 const PTRNDATA* ViewPtrnData(gint no) {
   return IsStored(no) ? &PtrnArray[static_cast<std::size_t>(no)] : nullptr;
+}
+
+std::span<const PTRNDATA> ViewAllPtrnData() {
+  return PtrnArray;
+}
+
+std::span<PTRNDATA> ReachAllPtrnData() {
+  return PtrnArray;
+}
+
+void SwapPtrnData(ItemArray& items) {
+  PtrnArray.swap(items);
 }
