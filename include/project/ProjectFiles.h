@@ -18,7 +18,7 @@ void ProjFileCopy1(const gchar* path);
 // Copies project folder and program folder when they were moved.
 void ProjFileCopy2(const gchar* path1, const gchar* path2);
 void ProjFileCopy3(const gchar* path1, const gchar* path2);
-// Pushes the project's common look into every layout file of the folder. Only while none is open.
+// Pushes the project's common look into every layout file of the folder.
 void ProjFileRenew(const gchar* path);
 void PtrnFileRenew(const gchar* path, const gchar* name);
 // Records the project as the current one and in the list of known projects.

@@ -8,15 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "layout/Records.h"
+#include "layout/Layout.h"
 #include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
-// A layout as its file holds it, items in store order.
-struct CheckedLayout {
+// A layout of the project.
+struct CheckedLayout : Layout {
   std::string Name;  // as on disk, without ".ptn"
-  PTRNHEDR Header{};
-  std::vector<PTRNDATA> Items;
   gint Dropped = 0;  // records of no known type
 };
 
@@ -71,8 +69,7 @@ std::vector<Finding> CheckProject(const CheckedProject& project);
 // The rule whose findings make generated sources that do not compile.
 const CheckRule& SourceNameRule();
 
-// The open project's files, layouts in the order of their names. Uses the layout store and leaves
-// it and the open layout's header empty.
+// The open project's files, layouts in the order of their names.
 CheckedProject LoadCheckedProject();
 // The open project's fonts and pictures. Measuring changes the language shown; the palette and
 // fonts must have been set up (InitDrawData).

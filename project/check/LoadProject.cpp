@@ -1,9 +1,8 @@
 // The open project's files as the rules take them.
 #include <algorithm>
 
+#include "layout/LayoutFile.h"
 #include "layout/Registry.h"
-#include "layout/Store.h"
-#include "layout/model/file/RecordFile.h"
 #include "project/check/Check.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"
@@ -15,17 +14,9 @@ namespace {
 CheckedLayout LoadLayout(const std::string& name) {
   CheckedLayout layout;
   layout.Name = name;
-  PtrnHedr = PTRNHEDR{};
-  IntPtrnData();
   // The result tells a layout without items from others; both are checked.
-  PtrnFileRead(ProjPath, name.c_str());
-  layout.Header = PtrnHedr;
-  const gint count = GetPtrnCount();
-  layout.Items.reserve(static_cast<std::size_t>(count));
-  for (gint no = 0; no < count; ++no) layout.Items.push_back(*ViewPtrnData(no));
-  layout.Dropped = PtrnHedr.DataCount - count;
-  ExtPtrnData();
-  PtrnHedr = PTRNHEDR{};
+  ReadLayoutFile(ProjPath, name.c_str(), layout);
+  layout.Dropped = layout.Header.DataCount - static_cast<gint>(layout.Items.size());
   return layout;
 }
 

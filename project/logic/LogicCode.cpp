@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "layout/LayoutFile.h"
 #include "layout/Registry.h"
-#include "layout/Store.h"
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
 #include "project/model/LayoutNames.h"
@@ -31,16 +31,12 @@ void CollectCode(CodeNumbers& codes, const PTRNDATA& item) {
 }
 
 // False when the layout is there and the system could not deliver it whole.
-bool CollectLayout(CodeNumbers& codes, const std::string& layout) {
-  PtrnHedr = PTRNHEDR{};
-  IntPtrnData();
-  const LayoutReading reading = ReadPtrnFile(ProjPath, layout.c_str());
-  const gint count = GetPtrnCount();
-  for (gint no = 0; no < count; ++no) {
-    CollectCode(codes, *ViewPtrnData(no));
+bool CollectLayout(CodeNumbers& codes, const std::string& name) {
+  Layout layout;
+  const LayoutReading reading = ReadLayoutFile(ProjPath, name.c_str(), layout);
+  for (const PTRNDATA& item : layout.Items) {
+    CollectCode(codes, item);
   }
-  ExtPtrnData();
-  PtrnHedr = PTRNHEDR{};
   return reading != LayoutReading::Failed;
 }
 
@@ -51,8 +47,8 @@ std::optional<CodeNumbers> CollectProject() {
     return std::nullopt;
   }
   CodeNumbers codes;
-  for (const std::string& layout : *layouts) {
-    if (!CollectLayout(codes, layout)) {
+  for (const std::string& name : *layouts) {
+    if (!CollectLayout(codes, name)) {
       return std::nullopt;
     }
   }
@@ -115,6 +111,6 @@ void LogicDataEdit1() {
       WriteFlagArea(slots);
     }
   } catch (const std::bad_alloc&) {
-    ExtPtrnData();
+    return;  // the registry stays as it is
   }
 }

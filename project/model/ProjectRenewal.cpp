@@ -1,5 +1,5 @@
 #include "layout/ItemSlots.h"
-#include "layout/Store.h"
+#include "layout/LayoutFile.h"
 #include "layout/model/store/ProjectLook.h"
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
@@ -27,15 +27,12 @@ void PtrnFileRenew(const gchar* path, const gchar* name) {
   if (!KeepDamagedPtrnFile(path, name)) {
     return;
   }
-  PtrnHedr = PTRNHEDR{};
-  IntPtrnData();
-  const LayoutReading reading = ReadPtrnFile(path, name);
-  if (reading != LayoutReading::Failed && !PtrnHedr.Parm1[HedrSlot::KeepAsIs]) {
-    CopyLook(PtrnHedr);
-    PtrnFileWrite(path, name);
+  Layout layout;
+  const LayoutReading reading = ReadLayoutFile(path, name, layout);
+  if (reading != LayoutReading::Failed && !layout.Header.Parm1[HedrSlot::KeepAsIs]) {
+    CopyLook(layout.Header);
+    WriteLayoutFile(path, name, layout.Header, layout.Items);
   }
-  ExtPtrnData();
-  PtrnHedr = PTRNHEDR{};
 }
 
 void ProjFileRenew(const gchar* path) {

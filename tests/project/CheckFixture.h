@@ -96,7 +96,7 @@ inline CheckedProject PlainProject() {
 
 inline CheckedProject ProjectWith(const std::vector<PTRNDATA>& items) {
   CheckedProject project = PlainProject();
-  project.Layouts[0].Items = items;
+  project.Layouts[0].Items.assign(items.begin(), items.end());
   return project;
 }
 
