@@ -4,10 +4,11 @@
 
 #include "project/ProjectFiles.h"
 #include "project/model/LayoutNames.h"
+#include "project/model/ProjectTexts.h"
+#include "support/RecordBytes.h"
 #include "support/Text.h"
 #include "tools/InputFile.h"
 #include "tools/Report.h"
-#include "tools/json/ProjectFile.h"
 
 namespace {
 
@@ -17,20 +18,6 @@ std::string FullPath(const std::string& path) {
   const std::unique_ptr<gchar, decltype(&g_free)> full(
       g_canonicalize_filename(path.c_str(), nullptr), g_free);
   return full.get();
-}
-
-template <std::size_t Size>
-void EndField(gchar (&field)[Size]) {
-  CopyText(field, std::string(FieldText(field)));
-}
-
-// The record's texts may lack terminators.
-PROJDATA EndTexts(PROJDATA data) {
-  EndField(data.ProgPath);
-  EndField(data.LogoName);
-  EndField(data.PtrnStart);
-  EndField(data.PtrnStop);
-  return data;
 }
 
 }  // namespace
@@ -43,13 +30,13 @@ bool OpenProject(const std::string& file) {
   if (!input.Bytes) return Refuse(file, input.Error);
   const std::string name(base.substr(0, base.size() - Suffix.size()));
   const std::string folder = FolderName(path);
-  const auto record = DecodeProject(*input.Bytes);
-  if (!record) return Refuse(file, "not a whole project file");
+  PROJFILE record;
+  if (!FillRecords(&record, 1, *input.Bytes)) return Refuse(file, "not a whole project file");
   // The bitmap folder is the longest path made of the project's.
   if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath))
     return Refuse(file, "its path is longer than the program can hold");
   EnterProject(folder, name);
-  ProjData = EndTexts(record->Data);
+  ProjData = CleanTexts(record.Data);
   return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
+#include "project/model/ProjectTexts.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Program.h"
@@ -18,14 +19,6 @@ void CleanField(gchar (&field)[Size]) {
   std::memset(field + length, 0, Size - length);
 }
 
-PROJDATA CleanTexts(PROJDATA data) {
-  CleanField(data.ProgPath);
-  CleanField(data.LogoName);
-  CleanField(data.PtrnStart);
-  CleanField(data.PtrnStop);
-  return data;
-}
-
 template <std::size_t Size>
 void ClearUnlessLayout(gchar (&layout)[Size], const gchar* path) {
   if (IsMissing(JoinPath(path, FieldText(layout), "ptn"))) {
@@ -34,6 +27,14 @@ void ClearUnlessLayout(gchar (&layout)[Size], const gchar* path) {
 }
 
 }  // namespace
+
+PROJDATA CleanTexts(PROJDATA data) {
+  CleanField(data.ProgPath);
+  CleanField(data.LogoName);
+  CleanField(data.PtrnStart);
+  CleanField(data.PtrnStop);
+  return data;
+}
 
 gint ProjFileRead(const gchar* path, const gchar* name) {
   PROJFILE file;

@@ -1,10 +1,8 @@
-#include <cstring>
-
 #include "project/ProjectRecord.h"
 #include "support/Program.h"
+#include "support/RecordBytes.h"
 #include "support/Text.h"
 #include "tools/json/Kinds.h"
-#include "tools/json/ProjectFile.h"
 #include "tools/json/SourceReader.h"
 
 namespace {
@@ -23,18 +21,11 @@ enum : std::size_t {
 
 }  // namespace
 
-std::optional<PROJFILE> DecodeProject(std::string_view bytes) {
-  PROJFILE file;
-  if (bytes.size() < sizeof(file)) return std::nullopt;
-  std::memcpy(&file, bytes.data(), sizeof(file));
-  return file;
-}
-
 Json ShowProject(std::string_view bytes) {
-  const auto file = DecodeProject(bytes);
-  if (!file) throw SourceError("not a whole project file");
-  const PROJDATA& data = file->Data;
-  return {{"Version", gint{file->Version}},
+  PROJFILE file;
+  if (!FillRecords(&file, 1, bytes)) throw SourceError("not a whole project file");
+  const PROJDATA& data = file.Data;
+  return {{"Version", gint{file.Version}},
           {"Parm1", NumbersOf<20>(data.Parm1)},
           {"Parm2", NumbersOf<30>(data.Parm2)},
           {"Parm3", NumbersOf<20>(data.Parm3)},
@@ -60,5 +51,5 @@ std::string BuildProject(const JsonSource& source) {
   reader.EucInto("PtrnStart", NameLimit, data.PtrnStart);
   reader.EucInto("PtrnStop", NameLimit, data.PtrnStop);
   reader.Finish();
-  return std::string(reinterpret_cast<const char*>(&file), sizeof(file));
+  return std::string(BytesOfRecords(&file, 1));
 }

@@ -1,9 +1,9 @@
 // Palette and marks.
 #include <array>
-#include <cstring>
 #include <set>
 #include <vector>
 
+#include "support/RecordBytes.h"
 #include "support/Resource.h"
 #include "tools/json/Kinds.h"
 #include "tools/json/SourceReader.h"
@@ -16,14 +16,13 @@ using Marks = std::vector<MARKDATA>;
 // A table of fixed size, as its file holds it.
 template <class Table>
 void Decode(std::string_view bytes, Table& table, const char* kind) {
-  const std::size_t size = table.size() * sizeof(table[0]);
-  if (bytes.size() < size) throw SourceError(std::string("not a whole ") + kind);
-  std::memcpy(table.data(), bytes.data(), size);
+  if (!FillRecords(table.data(), table.size(), bytes))
+    throw SourceError(std::string("not a whole ") + kind);
 }
 
 template <class Table>
 std::string Encode(const Table& table) {
-  return {reinterpret_cast<const char*>(table.data()), table.size() * sizeof(table[0])};
+  return std::string(BytesOfRecords(table.data(), table.size()));
 }
 
 std::string HexOf(const MARKDATA& mark) {

@@ -1,5 +1,5 @@
 #include "layout/Registry.h"
-#include "layout/model/file/RecordFile.h"
+#include "layout/model/registry/RecordFile.h"
 #include "project/ProjectRecord.h"
 
 namespace {

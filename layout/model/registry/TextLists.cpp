@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "layout/Registry.h"
-#include "layout/model/file/RecordFile.h"
+#include "layout/model/registry/RecordFile.h"
 #include "project/ProjectRecord.h"
 #include "support/Text.h"
 

@@ -1,7 +1,6 @@
 // Files that are nothing but records of one kind, one after the other, in the project folder.
 #pragma once
 
-#include <cstring>
 #include <new>
 #include <optional>
 #include <string>
@@ -9,21 +8,17 @@
 
 #include "support/FileTools.h"
 #include "support/Files.h"
+#include "support/RecordBytes.h"
 
 // All whole records, none of a missing file; nothing when the file is there but cannot be read.
 // Whoever enters a record in such a file leaves it alone: better no entry than a lost file.
 template <typename Record>
 std::optional<std::vector<Record>> ReadRecords(const gchar* folder, const gchar* name) try {
-  std::vector<Record> records;
   const std::string path = JoinPath(folder, name, "");
-  if (IsMissing(path)) return records;
+  if (IsMissing(path)) return std::vector<Record>();
   const std::optional<std::string> bytes = ReadWholeFile(path, G_MAXINT);
   if (!bytes) return std::nullopt;
-  records.resize(bytes->size() / sizeof(Record));
-  if (!records.empty()) {
-    std::memcpy(records.data(), bytes->data(), records.size() * sizeof(Record));
-  }
-  return records;
+  return RecordsOf<Record>(*bytes);
 } catch (const std::bad_alloc&) {
   return std::nullopt;
 }
@@ -32,6 +27,6 @@ std::optional<std::vector<Record>> ReadRecords(const gchar* folder, const gchar*
 template <typename Record>
 gint WriteRecords(const gchar* folder, const gchar* name, const std::vector<Record>& records) {
   if (*folder == '\0') return 0;
-  return FileWrite(folder, name, "", records.data(),
-                   static_cast<gint>(records.size() * sizeof(Record)), 0);
+  const std::string_view bytes = BytesOfRecords(records.data(), records.size());
+  return FileWrite(folder, name, "", bytes.data(), static_cast<gint>(bytes.size()), 0);
 }
