@@ -1,14 +1,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cstdio>
 #include <vector>
 
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
 #include "project/check/Check.h"
-#include "support/FileTools.h"
+#include "project/logic/Generation.h"
 #include "support/Files.h"
 #include "tools/Commands.h"
 #include "tools/FindingText.h"
@@ -16,30 +15,6 @@
 #include "tools/Report.h"
 
 namespace {
-
-// What changes when a file is written or replaced; all zeros for a missing one.
-using Stamp = std::array<gint64, 5>;
-
-Stamp StampOf(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) != 0) return {};
-  return {static_cast<gint64>(status.st_ino), status.st_size, status.st_mtim.tv_sec,
-          status.st_mtim.tv_nsec, status.st_ctim.tv_nsec};
-}
-
-// A file that generation writes.
-struct Product {
-  std::string Path;
-  bool Always;  // written by every run, not only when it is missing
-  Stamp Before = StampOf(Path);
-};
-
-std::vector<Product> Products() {
-  const std::string program = ProjData.ProgPath;
-  return {{JoinPath(ProjPath, "PtrnCode", ""), true},   {JoinPath(ProjPath, "PtrnFlag", ""), true},
-          {JoinPath(program, "VarnixCode", "h"), true}, {JoinPath(program, ProjName, "h"), false},
-          {JoinPath(program, ProjName, "cpp"), false},  {JoinPath(program, ProjName, "ini"), true}};
-}
 
 bool SetProgramFolder(const std::string& folder) {
   if (folder.size() >= sizeof(ProjData.ProgPath)) return false;
@@ -59,14 +34,12 @@ bool UsableFolder(const std::string& folder) {
   return true;
 }
 
-int ReportProducts(const std::vector<Product>& products) {
+int ReportProducts(const LogicProducts& products) {
   std::string written;
   int result = ExitDone;
-  for (const Product& product : products) {
-    const Stamp now = StampOf(product.Path);
-    if (now != product.Before) written += ShownPath(product.Path) + "\n";
-    if (now == Stamp{} || (product.Always && now == product.Before))
-      result = Fail(product.Path, "cannot be written");
+  for (const LogicProduct& product : products) {
+    if (product.State == ProductState::Written) written += ShownPath(product.Path) + "\n";
+    if (product.State == ProductState::Failed) result = Fail(product.Path, "cannot be written");
   }
   const int printed = Print(written);
   return result == ExitDone ? printed : result;
@@ -90,10 +63,5 @@ int RunGenerate(const GenerateOptions& options) {
   if (ProjData.ProgPath[0] == '\0') return Fail(options.Project, "names no program folder");
   if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath) || !UsableNames())
     return ExitFailed;
-  const std::vector<Product> products = Products();
-  LogicDataEdit1();
-  LogicDataEdit2();
-  LogicDataEdit3();
-  LogicDataEdit4();
-  return ReportProducts(products);
+  return ReportProducts(GenerateLogic());
 }

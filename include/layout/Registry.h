@@ -7,6 +7,9 @@
 
 #include "layout/Records.h"
 
+// The registry's file in the project folder.
+constexpr gchar CodeRegistryName[] = "PtrnCode";
+
 // Enters a code with room for identification number `no`, or widens its entry. Makes the registry
 // with its "SYSTEM" record when it is missing; an empty code enters nothing more.
 void RegstPtrnCode(const gchar* code, gint no);

@@ -2,6 +2,7 @@
 #include "project/LogicGeneration.h"
 #include "project/ProjectCommands.h"
 #include "project/ProjectRecord.h"
+#include "project/logic/Generation.h"
 
 void LogicDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   if (ProjData.ProgPath[0] == '\0') {
@@ -9,8 +10,5 @@ void LogicDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
                    "プロジェクト修正／全般で設定してください", 1);
     return;
   }
-  LogicDataEdit1();
-  LogicDataEdit2();
-  LogicDataEdit3();
-  LogicDataEdit4();
+  GenerateLogic();
 }

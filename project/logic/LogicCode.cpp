@@ -10,11 +10,15 @@
 #include "layout/Registry.h"
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
+#include "project/logic/Generation.h"
 #include "project/model/LayoutNames.h"
+#include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Text.h"
 
 namespace {
+
+constexpr gchar FlagName[] = "PtrnFlag";
 
 // The highest identification number met with each code, in the registry's order.
 using CodeNumbers = std::map<std::string, gint, std::less<>>;
@@ -83,9 +87,30 @@ gint NumberCodes(std::vector<PTRNCODE>& registry) {
   return static_cast<gint>(slots);
 }
 
-void WriteFlagArea(gint slots) {
+bool WriteFlagArea(gint slots) {
   const gchar last = 0;
-  FileWrite(ProjPath, "PtrnFlag", "", &last, 1, slots - 1);
+  return FileWrite(ProjPath, FlagName, "", &last, 1, slots - 1) != 0;
+}
+
+struct WrittenCodes {
+  bool Registry = false;
+  bool Flags = false;
+};
+
+WrittenCodes WriteCodes() try {
+  std::optional<CodeNumbers> codes = CollectProject();
+  if (!codes) {
+    return {};
+  }
+  std::vector<PTRNCODE> registry = NewRegistry(std::move(*codes));
+  const gint slots = NumberCodes(registry);
+  // The flags are as many as the registry numbers.
+  if (WritePtrnCode(registry) == 0) {
+    return {};
+  }
+  return {true, WriteFlagArea(slots)};
+} catch (const std::bad_alloc&) {
+  return {};
 }
 
 }  // namespace
@@ -98,19 +123,12 @@ void SetPtrnCode(const gchar* ptrnfile) {
   }
 }
 
+LogicProducts GenerateCodes() {
+  const WrittenCodes written = WriteCodes();
+  return {{JoinPath(ProjPath, CodeRegistryName, ""), WrittenIf(written.Registry)},
+          {JoinPath(ProjPath, FlagName, ""), WrittenIf(written.Flags)}};
+}
+
 void LogicDataEdit1() {
-  try {
-    std::optional<CodeNumbers> codes = CollectProject();
-    if (!codes) {
-      return;
-    }
-    std::vector<PTRNCODE> registry = NewRegistry(std::move(*codes));
-    const gint slots = NumberCodes(registry);
-    // The flags are as many as the registry numbers.
-    if (WritePtrnCode(registry) != 0) {
-      WriteFlagArea(slots);
-    }
-  } catch (const std::bad_alloc&) {
-    return;  // the registry stays as it is
-  }
+  GenerateCodes();
 }

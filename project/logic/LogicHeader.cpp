@@ -1,12 +1,16 @@
 #include "layout/Registry.h"
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
+#include "project/logic/Generation.h"
 #include "project/logic/LogicSource.h"
 #include "support/FileTools.h"
 
-void LogicDataEdit2() {
+LogicProducts GenerateCodeHeader() {
+  const std::string file = JoinPath(ProjData.ProgPath, "VarnixCode", "h");
   const auto registry = LoadPtrnCode();
-  if (registry) {
-    ReplaceFile(JoinPath(ProjData.ProgPath, "VarnixCode", "h"), CodeHeader(*registry));
-  }
+  return {{file, WrittenIf(registry && ReplaceFile(file, CodeHeader(*registry)))}};
+}
+
+void LogicDataEdit2() {
+  GenerateCodeHeader();
 }

@@ -3,6 +3,7 @@
 
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
+#include "project/logic/Generation.h"
 #include "project/logic/RuntimeProfile.h"
 #include "support/FileTools.h"
 #include "support/ProfileFile.h"
@@ -11,14 +12,19 @@ void InitProjIni(const gchar* path, const gchar* name) {
   ReplaceFile(JoinPath(path, name, "ini"), NewRuntimeProfile());
 }
 
-void LogicDataEdit4() {
+LogicProducts GenerateProfile() {
   const std::string file = JoinPath(ProjData.ProgPath, ProjName, "ini");
   std::optional<std::string> runtime =
       IsMissing(file) ? NewRuntimeProfile() : ReadWholeFile(file, ProfileLimit);
   const std::optional<std::string> designer = LoadProfile(ProfilePath(""));
   if (!runtime || !designer) {
-    return;  // there, but it cannot be read: the runtime profile is left alone
+    // There, but it cannot be read: the runtime profile is left alone.
+    return {{file, ProductState::Failed}};
   }
   UpdateRuntimeProfile(*runtime, *designer, ProjData, ProjPath);
-  ReplaceFile(file, *runtime);
+  return {{file, WrittenIf(ReplaceFile(file, *runtime))}};
+}
+
+void LogicDataEdit4() {
+  GenerateProfile();
 }

@@ -4,6 +4,7 @@
 
 #include "project/LogicGeneration.h"
 #include "project/ProjectRecord.h"
+#include "project/logic/Generation.h"
 #include "project/logic/LogicSource.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"
@@ -15,10 +16,11 @@ std::string ProgramFile(const gchar* ext) {
   return JoinPath(ProjData.ProgPath, ProjName, ext);
 }
 
-void CreateOnce(const gchar* ext, const std::string& text) {
-  if (IsMissing(ProgramFile(ext))) {
-    ReplaceFile(ProgramFile(ext), text);
+ProductState CreateOnce(const gchar* ext, const std::string& text) {
+  if (!IsMissing(ProgramFile(ext))) {
+    return ProductState::Kept;
   }
+  return WrittenIf(ReplaceFile(ProgramFile(ext), text));
 }
 
 // The runtime makes these windows itself.
@@ -29,19 +31,20 @@ bool IsBuiltIn(const std::string& layout) {
 }
 
 // Registers layouts in the source; it is written only when a line was added.
-void RegisterLayouts(const std::vector<std::string>& layouts) {
+ProductState RegisterLayouts(const std::vector<std::string>& layouts) {
   const std::optional<std::string> text = ReadWholeFile(ProgramFile("cpp"));
   if (!text) {
-    return;
+    return ProductState::Failed;
   }
   FactorySource source(*text);
   bool added = false;
   for (const std::string& layout : layouts) {
     added = source.Register(layout) || added;
   }
-  if (added) {
-    ReplaceProtectedFile(ProgramFile("cpp"), source.Text());
+  if (!added) {
+    return ProductState::Kept;
   }
+  return WrittenIf(ReplaceProtectedFile(ProgramFile("cpp"), source.Text()));
 }
 
 }  // namespace
@@ -50,10 +53,16 @@ void SetPtrnName(const gchar* name) {
   RegisterLayouts({name});
 }
 
-void LogicDataEdit3() {
-  CreateOnce("h", ProjectHeader());
-  CreateOnce("cpp", ProjectSource(ProjName));
+LogicProducts GenerateSources() {
+  const ProductState header = CreateOnce("h", ProjectHeader());
+  const ProductState created = CreateOnce("cpp", ProjectSource(ProjName));
   std::vector<std::string> layouts = LayoutNames(ProjPath);
   std::erase_if(layouts, IsBuiltIn);
-  RegisterLayouts(layouts);
+  const ProductState registered = RegisterLayouts(layouts);
+  return {{ProgramFile("h"), header},
+          {ProgramFile("cpp"), registered == ProductState::Kept ? created : registered}};
+}
+
+void LogicDataEdit3() {
+  GenerateSources();
 }

@@ -2,14 +2,8 @@
 #include "layout/model/registry/RecordFile.h"
 #include "project/ProjectRecord.h"
 
-namespace {
-
-constexpr gchar RegistryName[] = "PtrnCode";
-
-}  // namespace
-
 std::optional<std::vector<PTRNCODE>> LoadPtrnCode() {
-  auto registry = ReadRecords<PTRNCODE>(ProjPath, RegistryName);
+  auto registry = ReadRecords<PTRNCODE>(ProjPath, CodeRegistryName);
   if (registry) {
     for (PTRNCODE& record : *registry) {
       record.ID_Code[sizeof record.ID_Code - 1] = '\0';
@@ -23,7 +17,7 @@ std::vector<PTRNCODE> ReadPtrnCode() {
 }
 
 gint WritePtrnCode(const std::vector<PTRNCODE>& registry) {
-  return WriteRecords(ProjPath, RegistryName, registry);
+  return WriteRecords(ProjPath, CodeRegistryName, registry);
 }
 
 void RegstPtrnCode(const gchar* code, gint no) {
