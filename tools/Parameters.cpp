@@ -63,5 +63,8 @@ int RunParameters() {
       Row("header `Parm2`", Listed(ViewParameters(), IsAny)) +
       Row("all items", Listed(ItemParameters(TypeFrame), IsCommon)) +
       Row("items placed by two points", Listed(ItemParameters(TypeFrame), IsOfSecondPoint)) +
-      TypeRows());
+      TypeRows() + Row("project `Parm1`", Listed(ProjectParameters(), IsAny)) +
+      Row("project `Parm2`", Listed(ParentParameters(), IsAny)) +
+      Row("project `Parm3`", Listed(ChildParameters(), IsAny)) +
+      Row("project `Parm4`", Listed(CommonParameters(), IsAny)));
 }

@@ -42,12 +42,13 @@ constexpr Condition Unless(gint slot) {
   return {slot, false};
 }
 
-// The least value that is accepted, and what is told about a lower one.
+// The values that are accepted, and what is told about others.
 struct Limit {
   gint Least = G_MININT;
   gint Message = NoMessage;     // of ErrorMessage; items alone have numbered messages
   const gchar* Text = nullptr;  // of the others
   Condition Counts = {};
+  gint Most = G_MAXINT;
 };
 
 struct Parameter {
@@ -72,6 +73,12 @@ std::span<const Parameter> ItemParameters(gint type);
 // Those of PTRNHEDR.Parm1 and Parm2.
 std::span<const Parameter> HeaderParameters();
 std::span<const Parameter> ViewParameters();
+// Those of PROJDATA.Parm1 to Parm4: of the project itself, the look of its parent windows and of
+// its child windows, and what all its layouts have in common.
+std::span<const Parameter> ProjectParameters();
+std::span<const Parameter> ParentParameters();
+std::span<const Parameter> ChildParameters();
+std::span<const Parameter> CommonParameters();
 
 // The parameter that a slot belongs to; null when none has it.
 const Parameter* FindParameter(std::span<const Parameter> parameters, gint slot);

@@ -1,7 +1,7 @@
 #include "project/dialog/ProjectSettingsPages.h"
 
-#include "Constant.h"
 #include "dialogs/kit/Rows.h"
+#include "layout/Parameters.h"
 #include "layout/ProjectSlots.h"
 #include "project/ProjectRecord.h"
 #include "support/Resource.h"
@@ -10,17 +10,37 @@ using namespace Rows;
 
 namespace {
 
-gint* Parm1(gint slot) {
-  return IntAt(&EditData, offsetof(PROJDATA, Parm1) + static_cast<gsize>(slot) * sizeof(gint));
+// One of the lists of numbers of the settings, with the rows of its parameters.
+struct NumberList {
+  gsize Offset;
+  std::span<const Parameter> (*Parameters)();
+
+  gint* At(gint slot) const {
+    return IntAt(&EditData, Offset + static_cast<gsize>(slot) * sizeof(gint));
+  }
+  const Parameter& Of(gint slot) const { return *FindParameter(Parameters(), slot); }
+};
+constexpr NumberList General{offsetof(PROJDATA, Parm1), ProjectParameters};
+constexpr NumberList Parent{offsetof(PROJDATA, Parm2), ParentParameters};
+constexpr NumberList Child{offsetof(PROJDATA, Parm3), ChildParameters};
+constexpr NumberList Common{offsetof(PROJDATA, Parm4), CommonParameters};
+
+// Rows with the ranges, the texts of the values and the labels of their parameters.
+DLG_STRING Label(gint line, const NumberList& list, gint slot) {
+  return Rows::Label(line, list.Of(slot).Label);
 }
-gint* Parm2(gint slot) {
-  return IntAt(&EditData, offsetof(PROJDATA, Parm2) + static_cast<gsize>(slot) * sizeof(gint));
+DLG_NUMRBOX Number(gint line, gint culm, const NumberList& list, gint slot, const gchar* caption) {
+  const ValueRange& range = list.Of(slot).Range;
+  return Rows::Number(line, culm, list.At(slot), range.Least, range.Most, caption);
 }
-gint* Parm3(gint slot) {
-  return IntAt(&EditData, offsetof(PROJDATA, Parm3) + static_cast<gsize>(slot) * sizeof(gint));
+DLG_COMBOBOX Choice(gint line, gint culm1, gint culm2, const NumberList& list, gint slot) {
+  return Rows::Choice(line, culm1, culm2, list.At(slot), list.Of(slot).Range.Values);
 }
-gint* Parm4(gint slot) {
-  return IntAt(&EditData, offsetof(PROJDATA, Parm4) + static_cast<gsize>(slot) * sizeof(gint));
+DLG_RADIOBUTN Radio(gint line, gint culm, const NumberList& list, gint slot, gint value) {
+  return Rows::Radio(line, culm, list.At(slot), value, list.Of(slot).Range.Values[value]);
+}
+DLG_CHECKBUTN Switch(gint line, gint culm1, gint culm2, const NumberList& list, gint slot) {
+  return Check(line, culm1, culm2, list.At(slot), list.Of(slot).Label);
 }
 
 }  // namespace
@@ -30,87 +50,79 @@ gint* Parm4(gint slot) {
 DLG_STRING ProjPage1_String[] = {Label(0, "プロジェクト名"),
                                  Label(1, "プロジェクト情報格納先フォルダー"),
                                  Label(2, "ロジック情報格納先フォルダー"),
-                                 Label(3, "画面の解像度"),
-                                 Label(4, "多国籍言語対応"),
-                                 Label(5, "表示色切替え"),
+                                 Label(3, General, ProjectSlot::DisplaySize),
+                                 Label(4, General, ProjectSlot::Languages),
+                                 Label(5, General, ProjectSlot::ColourSystems),
                                  EndString};
 DLG_EDITBOX ProjPage1_Edit[] = {Entry(0, 1, 3, EditName, 80, false),
                                 Entry(1, 1, 3, EditPath, 256, true),
                                 Entry(2, 1, 3, EditData.ProgPath, 256, true), EndEditBox};
-DLG_COMBOBOX ProjPage1_Combo[] = {Choice(3, 1, 2, Parm1(ProjectSlot::DisplaySize), DispSizeList),
-                                  EndComboBox};
-DLG_RADIOBUTN ProjPage1_Radio[] = {Radio(4, 1, Parm1(ProjectSlot::Languages), 0, "１ヶ国"),
-                                   Radio(4, 2, Parm1(ProjectSlot::Languages), 1, "２ヶ国"),
-                                   Radio(4, 3, Parm1(ProjectSlot::Languages), 2, "３ヶ国"),
-                                   Radio(5, 1, Parm1(ProjectSlot::ColourSystems), 0, "２系統"),
-                                   Radio(5, 2, Parm1(ProjectSlot::ColourSystems), 1, "４系統"),
+DLG_COMBOBOX ProjPage1_Combo[] = {Choice(3, 1, 2, General, ProjectSlot::DisplaySize), EndComboBox};
+DLG_RADIOBUTN ProjPage1_Radio[] = {Radio(4, 1, General, ProjectSlot::Languages, 0),
+                                   Radio(4, 2, General, ProjectSlot::Languages, 1),
+                                   Radio(4, 3, General, ProjectSlot::Languages, 2),
+                                   Radio(5, 1, General, ProjectSlot::ColourSystems, 0),
+                                   Radio(5, 2, General, ProjectSlot::ColourSystems, 1),
                                    EndRadioButn};
 
 // Parent window.
 
-DLG_STRING ProjPage21_String[] = {Label(2, "タイトル文字フォント"), Label(3, "表示位置"),
-                                  Label(4, "日付・時刻表示形式"), Label(5, "文字フォント"),
-                                  EndString};
-DLG_NUMRBOX ProjPage21_Numr[] = {Number(0, 0, Parm2(ParentSlot::TitleHeight), 0, 99, "高さ"),
-                                 EndNumrBox};
-DLG_COLRDATA ProjPage21_Colr[] = {Colour(0, 1, Parm2(ParentSlot::TitleColour), "前景色"),
-                                  Colour(0, 2, Parm2(ParentSlot::TitleAreaColour), "背景色"),
+DLG_STRING ProjPage21_String[] = {
+    Label(2, Parent, ParentSlot::TitleFont), Label(3, Parent, ParentSlot::TitleCentred),
+    Label(4, Parent, ParentSlot::DateFormat), Label(5, "文字フォント"), EndString};
+DLG_NUMRBOX ProjPage21_Numr[] = {Number(0, 0, Parent, ParentSlot::TitleHeight, "高さ"), EndNumrBox};
+DLG_COLRDATA ProjPage21_Colr[] = {Colour(0, 1, Parent.At(ParentSlot::TitleColour), "前景色"),
+                                  Colour(0, 2, Parent.At(ParentSlot::TitleAreaColour), "背景色"),
                                   EndColrData};
-DLG_CHECKBUTN ProjPage21_Check[] = {
-    Check(1, 0, 0, Parm2(ParentSlot::LogoShown), "ロゴマーク"),
-    Check(6, 0, 0, Parm2(ParentSlot::VersionScreen), "バージョン情報画面"),
-    Check(6, 1, 1, Parm2(ParentSlot::DebugScreen), "デバッグ画面"),
-    Check(6, 2, 3, Parm2(ParentSlot::HardCopyShown), "ハードコピーボタン"), EndCheckButn};
+DLG_CHECKBUTN ProjPage21_Check[] = {Switch(1, 0, 0, Parent, ParentSlot::LogoShown),
+                                    Switch(6, 0, 0, Parent, ParentSlot::VersionScreen),
+                                    Switch(6, 1, 1, Parent, ParentSlot::DebugScreen),
+                                    Switch(6, 2, 3, Parent, ParentSlot::HardCopyShown),
+                                    EndCheckButn};
 DLG_EDITBOX ProjPage21_Edit[] = {Entry(1, 1, 2, EditData.LogoName, 20, true), EndEditBox};
-DLG_COMBOBOX ProjPage21_Combo[] = {Choice(2, 1, 3, Parm2(ParentSlot::TitleFont), FontNameList),
-                                   Choice(4, 1, 3, Parm2(ParentSlot::DateFormat), CalnFomtList),
-                                   Choice(5, 1, 3, Parm2(ParentSlot::DateFont), FontNameList),
+DLG_COMBOBOX ProjPage21_Combo[] = {Choice(2, 1, 3, Parent.At(ParentSlot::TitleFont), FontNameList),
+                                   Choice(4, 1, 3, Parent, ParentSlot::DateFormat),
+                                   Choice(5, 1, 3, Parent.At(ParentSlot::DateFont), FontNameList),
                                    EndComboBox};
-DLG_RADIOBUTN ProjPage21_Radio[] = {Radio(3, 1, Parm2(ParentSlot::TitleCentred), 0, "左端"),
-                                    Radio(3, 2, Parm2(ParentSlot::TitleCentred), 1, "中央"),
-                                    EndRadioButn};
-DLG_COLRDATA ProjPage22_Colr[] = {Colour(0, 0, Parm2(ParentSlot::WorkAreaColour), "背景色"),
+DLG_RADIOBUTN ProjPage21_Radio[] = {Radio(3, 1, Parent, ParentSlot::TitleCentred, 0),
+                                    Radio(3, 2, Parent, ParentSlot::TitleCentred, 1), EndRadioButn};
+DLG_COLRDATA ProjPage22_Colr[] = {Colour(0, 0, Parent.At(ParentSlot::WorkAreaColour), "背景色"),
                                   EndColrData};
-DLG_NUMRBOX ProjPage23_Numr[] = {Number(0, 0, Parm2(ParentSlot::ButtonAreaHeight), 0, 99, "高さ"),
+DLG_NUMRBOX ProjPage23_Numr[] = {Number(0, 0, Parent, ParentSlot::ButtonAreaHeight, "高さ"),
                                  EndNumrBox};
-DLG_COLRDATA ProjPage23_Colr[] = {Colour(0, 1, Parm2(ParentSlot::ButtonAreaColour), "背景色"),
+DLG_COLRDATA ProjPage23_Colr[] = {Colour(0, 1, Parent.At(ParentSlot::ButtonAreaColour), "背景色"),
                                   EndColrData};
 
 // Child window.
 
-DLG_STRING ProjPage31_String[] = {Label(1, "タイトル文字フォント"), Label(2, "表示位置"),
-                                  EndString};
-DLG_NUMRBOX ProjPage31_Numr[] = {Number(0, 0, Parm3(ChildSlot::TitleHeight), 0, 99, "高さ"),
-                                 EndNumrBox};
-DLG_COLRDATA ProjPage31_Colr[] = {Colour(0, 1, Parm3(ChildSlot::TitleColour), "前景色"),
-                                  Colour(0, 2, Parm3(ChildSlot::TitleAreaColour), "背景色"),
+DLG_STRING ProjPage31_String[] = {Label(1, Child, ChildSlot::TitleFont),
+                                  Label(2, Child, ChildSlot::TitleCentred), EndString};
+DLG_NUMRBOX ProjPage31_Numr[] = {Number(0, 0, Child, ChildSlot::TitleHeight, "高さ"), EndNumrBox};
+DLG_COLRDATA ProjPage31_Colr[] = {Colour(0, 1, Child.At(ChildSlot::TitleColour), "前景色"),
+                                  Colour(0, 2, Child.At(ChildSlot::TitleAreaColour), "背景色"),
                                   EndColrData};
-DLG_COMBOBOX ProjPage31_Combo[] = {Choice(1, 1, 3, Parm3(ChildSlot::TitleFont), FontNameList),
+DLG_COMBOBOX ProjPage31_Combo[] = {Choice(1, 1, 3, Child.At(ChildSlot::TitleFont), FontNameList),
                                    EndComboBox};
-DLG_RADIOBUTN ProjPage31_Radio[] = {Radio(2, 1, Parm3(ChildSlot::TitleCentred), 0, "左端"),
-                                    Radio(2, 2, Parm3(ChildSlot::TitleCentred), 1, "中央"),
-                                    EndRadioButn};
-DLG_COLRDATA ProjPage32_Colr[] = {Colour(0, 0, Parm3(ChildSlot::WorkAreaColour), "背景色"),
+DLG_RADIOBUTN ProjPage31_Radio[] = {Radio(2, 1, Child, ChildSlot::TitleCentred, 0),
+                                    Radio(2, 2, Child, ChildSlot::TitleCentred, 1), EndRadioButn};
+DLG_COLRDATA ProjPage32_Colr[] = {Colour(0, 0, Child.At(ChildSlot::WorkAreaColour), "背景色"),
                                   EndColrData};
-DLG_NUMRBOX ProjPage33_Numr[] = {Number(0, 0, Parm3(ChildSlot::FrameWidth), 0, 99, "枠幅"),
-                                 EndNumrBox};
-DLG_COLRDATA ProjPage33_Colr[] = {Colour(0, 1, Parm3(ChildSlot::FrameColour), "枠色  "),
+DLG_NUMRBOX ProjPage33_Numr[] = {Number(0, 0, Child, ChildSlot::FrameWidth, "枠幅"), EndNumrBox};
+DLG_COLRDATA ProjPage33_Colr[] = {Colour(0, 1, Child.At(ChildSlot::FrameColour), "枠色  "),
                                   EndColrData};
 
 // Other.
 
-DLG_RADIOBUTN ProjPage41_Radio[] = {Radio(0, 0, Parm4(CommonSlot::MouseCursor), 0, "矢印"),
-                                    Radio(0, 1, Parm4(CommonSlot::MouseCursor), 1, "十字"),
-                                    Radio(0, 2, Parm4(CommonSlot::MouseCursor), 2, "砂時計"),
-                                    EndRadioButn};
-DLG_COLRDATA ProjPage42_Colr[] = {Colour(0, 0, Parm4(CommonSlot::KeyColour), "前景色"),
-                                  Colour(0, 1, Parm4(CommonSlot::KeyBackColour), "背景色"),
+DLG_RADIOBUTN ProjPage41_Radio[] = {Radio(0, 0, Common, CommonSlot::MouseCursor, 0),
+                                    Radio(0, 1, Common, CommonSlot::MouseCursor, 1),
+                                    Radio(0, 2, Common, CommonSlot::MouseCursor, 2), EndRadioButn};
+DLG_COLRDATA ProjPage42_Colr[] = {Colour(0, 0, Common.At(CommonSlot::KeyColour), "前景色"),
+                                  Colour(0, 1, Common.At(CommonSlot::KeyBackColour), "背景色"),
                                   EndColrData};
 DLG_STRING ProjPage43_String[] = {Label(0, "縱"), Label(0, "横", 2), EndString};
-DLG_COMBOBOX ProjPage43_Combo[] = {Choice(0, 1, 1, Parm4(CommonSlot::GridX), GridIntvList),
-                                   Choice(0, 3, 3, Parm4(CommonSlot::GridY), GridIntvList),
-                                   EndComboBox};
-DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Parm4(CommonSlot::GridColour), "表示色"),
+DLG_COMBOBOX ProjPage43_Combo[] = {Choice(0, 1, 1, Common, CommonSlot::GridX),
+                                   Choice(0, 3, 3, Common, CommonSlot::GridY), EndComboBox};
+DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Common.At(CommonSlot::GridColour), "表示色"),
                                   EndColrData};
 
 std::span<const ProjectPage> ProjectPages() {
@@ -140,7 +152,7 @@ std::span<const ProjectPage> ProjectPages() {
       {"作業領域", {.Colr = ProjPage32_Colr}},
       {"外枠", {.Numr = ProjPage33_Numr, .Colr = ProjPage33_Colr}}};
   static const ProjectFrame other[] = {
-      {"マウスカーソル形状", {.Radio = ProjPage41_Radio}},
+      {Common.Of(CommonSlot::MouseCursor).Label, {.Radio = ProjPage41_Radio}},
       {"キー入力時", {.Colr = ProjPage42_Colr}},
       {"方眼表示",
        {.String = ProjPage43_String, .Combo = ProjPage43_Combo, .Colr = ProjPage43_Colr}}};

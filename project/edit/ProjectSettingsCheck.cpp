@@ -1,4 +1,7 @@
 // Checking the project settings.
+#include <cstring>
+
+#include "layout/Parameters.h"
 #include "layout/ProjectSlots.h"
 #include "layout/Screen.h"
 #include "project/ProjectCommands.h"
@@ -6,30 +9,39 @@
 
 GtkWidget* EditProj = nullptr;
 
+namespace {
+
+const gchar* MissingText() {
+  if (EditName[0] == '\0') return "プロジェクト名が設定されていません。";
+  if (EditPath[0] == '\0') return "プロジェクトデータを格納するフォルダーが設定されていません。";
+  if (EditData.ProgPath[0] == '\0') {
+    return "ロジックデータを格納するフォルダーが設定されていません。";
+  }
+  if (EditData.Parm2[ParentSlot::LogoShown] != 0 && EditData.LogoName[0] == '\0') {
+    return "ロゴマーク名称が設定されていません。";
+  }
+  return nullptr;
+}
+
+template <std::size_t Size>
+const gchar* BrokenLimitText(std::span<const Parameter> parameters, const gint (&list)[Size]) {
+  std::array<gint, Size> values;
+  std::memcpy(values.data(), list, sizeof values);
+  const Limit* limit = FindBrokenLimit(parameters, values).By;
+  return limit == nullptr ? nullptr : limit->Text;
+}
+
+const gchar* FirstError() {
+  if (const gchar* text = MissingText()) return text;
+  if (const gchar* text = BrokenLimitText(ParentParameters(), EditData.Parm2)) return text;
+  return BrokenLimitText(ChildParameters(), EditData.Parm3);
+}
+
+}  // namespace
+
 gint CheckProjData() {
-  const struct {
-    bool Broken;
-    const gchar* Message;
-  } rules[] = {
-      {EditName[0] == '\0', "プロジェクト名が設定されていません。"},
-      {EditPath[0] == '\0', "プロジェクトデータを格納するフォルダーが設定されていません。"},
-      {EditData.ProgPath[0] == '\0', "ロジックデータを格納するフォルダーが設定されていません。"},
-      {EditData.Parm2[ParentSlot::LogoShown] != 0 && EditData.LogoName[0] == '\0',
-       "ロゴマーク名称が設定されていません。"},
-      {EditData.Parm2[ParentSlot::TitleHeight] < 0 || EditData.Parm2[ParentSlot::TitleHeight] > 99,
-       "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm2[ParentSlot::ButtonAreaHeight] < 0 ||
-           EditData.Parm2[ParentSlot::ButtonAreaHeight] > 99,
-       "ボタン領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[ChildSlot::TitleHeight] < 0 || EditData.Parm3[ChildSlot::TitleHeight] > 99,
-       "タイトル領域の高さ (設定範囲 0 〜 99)"},
-      {EditData.Parm3[ChildSlot::FrameWidth] < 0 || EditData.Parm3[ChildSlot::FrameWidth] > 99,
-       "外形枠幅 (設定範囲 0 〜 99)"},
-  };
-  for (const auto& rule : rules)
-    if (rule.Broken) {
-      Dlg_MessageBox(EditProj, "入力エラー", rule.Message, "", 1);
-      return 0;
-    }
-  return 1;
+  const gchar* message = FirstError();
+  if (message == nullptr) return 1;
+  Dlg_MessageBox(EditProj, "入力エラー", message, "", 1);
+  return 0;
 }

@@ -4,39 +4,18 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
-#include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 
 #include "Constant.h"
 #include "layout/ItemSlots.h"
+#include "tests/layout/SlotConstants.h"
 
 using testing::IsEmpty;
 using testing::IsSupersetOf;
 
 namespace {
-
-// The constants of include/layout/ItemSlots.h as they are written there: group -> name -> slot.
-using SlotConstants = std::map<std::string, std::map<std::string, gint>>;
-
-SlotConstants WrittenConstants() {
-  std::ostringstream text;
-  text << std::ifstream(TEST_SOURCE_DIR "/include/layout/ItemSlots.h").rdbuf();
-  const std::string source =
-      std::regex_replace(text.str(), std::regex(R"(//[^\n]*|/\*.*?\*/)"), "");
-  const std::regex group(R"(namespace (\w+) \{\s*enum \{([^}]*)\})");
-  const std::regex constant(R"((\w+) = (\d+))");
-  SlotConstants constants;
-  for (std::sregex_iterator at(source.begin(), source.end(), group), end; at != end; ++at) {
-    const std::string body = (*at)[2];
-    for (std::sregex_iterator one(body.begin(), body.end(), constant); one != end; ++one)
-      constants[(*at)[1]][(*one)[1]] = std::stoi((*one)[2]);
-  }
-  return constants;
-}
 
 // Which types each group of constants is for.
 const std::map<std::string, std::vector<gint>> TypesOfGroup = {
@@ -89,7 +68,7 @@ TEST(ParametersTest, NamesOfATableDiffer) {
 }
 
 TEST(ParametersTest, EveryConstantHasARowAndEveryRowAConstant) {
-  SlotConstants constants = WrittenConstants();
+  SlotConstants constants = WrittenConstants("include/layout/ItemSlots.h");
   ASSERT_EQ(constants.size(), TypesOfGroup.size() + 2);
   using Names = std::set<std::pair<std::string, gint>>;
   const auto named = [&constants](const std::string& group) {

@@ -41,10 +41,10 @@ std::string BuildProject(const JsonSource& source) {
   PROJFILE file{};
   PROJDATA& data = file.Data;
   file.Version = reader.Number("Version", Version);
-  reader.ParmInto<20>("Parm1", {}, data.Parm1);
-  reader.ParmInto<30>("Parm2", {}, data.Parm2);
-  reader.ParmInto<20>("Parm3", {}, data.Parm3);
-  reader.ParmInto<20>("Parm4", {}, data.Parm4);
+  reader.ParmInto<20>("Parm1", ProjectParameters(), data.Parm1);
+  reader.ParmInto<30>("Parm2", ParentParameters(), data.Parm2);
+  reader.ParmInto<20>("Parm3", ChildParameters(), data.Parm3);
+  reader.ParmInto<20>("Parm4", CommonParameters(), data.Parm4);
   const std::string path = reader.Bytes("ProgPath", PathLimit);
   path.copy(data.ProgPath, PathLimit);
   reader.EucInto("LogoName", PictureLimit, data.LogoName);

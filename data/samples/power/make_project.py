@@ -10,20 +10,23 @@ from layout import Codes
 from pages import all_layouts
 
 
-def numbers(count, first):
-    return first + [0] * (count - len(first))
-
-
 PROJECT = {
-    "Parm1": numbers(20, [2, 2, 1]),
-    "Parm2": numbers(30, [40, 91, 90, 7, 0, 1, 1, 1, 1, 3, 2, 10, 56, 92]),
-    "Parm3": numbers(20, [32, 91, 98, 5, 1, 11, 3, 98, 480, 320]),
-    "Parm4": numbers(20, [0, 6, 7, 4, 4, 99]),
+    "Parm1": {"DisplaySize": 2, "Languages": 2, "ColourSystems": 1},
+    "Parm2": {"TitleHeight": 40, "TitleColour": 91, "TitleAreaColour": 90, "TitleFont": 7,
+              "LogoShown": 1, "HardCopyShown": 1, "VersionScreen": 1, "DebugScreen": 1,
+              "DateFormat": 3, "DateFont": 2, "WorkAreaColour": 10,
+              "ButtonAreaHeight": 56, "ButtonAreaColour": 92},
+    "Parm3": {"TitleHeight": 32, "TitleColour": 91, "TitleAreaColour": 98, "TitleFont": 5,
+              "TitleCentred": 1, "WorkAreaColour": 11, "FrameWidth": 3, "FrameColour": 98,
+              "Width": 480, "Height": 320},
+    "Parm4": {"KeyColour": 6, "KeyBackColour": 7, "GridX": 4, "GridY": 4, "GridColour": 99},
     "ProgPath": "",
     "LogoName": "logo.png",
     "PtrnStart": "全体監視",
     "PtrnStop": "終了確認",
 }
+
+
 def write(path, source):
     path.parent.mkdir(parents=True, exist_ok=True)
     path.write_text(json.dumps(source, ensure_ascii=False, indent=1) + "\n", encoding="utf-8")

@@ -13,14 +13,8 @@ constexpr std::array<Limit, 2> AtLeast(gint least, const gchar* text) {
   return {{{least, NoMessage, text}}};
 }
 
-constexpr const gchar* TitlePositions[] = {"左端", "中央", ""};
 constexpr const gchar* LayoutKinds[] = {"親ウィンドウ", "子ウィンドウ", "その他", ""};
-constexpr const gchar* Cursors[] = {"矢印", "十字", "砂時計", ""};
 constexpr const gchar* Zooms[] = {"500%", "200%", "100%", "75%", "50%", ""};
-
-constexpr ValueRange TitlePosition = ChoiceOf(TitlePositions);
-constexpr ValueRange GridInterval = ChoiceOf(GridIntvList);
-constexpr ValueRange LayoutDots{Unit::Dots, 10, 9999};
 
 constexpr Parameter Parm1Rows[] = {
     {NAMED_SLOT(HedrSlot, Kind), One, "種別", ChoiceOf(LayoutKinds)},
@@ -54,7 +48,7 @@ constexpr Parameter Parm1Rows[] = {
     {NAMED_SLOT(HedrSlot, ButtonAreaColour), One, "ボタン領域 領域色", Colour},
     {NAMED_SLOT(HedrSlot, FrameWidth), One, "子ウィンドウ 枠幅", Thickness},
     {NAMED_SLOT(HedrSlot, FrameColour), One, "子ウィンドウ 枠色", Colour},
-    {NAMED_SLOT(HedrSlot, MouseCursor), One, "マウスカーソル形状", ChoiceOf(Cursors)},
+    {NAMED_SLOT(HedrSlot, MouseCursor), One, "マウスカーソル形状", MouseCursor},
     {NAMED_SLOT(HedrSlot, ParentInput), One, "親ウィンドウで入力可", Switch},
     {NAMED_SLOT(HedrSlot, KeyColour), One, "キー入力時 前景色", Colour},
     {NAMED_SLOT(HedrSlot, KeyBackColour), One, "キー入力時 背景色", Colour},

@@ -7,9 +7,11 @@ bool Counts(const Condition& condition, std::span<const gint> values) {
          (values[static_cast<gsize>(condition.Slot)] != 0) == condition.Set;
 }
 
-bool IsLower(const Parameter& parameter, const Limit& limit, std::span<const gint> values) {
+bool IsOutside(const Parameter& parameter, const Limit& limit, std::span<const gint> values) {
   for (gint slot = parameter.Slot; parameter.Holds(slot); ++slot)
-    if (values[static_cast<gsize>(slot)] < limit.Least) return true;
+    if (const gint value = values[static_cast<gsize>(slot)];
+        value < limit.Least || value > limit.Most)
+      return true;
   return false;
 }
 
@@ -20,7 +22,7 @@ BrokenLimit FindBrokenLimit(std::span<const Parameter> parameters, std::span<con
   for (const Parameter& parameter : parameters)
     for (const Limit& limit : parameter.Limits)
       if ((first.By == nullptr || limit.Message < first.By->Message) &&
-          IsLower(parameter, limit, values) && Counts(limit.Counts, values))
+          IsOutside(parameter, limit, values) && Counts(limit.Counts, values))
         first = {&parameter, &limit};
   return first;
 }

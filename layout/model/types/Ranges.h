@@ -1,6 +1,7 @@
 // What the numbers of parameters stand for, in the words of their tables.
 #pragma once
 
+#include "Constant.h"
 #include "layout/Parameters.h"
 #include "support/Resource.h"
 
@@ -19,5 +20,13 @@ inline constexpr ValueRange Colour{Unit::Colour, 0, ColrCount - 1};
 inline constexpr ValueRange Font{Unit::Font, 0, FontCount - 1};
 inline constexpr ValueRange Mark{Unit::Mark, 0, MarkCount - 1};
 inline constexpr ValueRange Thickness{Unit::Dots, 0, 99};
+
+// What layouts and the common look of a project have alike.
+inline constexpr const gchar* TitlePositionTexts[] = {"左端", "中央", ""};
+inline constexpr const gchar* MouseCursorTexts[] = {"矢印", "十字", "砂時計", ""};
+inline constexpr ValueRange TitlePosition = ChoiceOf(TitlePositionTexts);
+inline constexpr ValueRange MouseCursor = ChoiceOf(MouseCursorTexts);
+inline constexpr ValueRange GridInterval = ChoiceOf(GridIntvList);
+inline constexpr ValueRange LayoutDots{Unit::Dots, 10, 9999};
 
 }  // namespace Ranges
