@@ -11,7 +11,7 @@
 enum ExitCode { ExitDone = 0, ExitFailed = 1, ExitUsage = 2, ExitTrouble = 2 };
 
 // Prints a file as JSON.
-int RunShow(const std::string& file);
+int RunShow(const std::string& file, bool names);
 
 struct BuildOptions {
   std::string Source;

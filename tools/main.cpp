@@ -12,6 +12,7 @@ namespace {
 struct Options {
   std::string File;
   std::string Other;
+  bool Names = false;
   BuildOptions Build;
   RenderOptions Render;
   std::string Time;
@@ -39,7 +40,8 @@ void AddShow(CLI::App& app, Options& options, int& result) {
   command
       ->add_option("FILE", options.File, "*.ptn, *.prj, PtrnColr, PtrnMark, PtrnCode, PtrnText1..3")
       ->required();
-  command->callback([&] { result = RunShow(options.File); });
+  command->add_flag("--names", options.Names, "Numbers of layouts and projects by their names");
+  command->callback([&] { result = RunShow(options.File, options.Names); });
 }
 
 void AddBuild(CLI::App& app, Options& options, int& result) {

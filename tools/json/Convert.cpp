@@ -4,6 +4,7 @@
 #include <new>
 
 #include "tools/json/Kinds.h"
+#include "tools/json/NamedNumbers.h"
 
 namespace {
 
@@ -63,8 +64,12 @@ std::optional<FileKind> KindOfFile(std::string_view name) {
   return found->Kind;
 }
 
-Conversion JsonOfFile(FileKind kind, std::string_view bytes) {
-  return Guarded([&] { return PrintJson(RowOf(kind).Show(bytes)); });
+Conversion JsonOfFile(FileKind kind, std::string_view bytes, Numbers numbers) {
+  return Guarded([&] {
+    Json shown = RowOf(kind).Show(bytes);
+    if (numbers == Numbers::Named) NameNumbers(kind, shown);
+    return PrintJson(shown);
+  });
 }
 
 Conversion FileOfJson(FileKind kind, std::string_view json) {

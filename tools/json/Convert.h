@@ -18,7 +18,11 @@ struct Conversion {
   std::string Error;
 };
 
+// How the parameters of layouts and projects are shown: as the lists of numbers that records hold,
+// or under their names.
+enum class Numbers { Listed, Named };
+
 // JSON (UTF-8) of a file's bytes. Texts that are not EUC-JP are shown as well as can be.
-Conversion JsonOfFile(FileKind kind, std::string_view bytes);
+Conversion JsonOfFile(FileKind kind, std::string_view bytes, Numbers numbers = Numbers::Listed);
 // A file's bytes of JSON; the reason names place and field, as in "Items[2].Text1: …".
 Conversion FileOfJson(FileKind kind, std::string_view json);
