@@ -1,5 +1,7 @@
 #include "dialogs/choosers/NameDialog.h"
 
+#include <utility>
+
 #include "dialogs/choosers/ChooserWindow.h"
 
 namespace {
@@ -13,7 +15,7 @@ void ReportTaken(GtkTreeView* list, GtkTreePath* path, GtkTreeViewColumn* /*colu
   dialog->Taken(GTK_WIDGET(list), NameAt(GTK_WIDGET(list), path));
 }
 
-void Build(const DialogWindow& window, const NameDialog& dialog) {
+void Build(const DialogWindow& window, NameDialog& dialog) {
   gtk_container_set_border_width(GTK_CONTAINER(window.Content), 10);
   gtk_box_set_spacing(GTK_BOX(window.Content), 5);
   if (dialog.Above) dialog.Above(window);
@@ -24,16 +26,15 @@ void Build(const DialogWindow& window, const NameDialog& dialog) {
   if (dialog.Below) dialog.Below(window);
   dialog.Fill(list);
   if (dialog.BeginOnList) BeginOnNames(list);
-  auto* data = const_cast<NameDialog*>(&dialog);
-  if (dialog.Selected) OnNameSelected(list, G_CALLBACK(ReportSelected), data);
-  if (dialog.Taken) g_signal_connect(list, "row-activated", G_CALLBACK(ReportTaken), data);
+  if (dialog.Selected) OnNameSelected(list, G_CALLBACK(ReportSelected), &dialog);
+  if (dialog.Taken) g_signal_connect(list, "row-activated", G_CALLBACK(ReportTaken), &dialog);
   if (dialog.Frame.Build) dialog.Frame.Build(window);
 }
 
 }  // namespace
 
-gint RunNameDialog(GtkWidget* parent, const NameDialog& dialog) {
+gint RunNameDialog(GtkWidget* parent, NameDialog dialog) {
   DialogFrame frame = dialog.Frame;
   frame.Build = [&dialog](const DialogWindow& window) { Build(window, dialog); };
-  return RunDialog(parent, frame);
+  return RunDialog(parent, std::move(frame));
 }

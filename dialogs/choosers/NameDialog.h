@@ -24,4 +24,4 @@ struct NameDialog {
 };
 
 // Builds the dialog over `parent`, runs it and returns its answer.
-gint RunNameDialog(GtkWidget* parent, const NameDialog& dialog);
+gint RunNameDialog(GtkWidget* parent, NameDialog dialog);

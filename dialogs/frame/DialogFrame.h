@@ -32,4 +32,4 @@ struct DialogFrame {
 };
 
 // Builds the dialog over `parent`, runs it and returns its answer.
-gint RunDialog(GtkWidget* parent, const DialogFrame& frame);
+gint RunDialog(GtkWidget* parent, DialogFrame frame);

@@ -1,5 +1,7 @@
 #include "dialogs/frame/TableDialog.h"
 
+#include <utility>
+
 #include "dialogs/frame/Accessible.h"
 
 namespace {
@@ -34,7 +36,7 @@ gint RunTableDialog(GtkWidget* parent, const TableDialog& dialog) {
                            .Default = dialog.ReturnPressesOk});
   frame.Buttons.insert(frame.Buttons.end(), dialog.More.begin(), dialog.More.end());
   frame.Buttons.push_back(CancelButton(dialog.Cancel));
-  const gint answer = RunDialog(parent, frame);
+  const gint answer = RunDialog(parent, std::move(frame));
   if (answer == Confirmed && dialog.Take) dialog.Take();
   return answer;
 }
