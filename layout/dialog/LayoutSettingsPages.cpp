@@ -164,24 +164,36 @@ DLG_COLRDATA EditPtrn3_Colr[] = {Colour(3, 1, Parm1(HedrSlot::WorkAreaColour), "
                                  Colour(7, 2, Parm1(HedrSlot::KeyBackColour), "背景色"),
                                  EndColrData};
 
-LayoutPage PageOfKind(gint kind) {
-  constexpr gint BitmapRow = 3;
-  if (kind == 0) {
-    ShowTitles(EditPtrn1_String, EditPtrn1_Edit);
-    return {"レイアウト情報の設定［親ウィンドウ］",
-            {EditPtrn1_String, EditPtrn1_Edit, EditPtrn1_Numr, EditPtrn1_Combo, EditPtrn1_Radio,
-             EditPtrn1_Check, EditPtrn1_Colr},
-            &EditPtrn1_Edit[BitmapRow]};
-  }
-  if (kind == 1) {
-    ShowTitles(EditPtrn2_String, EditPtrn2_Edit);
-    return {"レイアウト情報の設定［子ウィンドウ］",
-            {EditPtrn2_String, EditPtrn2_Edit, EditPtrn2_Numr, EditPtrn2_Combo, EditPtrn2_Radio,
-             EditPtrn2_Check, EditPtrn2_Colr},
-            &EditPtrn2_Edit[BitmapRow]};
-  }
+namespace {
+
+constexpr gint BitmapRow = 3;
+
+LayoutPage EditPtrnData1() {
+  ShowTitles(EditPtrn1_String, EditPtrn1_Edit);
+  return {"レイアウト情報の設定［親ウィンドウ］",
+          {EditPtrn1_String, EditPtrn1_Edit, EditPtrn1_Numr, EditPtrn1_Combo, EditPtrn1_Radio,
+           EditPtrn1_Check, EditPtrn1_Colr},
+          &EditPtrn1_Edit[BitmapRow]};
+}
+
+LayoutPage EditPtrnData2() {
+  ShowTitles(EditPtrn2_String, EditPtrn2_Edit);
+  return {"レイアウト情報の設定［子ウィンドウ］",
+          {EditPtrn2_String, EditPtrn2_Edit, EditPtrn2_Numr, EditPtrn2_Combo, EditPtrn2_Radio,
+           EditPtrn2_Check, EditPtrn2_Colr},
+          &EditPtrn2_Edit[BitmapRow]};
+}
+
+LayoutPage EditPtrnData3() {
   return {"レイアウト情報の設定［その他］",
           {EditPtrn3_String, EditPtrn3_Edit, EditPtrn3_Numr, nullptr, EditPtrn3_Radio,
            EditPtrn3_Check, EditPtrn3_Colr},
           nullptr};
+}
+
+}  // namespace
+
+LayoutPage PageOfKind(gint kind) {
+  if (kind == 0) return EditPtrnData1();
+  return kind == 1 ? EditPtrnData2() : EditPtrnData3();
 }

@@ -126,12 +126,12 @@ DLG_COLRDATA ProjPage43_Colr[] = {Colour(0, 4, Common.At(CommonSlot::GridColour)
                                   EndColrData};
 
 std::span<const ProjectPage> ProjectPages() {
-  static const ProjectFrame general[] = {{nullptr,
-                                          {.String = ProjPage1_String,
-                                           .Edit = ProjPage1_Edit,
-                                           .Combo = ProjPage1_Combo,
-                                           .Radio = ProjPage1_Radio}}};
-  static const ProjectFrame parent[] = {
+  static const ProjectFrame EditProjPage1[] = {{nullptr,
+                                                {.String = ProjPage1_String,
+                                                 .Edit = ProjPage1_Edit,
+                                                 .Combo = ProjPage1_Combo,
+                                                 .Radio = ProjPage1_Radio}}};
+  static const ProjectFrame EditProjPage2[] = {
       {"タイトル領域",
        {.String = ProjPage21_String,
         .Edit = ProjPage21_Edit,
@@ -142,7 +142,7 @@ std::span<const ProjectPage> ProjectPages() {
         .Colr = ProjPage21_Colr}},
       {"作業領域", {.Colr = ProjPage22_Colr}},
       {"ボタン領域", {.Numr = ProjPage23_Numr, .Colr = ProjPage23_Colr}}};
-  static const ProjectFrame child[] = {
+  static const ProjectFrame EditProjPage3[] = {
       {"タイトル領域",
        {.String = ProjPage31_String,
         .Numr = ProjPage31_Numr,
@@ -151,12 +151,14 @@ std::span<const ProjectPage> ProjectPages() {
         .Colr = ProjPage31_Colr}},
       {"作業領域", {.Colr = ProjPage32_Colr}},
       {"外枠", {.Numr = ProjPage33_Numr, .Colr = ProjPage33_Colr}}};
-  static const ProjectFrame other[] = {
+  static const ProjectFrame EditProjPage4[] = {
       {Common.Of(CommonSlot::MouseCursor).Label, {.Radio = ProjPage41_Radio}},
       {"キー入力時", {.Colr = ProjPage42_Colr}},
       {"方眼表示",
        {.String = ProjPage43_String, .Combo = ProjPage43_Combo, .Colr = ProjPage43_Colr}}};
-  static const ProjectPage pages[] = {
-      {"全般", general}, {"親ウィンドウ", parent}, {"子ウィンドウ", child}, {"その他", other}};
+  static const ProjectPage pages[] = {{"全般", EditProjPage1},
+                                      {"親ウィンドウ", EditProjPage2},
+                                      {"子ウィンドウ", EditProjPage3},
+                                      {"その他", EditProjPage4}};
   return pages;
 }
