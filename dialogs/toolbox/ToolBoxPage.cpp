@@ -3,11 +3,10 @@
 
 #include <map>
 
-#include "Constant.h"
 #include "dialogs/frame/Accessible.h"
 #include "dialogs/toolbox/ToolBoxRows.h"
 #include "layout/Guards.h"
-#include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
@@ -24,7 +23,7 @@ PageTables& TablesOfType(gint type) {
   PageTables& tables = found->second;
   if (isNew) {
     // The points take the first line, or the first two.
-    PageRows page(tables, variant, PtrnDataType[type] != 0 ? 2 : 1);
+    PageRows page(tables, variant, HasTwoPoints(type) ? 2 : 1);
     DescribePage(page, type);
   }
   return tables;
@@ -100,9 +99,9 @@ GtkWidget* ToolBox_Title(GtkWidget* window, const gchar* title, gint /*line*/, g
 void BuildToolBoxPage(GtkWidget* window, gint type) {
   PageTables& tables = TablesOfType(type);
   const gint columns = ColumnsOf(type);
-  GtkWidget* table = ToolBox_Title(window, PtrnTypeList[type - 1], tables.NextLine, columns);
+  GtkWidget* table = ToolBox_Title(window, ItemTypeOf(type).Label, tables.NextLine, columns);
   BuildTables(window, table, tables);
-  ToolBox_Comn(table, tables.NextLine, PtrnDataType[type] == 0, tables.Registers);
+  ToolBox_Comn(table, tables.NextLine, HasTwoPoints(type) ? 0 : 1, tables.Registers ? 1 : 0);
   NameControls(table);
   AlignColumns(table);
   BeginBelowTop(table, tables.NextLine, columns);
