@@ -3,7 +3,7 @@
 #include "layout/Screen.h"
 #include "project/ProjectFiles.h"
 #include "project/ProjectRecord.h"
-#include "render/MarkFile.h"
+#include "render/Marks.h"
 #include "render/Palette.h"
 
 void EnterReadProject(std::string_view folder, std::string_view name) {
