@@ -1,3 +1,4 @@
+#include "render/Layout.h"
 #include "render/Pictures.h"
 
 #include <gtest/gtest.h>
