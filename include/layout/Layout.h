@@ -2,6 +2,7 @@
 // the open one stands in the globals of layout/Store.h.
 #pragma once
 
+#include <cstring>
 #include <vector>
 
 #include "layout/Records.h"
@@ -16,4 +17,10 @@ struct Layout {
 };
 
 // Appends `count` empty items; the first of them, the others follow it. Gone with the next change.
-PTRNDATA* AddEmptyItems(ItemArray& items, gint count);
+inline PTRNDATA* AddEmptyItems(ItemArray& items, gint count) {
+  const std::size_t before = items.size();
+  items.resize(before + static_cast<std::size_t>(count));
+  PTRNDATA* first = items.data() + before;
+  std::memset(first, 0, static_cast<std::size_t>(count) * sizeof *first);
+  return first;
+}

@@ -33,9 +33,9 @@ enum class LayoutReading { Whole, Short, Failed };
 // its grid is hidden. Replaces the header, unless the file is too short for one, and appends the
 // items.
 LayoutReading ReadLayoutFile(const gchar* path, const gchar* name, Layout& layout);
-// Writes the file as of the program's own version; tells whether it was written, a failure keeps
-// the old file. Without folder or name it is not. Fills version and counts of the header all the
-// same, unless there is no folder or name.
+// Writes "<path>/<name>.ptn" and tells whether it was written; a failure keeps the old file.
+// Without folder or name nothing is done. The header takes the program's version and the counts
+// that the file has, even where writing fails.
 bool WriteLayoutFile(const gchar* path, const gchar* name, PTRNHEDR& header,
                      std::span<const PTRNDATA> items);
 

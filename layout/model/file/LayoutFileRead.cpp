@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstring>
 #include <new>
 
 #include "layout/Guards.h"
@@ -68,14 +67,6 @@ bool ReadLayout(LayoutInput& input, Layout& layout) {
 }
 
 }  // namespace
-
-PTRNDATA* AddEmptyItems(ItemArray& items, gint count) {
-  const std::size_t before = items.size();
-  items.resize(before + static_cast<std::size_t>(count));
-  PTRNDATA* first = items.data() + before;
-  std::memset(first, 0, static_cast<std::size_t>(count) * sizeof *first);
-  return first;
-}
 
 std::optional<Layout> DecodeLayout(std::string_view bytes) {
   LayoutInput input(bytes);
