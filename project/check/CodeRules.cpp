@@ -94,7 +94,7 @@ void FindDoubleRadioNumbers(const CheckedProject& project, FindingList& findings
       if (ItemTypeOf(item.Type).Data != ItemData::Choice || CodeOf(item).empty()) continue;
       const gint number = item.Parm[ChoiceSlot::Number];
       if (!seen.emplace(CodeOf(item), +item.ID_No, number).second)
-        findings.AddItem(layout, item, "Number",
+        findings.AddItem(layout, item, ParameterField(item, ChoiceSlot::Number),
                          "number " + std::to_string(number) + " is double in the group of " +
                              Quoted(CodeOf(item)));
     }

@@ -43,7 +43,8 @@ void CheckTitle(const CheckedProject& project, const CheckedLayout& layout, Find
   if (header.Parm1[HedrSlot::TitleHeight] > 0 && !TitleOf(header, 0).empty() &&
       SameColour(project, header.Parm1[HedrSlot::TitleColour],
                  header.Parm1[HedrSlot::TitleAreaColour]))
-    findings.AddLayout(layout, "TitleColour", "the title cannot be told from its area");
+    findings.AddLayout(layout, FindParameter(HeaderParameters(), HedrSlot::TitleColour)->Name,
+                       "the title cannot be told from its area");
 }
 
 void FindVanishing(const CheckedProject& project, FindingList& findings) {

@@ -15,8 +15,9 @@ void FindIncomplete(const CheckedProject& project, FindingList& findings) {
 }
 
 struct Reason {
-  const char* Field;  // null: a rule of its own tells it; "": that of the limit
+  const char* Field;  // null: a rule of its own tells it; "": that of the limit, or of the slot
   const char* Text;
+  gint Slot = NoSlot;
 };
 
 // What the tool box's messages say, by their number.
@@ -27,10 +28,10 @@ constexpr std::array<Reason, 19> Reasons = {{
     {nullptr, nullptr},
     {"", "a line or frame width is outside its range"},
     {"", "its line width is not 1 to 99"},
-    {"LowerLimit", "its lower limit is not below its upper limit"},
+    {"", "its lower limit is not below its upper limit", BarSlot::LowerLimit},
     {"Text1", "it has no text"},
     {"", "its number of characters or digits is outside its range"},
-    {"Decimals", "it has too many decimal places"},
+    {"", "it has too many decimal places", TextSlot::Decimals},
     {"", "its text position is negative"},
     {"", "its number within the group is negative"},
     {nullptr, nullptr},
@@ -43,10 +44,11 @@ constexpr std::array<Reason, 19> Reasons = {{
 }};
 
 // The field that breaks the item: its limit's, or the one that the message names.
-const char* BrokenField(const PTRNDATA& item, gint message) {
+std::string BrokenField(const PTRNDATA& item, gint message) {
   const BrokenLimit limit = FindBrokenLimit(item);
   if (limit.By != nullptr && limit.By->Message == message) return limit.Broken->Name;
-  return Reasons[static_cast<std::size_t>(message)].Field;
+  const Reason& reason = Reasons[static_cast<std::size_t>(message)];
+  return reason.Slot == NoSlot ? reason.Field : ParameterField(item, reason.Slot);
 }
 
 void FindInvalid(const CheckedProject& project, FindingList& findings) {

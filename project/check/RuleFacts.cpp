@@ -39,6 +39,11 @@ std::string TitleField(gint language) {
   return "PtrnName" + std::to_string(language + 1);
 }
 
+std::string ParameterField(const PTRNDATA& item, gint slot) {
+  const Parameter* parameter = FindParameter(item.Type, slot);
+  return parameter == nullptr ? "Parm" : parameter->Name;
+}
+
 bool IsWorded(gint type) {
   const ItemTexts texts = ItemTypeOf(type).Texts;
   return texts == ItemTexts::Words || texts == ItemTexts::Caption;

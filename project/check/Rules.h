@@ -40,6 +40,8 @@ std::string_view TextOf(const PTRNDATA& item, gint language);
 std::string_view TitleOf(const PTRNHEDR& header, gint language);
 std::string TextField(gint language);
 std::string TitleField(gint language);
+// The name of an item's parameter; "Parm" for a slot without one.
+std::string ParameterField(const PTRNDATA& item, gint slot);
 // Whether items of this type show texts of their own.
 bool IsWorded(gint type);
 // Whether a parameter is set that turns something on; true without such a slot.

@@ -66,9 +66,10 @@ void FindMissingFonts(const CheckedProject& project, FindingList& findings) {
     }
     ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
       if (!UsesFont(item, LanguageCount(project))) return;
-      const gint font = item.Parm[ItemTypeOf(item.Type).Font];
+      const gint slot = ItemTypeOf(item.Type).Font;
+      const gint font = item.Parm[slot];
       if (!project.Surroundings.FontExists(language, font))
-        findings.AddItem(layout, item, "Font",
+        findings.AddItem(layout, item, ParameterField(item, slot),
                          "there is no font " + std::to_string(font) + LanguageText(language));
     });
   }
@@ -102,7 +103,7 @@ SIZE LayoutExcess(const PTRNHEDR& header, const POINT& anchor, SIZE extent) {
 void CheckItemExtent(const CheckedProject& project, const CheckedLayout& layout,
                      const PTRNDATA& item, gint language, FindingList& findings) {
   const bool worded = IsWorded(item.Type);
-  const std::string field = worded ? TextField(language) : "Length";
+  const std::string field = worded ? TextField(language) : ParameterField(item, TextSlot::Length);
   const std::string where = worded ? LanguageText(language) : "";
   if (ItemTypeOf(item.Type).Texts == ItemTexts::Caption) {
     const std::string caption(TextOf(item, language));
