@@ -1,6 +1,6 @@
 // The parameters as rows of the page on file formats, which scripts/check-docs compares with them.
-#include "layout/Parameters.h"
 #include "layout/ItemTypes.h"
+#include "layout/Parameters.h"
 #include "tools/Commands.h"
 #include "tools/Report.h"
 
