@@ -1,7 +1,5 @@
 #include "layout/Commit.h"
 
-#include <array>
-
 #include "layout/Commands.h"
 #include "layout/CopyDialogs.h"
 #include "layout/EditState.h"
@@ -9,6 +7,7 @@
 #include "layout/ItemSlots.h"
 #include "layout/Registry.h"
 #include "layout/Screen.h"
+#include "layout/ShownTexts.h"
 #include "layout/Store.h"
 #include "layout/edit/CopyMove.h"
 #include "layout/edit/ItemDefaults.h"
@@ -18,12 +17,6 @@
 
 namespace {
 
-gint TextLength(const PTRNDATA& item) {
-  const std::array<std::string_view, 3> texts = {FieldText(item.Text1), FieldText(item.Text2),
-                                                 FieldText(item.Text3)};
-  return static_cast<gint>(texts[static_cast<gsize>(TextIndex(Language))].size());
-}
-
 void FillParms() {
   const ItemTypeRow& type = ItemTypeOf(PtrnData.Type);
   if (type.HasCursorKeys) {
@@ -31,7 +24,7 @@ void FillParms() {
   }
   SetPointParms(&PtrnData);
   if (type.Texts == ItemTexts::Words) {
-    PtrnData.Parm[TextSlot::Length] = TextLength(PtrnData);
+    PtrnData.Parm[TextSlot::Length] = static_cast<gint>(TextOf(PtrnData, Language).size());
   }
 }
 

@@ -1,9 +1,11 @@
 // Checking the layout settings.
+#include <algorithm>
 #include <cstring>
 #include "layout/ItemSlots.h"
 #include "layout/LayoutSettings.h"
 #include "layout/Parameters.h"
 #include "layout/Screen.h"
+#include "layout/ShownTexts.h"
 #include "layout/Store.h"
 #include "support/Resource.h"
 
@@ -12,8 +14,9 @@ GtkWidget* EditLayoutWindow = nullptr;
 namespace {
 
 bool TitleMissing() {
-  return EditHedr.PtrnName1[0] == '\0' || (Language >= 1 && EditHedr.PtrnName2[0] == '\0') ||
-         (Language >= 2 && EditHedr.PtrnName3[0] == '\0');
+  for (gint language = 0; language <= std::clamp(Language, 0, 2); ++language)
+    if (TitleOf(EditHedr, language).empty()) return true;
+  return false;
 }
 
 // Kept: adds the debug switch and the title area's colour number instead of the two heights.

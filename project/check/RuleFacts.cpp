@@ -21,16 +21,6 @@ bool LayoutExists(const CheckedProject& project, std::string_view name) {
              project.Unreadable.end();
 }
 
-std::string_view TextOf(const PTRNDATA& item, gint language) {
-  if (language == 0) return FieldText(item.Text1);
-  return language == 1 ? FieldText(item.Text2) : FieldText(item.Text3);
-}
-
-std::string_view TitleOf(const PTRNHEDR& header, gint language) {
-  if (language == 0) return FieldText(header.PtrnName1);
-  return language == 1 ? FieldText(header.PtrnName2) : FieldText(header.PtrnName3);
-}
-
 std::string TextField(gint language) {
   return "Text" + std::to_string(language + 1);
 }

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "layout/ShownTexts.h"
 #include "project/check/Check.h"
 
 // Takes the findings of one rule.
@@ -35,9 +36,7 @@ void ForEachItem(const CheckedProject& project, Visit visit) {
 gint LanguageCount(const CheckedProject& project);
 gint SystemCount(const CheckedProject& project);
 bool LayoutExists(const CheckedProject& project, std::string_view name);
-// An item's text and a header's title in a language 0..2, with their field names.
-std::string_view TextOf(const PTRNDATA& item, gint language);
-std::string_view TitleOf(const PTRNHEDR& header, gint language);
+// The fields of an item's text and of a header's title in a language 0..2.
 std::string TextField(gint language);
 std::string TitleField(gint language);
 // The name of an item's parameter; "Parm" for a slot without one.

@@ -1,10 +1,9 @@
 #include "render/items/ItemLook.h"
 
 #include "layout/EditState.h"
-#include "layout/Guards.h"
+#include "layout/ShownTexts.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
-#include "support/Text.h"
 
 namespace {
 
@@ -27,14 +26,7 @@ gint ParityColour(const PTRNDATA& item, gint base) {
 }
 
 std::string ItemText(const PTRNDATA& item) {
-  switch (TextIndex(Language)) {
-    case 0:
-      return std::string(FieldText(item.Text1));
-    case 1:
-      return std::string(FieldText(item.Text2));
-    default:
-      return std::string(FieldText(item.Text3));
-  }
+  return std::string(TextOf(item, Language));
 }
 
 void FillArea(Drawable* drawable, DrawGc* gc, const ItemBox& box, gint colour) {

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "layout/Guards.h"
+#include "layout/ShownTexts.h"
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
 #include "render/Layout.h"
@@ -14,17 +15,6 @@
 #include "support/Text.h"
 
 namespace {
-
-std::string LayoutTitle(const PTRNHEDR& header) {
-  switch (TextIndex(Language)) {
-    case 0:
-      return std::string(FieldText(header.PtrnName1));
-    case 1:
-      return std::string(FieldText(header.PtrnName2));
-    default:
-      return std::string(FieldText(header.PtrnName3));
-  }
-}
 
 gint TitleFontHeight(const PTRNHEDR& header) {
   return GuardedFontHeight(header.Parm1[HedrSlot::TitleFont]);
@@ -63,7 +53,7 @@ void DrawPageData1(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header) {
   }
 
   const gint font = header.Parm1[HedrSlot::TitleFont];
-  const std::string title = LayoutTitle(header);
+  const std::string title(TitleOf(header, Language));
   const bool centred = header.Parm1[HedrSlot::TitleCentred] != 0;
   const gint x =
       centred ? (page.Width - GetTextSize(font, title.c_str()).cx) / 2 : height / 2 + logoWidth;
