@@ -3,11 +3,12 @@
 #include <algorithm>
 
 #include "PtrnData.h"
+#include "render/HitTest.h"
 #include "render/Layout.h"
 
 namespace {
-// Handles reach 5 pixels past the outline on either side.
-constexpr gint HandleReach = 6;
+// How far outline and handles may stand off the box.
+constexpr gint Reach = HandleReach + 1;
 // Far outside any canvas, and far from overflow.
 constexpr gint64 FarAway = 1 << 20;
 
@@ -42,8 +43,8 @@ RegionPtr Widened(const Box& box, gint by) {
 
 // The box without its inside, which an outline leaves as it is.
 RegionPtr Outline(const Box& box) {
-  RegionPtr region = Widened(box, HandleReach);
-  cairo_region_subtract(region.get(), Widened(box, -HandleReach).get());
+  RegionPtr region = Widened(box, Reach);
+  cairo_region_subtract(region.get(), Widened(box, -Reach).get());
   return region;
 }
 }  // namespace
@@ -57,5 +58,5 @@ RegionPtr OverlayRegion(gint width, gint height) {
     return Outline(ZoomedBox(AreaPoint1.x, AreaPoint1.y, AreaPoint2.x, AreaPoint2.y));
   if (PtrnMode < ModeCreating || PtrnMode > ModeDragging) return RegionPtr(cairo_region_create());
 
-  return OutlineCrossesBox(PtrnData.Type) ? Widened(ItemBox(), HandleReach) : Outline(ItemBox());
+  return OutlineCrossesBox(PtrnData.Type) ? Widened(ItemBox(), Reach) : Outline(ItemBox());
 }

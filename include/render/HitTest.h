@@ -4,6 +4,10 @@
 
 #include "layout/Records.h"
 
+// How far a drag handle reaches on either side of its place: in zoomed pixels as it is drawn, in
+// layout dots as it is hit.
+constexpr gint HandleReach = 5;
+
 gint SearchPtrnData(const POINT* point, const PTRNDATA* item);
 gint SearchPtrnData01(const POINT* point, const PTRNDATA* item);
 gint SearchPtrnData02(const POINT* point, const PTRNDATA* item);

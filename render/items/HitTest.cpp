@@ -10,7 +10,6 @@
 namespace {
 
 enum HitCode { HitNone = 0, HitBody = 9 };
-constexpr gint HandleReach = 5;
 
 bool NearPoint(const POINT& point, gint x, gint y) {
   return std::abs(point.x - x) <= HandleReach && std::abs(point.y - y) <= HandleReach;

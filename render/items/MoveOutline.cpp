@@ -1,15 +1,13 @@
 // Outlines and drag handles.
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
+#include "render/HitTest.h"
 #include "render/Items.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 #include "render/items/OutlineByType.h"
 
 namespace {
-
-// Half of a handle's box, in zoomed pixels.
-constexpr gint Reach = 5;
 
 gint OutlineColour(gint undefined) {
   return undefined != 0 ? gint{ColourRed} : gint{PtrnHedr.Parm2[ViewSlot::GridColour]};
@@ -30,9 +28,11 @@ struct Outline {
   void Line(gint x1, gint y1, gint x2, gint y2) const {
     ThinLine(Surface, Gc, x1, y1, x2, y2, Colour);
   }
-  void RoundHandle(gint x, gint y) const { Ellipse({x - Reach, y - Reach, x + Reach, y + Reach}); }
+  void RoundHandle(gint x, gint y) const {
+    Ellipse({x - HandleReach, y - HandleReach, x + HandleReach, y + HandleReach});
+  }
   void SquareHandle(gint x, gint y) const {
-    Rectangle({x - Reach, y - Reach, x + Reach, y + Reach});
+    Rectangle({x - HandleReach, y - HandleReach, x + HandleReach, y + HandleReach});
   }
 };
 
@@ -87,8 +87,8 @@ void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint u
   const gint y = Zoomed(item->Point1.y, zoom);
   if (undefined == 0 && item->Size.cx == 0 && item->Size.cy == 0) {
     // Not painted yet, so its extent is unknown.
-    outline.Line(x - Reach, y - Reach, x + Reach, y + Reach);
-    outline.Line(x + Reach, y - Reach, x - Reach, y + Reach);
+    outline.Line(x - HandleReach, y - HandleReach, x + HandleReach, y + HandleReach);
+    outline.Line(x + HandleReach, y - HandleReach, x - HandleReach, y + HandleReach);
     return;
   }
   outline.Rectangle({x, y, x + Zoomed(item->Size.cx, zoom), y + Zoomed(item->Size.cy, zoom)});
