@@ -3,8 +3,6 @@
 #include "PtrnData.h"
 
 namespace {
-constexpr gint AreaCancel = 0;
-
 // The source that gives the area up, 0 = none.
 guint GivingUp;
 
@@ -33,7 +31,7 @@ void MenuDone(GtkWidget*, gpointer) {
 }  // namespace
 
 void GiveUpArea() {
-  if (PtrnMode == ModeArea) AreaBoxButn(nullptr, GINT_TO_POINTER(AreaCancel));
+  if (PtrnMode == ModeArea) AreaBoxButn(nullptr, GINT_TO_POINTER(AreaCode::Cancel));
 }
 
 void GiveUpAreaWith(GtkWidget* menu) {

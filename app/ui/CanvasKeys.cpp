@@ -5,10 +5,6 @@
 #include "app/ui/AreaMenu.h"
 
 namespace {
-// Button codes of the tool box and of the area menu.
-enum { ItemRegister = 0, ItemDelete = 1, ItemCancel = 2 };
-constexpr gint AreaDelete = 1;
-
 bool ItemInHand() {
   return PtrnType != 0 && PtrnMode == ModeSelected;
 }
@@ -22,8 +18,8 @@ gboolean ItemCommand(gint command) {
 }
 
 gboolean DeleteKey() {
-  if (PtrnMode != ModeArea) return ItemCommand(ItemDelete);
-  AreaBoxButn(nullptr, GINT_TO_POINTER(AreaDelete));
+  if (PtrnMode != ModeArea) return ItemCommand(ButtonCode::Delete);
+  AreaBoxButn(nullptr, GINT_TO_POINTER(AreaCode::Delete));
   return TRUE;
 }
 
@@ -31,7 +27,7 @@ gboolean EscapeKey() {
   if (PtrnMode == ModeArea)
     GiveUpArea();
   else if (PtrnMode != ModeIdle)
-    ToolBoxButn(nullptr, GINT_TO_POINTER(ItemCancel));
+    ToolBoxButn(nullptr, GINT_TO_POINTER(ButtonCode::Cancel));
   else if (PtrnType != 0)
     ClearToolBox();
   else
@@ -70,7 +66,7 @@ gboolean CanvasKey(GtkWidget*, GdkEventKey* event, gpointer) {
     case GDK_KEY_Return:
     case GDK_KEY_KP_Enter:
     case GDK_KEY_ISO_Enter:
-      return ItemCommand(ItemRegister);
+      return ItemCommand(ButtonCode::Register);
     default:
       return MoveKey(event->keyval);
   }

@@ -157,8 +157,8 @@ gboolean ZoomWheel(GtkWidget*, GdkEventScroll* event, gpointer) {
     Turned = 0;
     return zooms;
   }
-  constexpr gint Last = 4;
-  const gint index = std::clamp(PtrnHedr.Parm2[ViewSlot::Zoom] + WheelSteps(event), 0, Last);
+  const gint index =
+      std::clamp(PtrnHedr.Parm2[ViewSlot::Zoom] + WheelSteps(event), 0, ZoomCode::Count - 1);
   if (index != PtrnHedr.Parm2[ViewSlot::Zoom]) ZoomUnderPointer(index, event);
   return TRUE;
 }

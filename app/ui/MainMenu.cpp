@@ -44,13 +44,7 @@ constexpr MenuRow EditRows[] = {
     Types(RowKind::GroupedTypes, PtrnSelct, PtrnSlct[0]),
 };
 
-constexpr MenuRow ZoomRows[] = {
-    Check("500%", PtrnZoom, 0, &PtrnZoom1[0], "<Control>5"),
-    Check("200%", PtrnZoom, 1, &PtrnZoom1[1], "<Control>2"),
-    Check("100%", PtrnZoom, 2, &PtrnZoom1[2], "<Control>1"),
-    Check(" 75%", PtrnZoom, 3, &PtrnZoom1[3], "<Control>7"),
-    Check(" 50%", PtrnZoom, 4, &PtrnZoom1[4], "<Control>0"),
-};
+constexpr auto ZoomRows = ZoomRowsOf(PtrnZoom, PtrnZoom1);
 
 constexpr MenuRow UnpickableRows[] = {
     Types(RowKind::Types, PtrnUnSelct, PtrnSlct[2]),

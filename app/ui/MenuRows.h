@@ -1,9 +1,11 @@
 // Menus as tables.
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "app/Menus.h"
+#include "layout/Guards.h"
 
 enum class RowKind { Item, Check, Separator, SubMenu, Types, GroupedTypes };
 
@@ -33,6 +35,15 @@ constexpr MenuRow Types(RowKind kind, MenuCallback callback, GtkWidget** slots) 
   return {kind, nullptr, callback, 0, slots};
 }
 inline constexpr MenuRow Separator;
+// The zooms, with the slots of their entries.
+constexpr std::array<MenuRow, ZoomCode::Count> ZoomRowsOf(MenuCallback zoom, GtkWidget** slots) {
+  using namespace ZoomCode;
+  return {Check("500%", zoom, Percent500, slots + Percent500, "<Control>5"),
+          Check("200%", zoom, Percent200, slots + Percent200, "<Control>2"),
+          Check("100%", zoom, Percent100, slots + Percent100, "<Control>1"),
+          Check(" 75%", zoom, Percent75, slots + Percent75, "<Control>7"),
+          Check(" 50%", zoom, Percent50, slots + Percent50, "<Control>0")};
+}
 
 // A group for the keys of a menu or menu bar, which owns it.
 GtkAccelGroup* NewKeys(GtkWidget* menu);

@@ -8,13 +8,7 @@
 #include "app/ui/PopupKeys.h"
 
 namespace {
-constexpr MenuRow ZoomRows[] = {
-    Check("500%", PtrnZoom, 0, &PtrnZoom2[0], "<Control>5"),
-    Check("200%", PtrnZoom, 1, &PtrnZoom2[1], "<Control>2"),
-    Check("100%", PtrnZoom, 2, &PtrnZoom2[2], "<Control>1"),
-    Check(" 75%", PtrnZoom, 3, &PtrnZoom2[3], "<Control>7"),
-    Check(" 50%", PtrnZoom, 4, &PtrnZoom2[4], "<Control>0"),
-};
+constexpr auto ZoomRows = ZoomRowsOf(PtrnZoom, PtrnZoom2);
 
 constexpr MenuRow ViewRows[] = {
     Item("再表示", PtrnRedraw, 0, nullptr, "F5"),
@@ -26,20 +20,21 @@ constexpr MenuRow ViewRows[] = {
 };
 
 constexpr MenuRow ItemRows[] = {
-    Item(" 登録   ", ToolBoxButn, 0, &ToolBoxMenu[0], nullptr),
-    Item(" 削除   ", ToolBoxButn, 1, &ToolBoxMenu[1], "Delete"),
-    Item(" 取消   ", ToolBoxButn, 2, &ToolBoxMenu[2], "Escape"),
+    Item(" 登録   ", ToolBoxButn, ButtonCode::Register, &ToolBoxMenu[ButtonCode::Register],
+         nullptr),
+    Item(" 削除   ", ToolBoxButn, ButtonCode::Delete, &ToolBoxMenu[ButtonCode::Delete], "Delete"),
+    Item(" 取消   ", ToolBoxButn, ButtonCode::Cancel, &ToolBoxMenu[ButtonCode::Cancel], "Escape"),
     Separator,
-    Item(" 複写   ", ToolBoxButn, 3, &ToolBoxMenu[3], nullptr),
-    Item(" 再表示 ", ToolBoxButn, 4, &ToolBoxMenu[4], nullptr),
+    Item(" 複写   ", ToolBoxButn, ButtonCode::Copy, &ToolBoxMenu[ButtonCode::Copy], nullptr),
+    Item(" 再表示 ", ToolBoxButn, ButtonCode::Redraw, &ToolBoxMenu[ButtonCode::Redraw], nullptr),
 };
 
 constexpr MenuRow AreaRows[] = {
-    Item(" 取消 ", ChooseAreaCommand, 0, nullptr, "Escape"),
+    Item(" 取消 ", ChooseAreaCommand, AreaCode::Cancel, nullptr, "Escape"),
     Separator,
-    Item(" 削除 ", ChooseAreaCommand, 1, nullptr, "Delete"),
-    Item(" 移動 ", ChooseAreaCommand, 2, nullptr),
-    Item(" 複写 ", ChooseAreaCommand, 3, nullptr),
+    Item(" 削除 ", ChooseAreaCommand, AreaCode::Delete, nullptr, "Delete"),
+    Item(" 移動 ", ChooseAreaCommand, AreaCode::Move, nullptr),
+    Item(" 複写 ", ChooseAreaCommand, AreaCode::Copy, nullptr),
 };
 
 constexpr std::span<const MenuRow> Menus[] = {ViewRows, ItemRows, AreaRows};

@@ -28,10 +28,11 @@ constexpr struct {
   const gchar* Label;
   gint Code;
   gint Start;
-} Buttons[] = {
-    {" 登録 ", 0, 1}, {" 削除 ", 1, 1}, {" 取消 ", 2, 1}, {" 再表示 ", 4, 0}, {" 複写 ", 3, 0}};
-constexpr gint RegisterCode = 0;
-constexpr gint RedisplayCode = 4;
+} Buttons[] = {{" 登録 ", ButtonCode::Register, 1},
+               {" 削除 ", ButtonCode::Delete, 1},
+               {" 取消 ", ButtonCode::Cancel, 1},
+               {" 再表示 ", ButtonCode::Redraw, 0},
+               {" 複写 ", ButtonCode::Copy, 0}};
 
 // Whether (0, 0) is where the panel of each type stood, not that it stood nowhere yet.
 bool IsParkedInCorner[ItemTypeCount];
@@ -126,7 +127,7 @@ GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint star
     gtk_box_pack_start(GTK_BOX(box), button, FALSE, FALSE, 0);
   else
     gtk_box_pack_end(GTK_BOX(box), button, FALSE, FALSE, 0);
-  gtk_widget_set_sensitive(button, no == RedisplayCode);
+  gtk_widget_set_sensitive(button, no == ButtonCode::Redraw);
   gtk_widget_show(button);
   KeepWidget(&ToolBoxButton[no], button);
   return button;
@@ -162,7 +163,7 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   BuildToolBoxPage(dialog.Window, type);
   for (const auto& button : Buttons)
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
-  SetDefaultButton(ToolBoxButton[RegisterCode]);
+  SetDefaultButton(ToolBoxButton[ButtonCode::Register]);
   SetDialogParent(dialog.Window, parent);
   ShareKeyboard(GTK_WINDOW(dialog.Window), parent);
   PlaceToolBox(dialog.Window, type);

@@ -3,7 +3,11 @@
 
 #include "layout/Records.h"
 
-// 0 cancel, 1 delete, 2 move, 3 copy.
+// The entries of the area's pop-up menu.
+namespace AreaCode {
+enum { Cancel = 0, Delete = 1, Move = 2, Copy = 3 };
+}
+// Does what an entry stands for; `data` is its code.
 void AreaBoxButn(GtkWidget* widget, gpointer data);
 // 1 when the item lies wholly inside the (ordered) area, bounds included.
 gint AreaButnCheck(const PTRNDATA* item);

@@ -3,7 +3,11 @@
 
 #include "layout/Records.h"
 
-// The tool box's buttons: 0 register, 1 delete, 2 cancel, 3 copy, 4 redraw.
+// The tool box's buttons, and the entries of the item's pop-up menu.
+namespace ButtonCode {
+enum { Register = 0, Delete = 1, Cancel = 2, Copy = 3, Redraw = 4 };
+}
+// Does what a button stands for; `data` is its code.
 void ToolBoxButn(GtkWidget* widget, gpointer data);
 gint ToolButn_OK();
 void ToolButn_Delt();

@@ -5,6 +5,10 @@
 
 struct PTRNHEDR;
 
+// The zooms by their index.
+namespace ZoomCode {
+enum { Percent500 = 0, Percent200 = 1, Percent100 = 2, Percent75 = 3, Percent50 = 4, Count = 5 };
+}
 // Percent of a zoom index; entry 0 when out of range.
 gint ZoomPercent(gint index);
 // Dots of a grid interval index 0..11; entry 0 when out of range.

@@ -12,12 +12,6 @@
 
 namespace {
 
-enum AreaCode {
-  AreaDelete = 1,
-  AreaMove = 2,
-  AreaCopy = 3,
-};
-
 void OrderCorners() {
   const POINT one = AreaPoint1;
   const POINT two = AreaPoint2;
@@ -89,13 +83,13 @@ void AreaBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
     OrderCorners();
   }
   switch (command) {
-    case AreaDelete:
+    case AreaCode::Delete:
       AreaButn_Delt();
       break;
-    case AreaMove:
+    case AreaCode::Move:
       AreaButn_Move();
       break;
-    case AreaCopy:
+    case AreaCode::Copy:
       AreaButn_Copy();
       break;
     default:

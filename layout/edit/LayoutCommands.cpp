@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr gint ZoomCount = 5;
-
 // A layout is named by its first title.
 void TakeName() {
   CopyText(PtrnName, FieldText(PtrnHedr.PtrnName1));
@@ -39,7 +37,7 @@ void TakeSettings() {
 
 gint ProfileZoom() {
   const gint zoom = ProfileReadInt1("", "PTRNDATA", "ZOOM");
-  return zoom >= 0 && zoom < ZoomCount ? zoom : 0;
+  return zoom >= 0 && zoom < ZoomCode::Count ? zoom : 0;
 }
 
 }  // namespace

@@ -7,14 +7,6 @@
 
 namespace {
 
-enum ButtonCode {
-  ButtonRegister = 0,
-  ButtonDelete = 1,
-  ButtonCancel = 2,
-  ButtonCopy = 3,
-  ButtonRedraw = 4,
-};
-
 // Back to idle with the panel open; edits that were not registered stay out of the store.
 void LetGo() {
   PtrnMode = ModeIdle;
@@ -31,24 +23,24 @@ void ToolBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
   }
   const gint button = GPOINTER_TO_INT(data);
   switch (button) {
-    case ButtonRegister:
+    case ButtonCode::Register:
       if (ToolButn_OK() == 0) {
         return;
       }
       break;
-    case ButtonDelete:
+    case ButtonCode::Delete:
       ToolButn_Delt();
       break;
-    case ButtonCopy:
+    case ButtonCode::Copy:
       ToolButn_Copy();
       break;
-    case ButtonRedraw:
+    case ButtonCode::Redraw:
       ClearToolBox();
       break;
     default:
       break;
   }
-  if (button != ButtonRedraw) {
+  if (button != ButtonCode::Redraw) {
     LetGo();
   }
   DrawRequest(1);

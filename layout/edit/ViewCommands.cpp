@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr gint ZoomCount = 5;
 constexpr gint ColorCodeCount = 4;
 constexpr gint LanguageCount = 3;
 
@@ -75,7 +74,7 @@ void PtrnRedraw([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer da
 
 void PtrnZoom(GtkWidget* widget, gpointer data) {
   const gint zoom = GPOINTER_TO_INT(data);
-  if (Chooses(widget, zoom, ZoomCount, PtrnHedr.Parm2[ViewSlot::Zoom])) {
+  if (Chooses(widget, zoom, ZoomCode::Count, PtrnHedr.Parm2[ViewSlot::Zoom])) {
     PtrnHedr.Parm2[ViewSlot::Zoom] = zoom;
     ClearToolBox();
     SizeRequest(1, PtrnHedr.Parm1[HedrSlot::Width], PtrnHedr.Parm1[HedrSlot::Height],
