@@ -11,7 +11,7 @@ class BenchWindow : public WindowTest {
  public:
   // As large as the display lets it be.
   BenchWindow() {
-    CopyText(PathName, Folder.Path());
+    CopyText(PathName, folder_.Path());
     OpenWindow();
     gtk_window_maximize(GTK_WINDOW(PtrnWnd));
     WaitFor([] { return gtk_window_is_maximized(GTK_WINDOW(PtrnWnd)) != FALSE; });
@@ -22,7 +22,7 @@ class BenchWindow : public WindowTest {
  private:
   void TestBody() override {}
 
-  ProgramFolder Folder;
+  ProgramFolder folder_;
 };
 
 // Paints all of the canvas that is to be seen.

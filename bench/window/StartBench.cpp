@@ -16,9 +16,9 @@
 namespace {
 
 struct Run {
-  double seconds = 0;  // of the processor
-  double elapsed = 0;
-  double megabytes = 0;
+  double Seconds = 0;  // of the processor
+  double Elapsed = 0;
+  double Megabytes = 0;
 };
 
 double SecondsOf(const timeval& time) {
@@ -44,23 +44,23 @@ Run Probe(std::vector<std::string> words) {
   char text[64] = "";
   const ssize_t length = read(ends[0], text, sizeof text - 1);
   Run run;
-  run.elapsed = static_cast<double>(g_get_monotonic_time() - begin) * 1e-6;
+  run.Elapsed = static_cast<double>(g_get_monotonic_time() - begin) * 1e-6;
   close(ends[0]);
   int status = 0;
   rusage usage{};
   wait4(child, &status, 0, &usage);
   if (status != 0 || length <= 0) return {};
-  run.seconds = SecondsOf(usage.ru_utime) + SecondsOf(usage.ru_stime);
-  run.megabytes = std::stod(text);
+  run.Seconds = SecondsOf(usage.ru_utime) + SecondsOf(usage.ru_stime);
+  run.Megabytes = std::stod(text);
   return run;
 }
 
 // The better figures of two runs.
 void KeepBest(Run& best, const Run& other) {
-  if (other.seconds == 0) return;
-  if (best.seconds == 0) best = other;
-  best.seconds = std::min(best.seconds, other.seconds);
-  best.elapsed = std::min(best.elapsed, other.elapsed);
+  if (other.Seconds == 0) return;
+  if (best.Seconds == 0) best = other;
+  best.Seconds = std::min(best.Seconds, other.Seconds);
+  best.Elapsed = std::min(best.Elapsed, other.Elapsed);
 }
 
 // The two in turn, so that other work of the machine meets both.
@@ -73,14 +73,14 @@ void StartUp(benchmark::State& state) {
     KeepBest(program, Probe({"program", folder.Path()}));
     KeepBest(bare, Probe({"bare"}));
   }
-  if (program.seconds == 0 || bare.seconds == 0) return state.SkipWithError("not started");
-  state.counters["ratio"] = program.seconds / bare.seconds;
-  state.counters["processor_ms"] = program.seconds * 1e3;
-  state.counters["reference_ms"] = bare.seconds * 1e3;
-  state.counters["elapsed_ratio"] = program.elapsed / bare.elapsed;
-  state.counters["elapsed_ms"] = program.elapsed * 1e3;
-  state.counters["resident_mb"] = program.megabytes;
-  state.counters["bare_mb"] = bare.megabytes;
+  if (program.Seconds == 0 || bare.Seconds == 0) return state.SkipWithError("not started");
+  state.counters["ratio"] = program.Seconds / bare.Seconds;
+  state.counters["processor_ms"] = program.Seconds * 1e3;
+  state.counters["reference_ms"] = bare.Seconds * 1e3;
+  state.counters["elapsed_ratio"] = program.Elapsed / bare.Elapsed;
+  state.counters["elapsed_ms"] = program.Elapsed * 1e3;
+  state.counters["resident_mb"] = program.Megabytes;
+  state.counters["bare_mb"] = bare.Megabytes;
 }
 BENCHMARK(StartUp)->Iterations(20)->Unit(benchmark::kMillisecond);
 
@@ -91,8 +91,8 @@ void Memory(benchmark::State& state) {
   for (int no = 0; no < 3; ++no) words.push_back(std::to_string(state.range(no)));
   Run run;
   for (auto _ : state) run = Probe(words);
-  if (run.megabytes == 0) return state.SkipWithError("not shown");
-  state.counters["resident_mb"] = run.megabytes;
+  if (run.Megabytes == 0) return state.SkipWithError("not shown");
+  state.counters["resident_mb"] = run.Megabytes;
 }
 BENCHMARK(Memory)
     ->Args({800, 600, 2})

@@ -38,14 +38,14 @@ GType EntryType() {
 }  // namespace
 
 CheckEntry::CheckEntry(bool active)
-    : Object(g_object_new(EntryType(), "active", active ? TRUE : FALSE, nullptr)) {}
+    : object_(g_object_new(EntryType(), "active", active ? TRUE : FALSE, nullptr)) {}
 
 CheckEntry::~CheckEntry() {
-  g_object_unref(Object);
+  g_object_unref(object_);
 }
 
 GtkWidget* CheckEntry::Widget() const {
-  return static_cast<GtkWidget*>(Object);
+  return static_cast<GtkWidget*>(object_);
 }
 
 void Toggle(ViewCommand command, gint data, bool active) {

@@ -13,7 +13,7 @@ class CheckEntry {
   GtkWidget* Widget() const;
 
  private:
-  gpointer Object;
+  gpointer object_;
 };
 
 // The entry switched on or off, given to a command.

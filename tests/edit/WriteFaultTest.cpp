@@ -17,21 +17,21 @@ namespace {
 // No file can grow while this lives, as on a full disk.
 class FullDisk {
  public:
-  FullDisk() : OldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &OldLimit);
-    const rlimit none{0, OldLimit.rlim_max};
+  FullDisk() : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &oldLimit_);
+    const rlimit none{0, oldLimit_.rlim_max};
     setrlimit(RLIMIT_FSIZE, &none);
   }
   ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &OldLimit);
-    std::signal(SIGXFSZ, OldHandler);
+    setrlimit(RLIMIT_FSIZE, &oldLimit_);
+    std::signal(SIGXFSZ, oldHandler_);
   }
   FullDisk(const FullDisk&) = delete;
   FullDisk& operator=(const FullDisk&) = delete;
 
  private:
-  rlimit OldLimit{};
-  void (*OldHandler)(int);
+  rlimit oldLimit_{};
+  void (*oldHandler_)(int);
 };
 
 class WriteFaultTest : public EditFixture {

@@ -48,7 +48,7 @@ FolderImage WithoutSnapshots(FolderImage image) {
 Sweep::Sweep(SweptWriter writer) : writer_(std::move(writer)) {
   writer_.Begin();
   before_ = writer_.Image();
-  memory_before_ = writer_.Memory();
+  memoryBefore_ = writer_.Memory();
   FileCalls::Watch([this](const std::string& name, const std::string& path) {
     if (name == "open to write" && !writer_.InPlace) {
       EXPECT_TRUE(IsTemporary(path)) << path << " is written directly";
@@ -59,7 +59,7 @@ Sweep::Sweep(SweptWriter writer) : writer_(std::move(writer)) {
   calls_ = FileCalls::Count();
   FileCalls::Heal();
   after_ = writer_.Image();
-  memory_after_ = writer_.Memory();
+  memoryAfter_ = writer_.Memory();
   EXPECT_NE(before_, after_) << "a writer that changes nothing proves nothing";
 }
 
@@ -160,6 +160,6 @@ void Sweep::CheckReport(const FolderImage& found, bool reported) const {
 
 void Sweep::CheckMemory() const {
   const std::string memory = writer_.Memory();
-  EXPECT_TRUE(memory == memory_before_ || memory == memory_after_)
+  EXPECT_TRUE(memory == memoryBefore_ || memory == memoryAfter_)
       << "the program holds something between";
 }

@@ -55,8 +55,8 @@ class Sweep {
   SweptWriter writer_;
   FolderImage before_;
   FolderImage after_;
-  std::string memory_before_;
-  std::string memory_after_;
+  std::string memoryBefore_;
+  std::string memoryAfter_;
   std::set<std::string> committed_;  // contents on the way
   std::string failed_;               // call that went wrong in the last run
   int calls_ = 0;

@@ -78,10 +78,10 @@ TEST_F(LayoutFileHostileTest, ShortTextBlockLeavesItemsWithoutTexts) {
 TEST_F(LayoutFileHostileTest, CountsThatLie) {
   const std::string body = TwoItems().substr(466);
   struct Claim {
-    gint items;
-    gint texts;
-    gint result;
-    gint kept;
+    gint Items;
+    gint Texts;
+    gint Result;
+    gint Kept;
   };
   const Claim claims[] = {
       {G_MAXINT, G_MAXINT, 0, 2},
@@ -98,10 +98,10 @@ TEST_F(LayoutFileHostileTest, CountsThatLie) {
       {0, 27, 1, 0},
   };
   for (const Claim& claim : claims) {
-    SCOPED_TRACE(testing::Message() << claim.items << " items, " << claim.texts << " bytes");
-    const std::string file = HeaderWithCounts(claim.items, claim.texts, 0).Raw(body).Str();
-    EXPECT_EQ(Read(file), claim.result);
-    EXPECT_EQ(GetPtrnCount(), claim.kept);
+    SCOPED_TRACE(testing::Message() << claim.Items << " items, " << claim.Texts << " bytes");
+    const std::string file = HeaderWithCounts(claim.Items, claim.Texts, 0).Raw(body).Str();
+    EXPECT_EQ(Read(file), claim.Result);
+    EXPECT_EQ(GetPtrnCount(), claim.Kept);
     UseWhatWasRead(file);
   }
 }

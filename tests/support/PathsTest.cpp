@@ -15,10 +15,10 @@ std::string Made(const gchar* path, const gchar* name, const gchar* ext) {
 }
 
 struct Parts {
-  gchar path[PathSize];
-  gchar name[PathSize];
-  gchar ext[PathSize];
-  explicit Parts(const gchar* full) { SplitPath(full, path, name, ext); }
+  gchar Path[PathSize];
+  gchar Name[PathSize];
+  gchar Ext[PathSize];
+  explicit Parts(const gchar* full) { SplitPath(full, Path, Name, Ext); }
 };
 
 TEST(MakePath, JoinsTheParts) {
@@ -57,42 +57,42 @@ TEST(JoinPath, HasNoLimit) {
 
 TEST(SplitPath, TakesTheFirstPointOfTheFile) {
   const Parts parts("/x/y/file.tar.gz");
-  EXPECT_STREQ("/x/y", parts.path);
-  EXPECT_STREQ("file", parts.name);
-  EXPECT_STREQ("tar.gz", parts.ext);
+  EXPECT_STREQ("/x/y", parts.Path);
+  EXPECT_STREQ("file", parts.Name);
+  EXPECT_STREQ("tar.gz", parts.Ext);
 }
 
 TEST(SplitPath, PassesOverASecondPoint) {
   const Parts parts("/x/a..b");
-  EXPECT_STREQ("/x", parts.path);
-  EXPECT_STREQ("a", parts.name);
-  EXPECT_STREQ("b", parts.ext);
-  EXPECT_STREQ(".b", Parts("/x/a...b").ext);
+  EXPECT_STREQ("/x", parts.Path);
+  EXPECT_STREQ("a", parts.Name);
+  EXPECT_STREQ("b", parts.Ext);
+  EXPECT_STREQ(".b", Parts("/x/a...b").Ext);
 }
 
 TEST(SplitPath, AFileWithoutFolderOrPoint) {
   const Parts parts("file");
-  EXPECT_STREQ(".", parts.path);
-  EXPECT_STREQ("file", parts.name);
-  EXPECT_STREQ("", parts.ext);
+  EXPECT_STREQ(".", parts.Path);
+  EXPECT_STREQ("file", parts.Name);
+  EXPECT_STREQ("", parts.Ext);
 }
 
 TEST(SplitPath, PointsOfTheFolderDoNotCount) {
   const Parts parts("/x.d/file");
-  EXPECT_STREQ("/x.d", parts.path);
-  EXPECT_STREQ("file", parts.name);
-  EXPECT_STREQ("", parts.ext);
+  EXPECT_STREQ("/x.d", parts.Path);
+  EXPECT_STREQ("file", parts.Name);
+  EXPECT_STREQ("", parts.Ext);
 }
 
 TEST(SplitPath, EdgesOfThePath) {
-  EXPECT_STREQ("/", Parts("/file").path);
-  EXPECT_STREQ("/", Parts("//file").path);
-  EXPECT_STREQ("/x", Parts("/x//file").path);
-  EXPECT_STREQ("/x/y", Parts("/x/y/").path);
-  EXPECT_STREQ("", Parts("/x/y/").name);
-  EXPECT_STREQ(".", Parts("").path);
-  EXPECT_STREQ("", Parts(".hidden").name);
-  EXPECT_STREQ("hidden", Parts(".hidden").ext);
+  EXPECT_STREQ("/", Parts("/file").Path);
+  EXPECT_STREQ("/", Parts("//file").Path);
+  EXPECT_STREQ("/x", Parts("/x//file").Path);
+  EXPECT_STREQ("/x/y", Parts("/x/y/").Path);
+  EXPECT_STREQ("", Parts("/x/y/").Name);
+  EXPECT_STREQ(".", Parts("").Path);
+  EXPECT_STREQ("", Parts(".hidden").Name);
+  EXPECT_STREQ("hidden", Parts(".hidden").Ext);
 }
 
 TEST(SplitPath, NullOutputsArePassedOver) {
@@ -113,9 +113,9 @@ TEST(SplitPath, AnOutputMayBeTheInput) {
 TEST(SplitPath, CutsWhatABufferCannotHold) {
   const std::string folder = "/" + std::string(300, 'x');
   const Parts parts((folder + "/" + std::string(300, 'n') + "." + std::string(300, 'e')).c_str());
-  EXPECT_EQ(folder.substr(0, PathSize - 1), parts.path);
-  EXPECT_EQ(std::string(PathSize - 1, 'n'), parts.name);
-  EXPECT_EQ(std::string(PathSize - 1, 'e'), parts.ext);
+  EXPECT_EQ(folder.substr(0, PathSize - 1), parts.Path);
+  EXPECT_EQ(std::string(PathSize - 1, 'n'), parts.Name);
+  EXPECT_EQ(std::string(PathSize - 1, 'e'), parts.Ext);
 }
 
 }  // namespace

@@ -71,14 +71,14 @@ TEST(MarkData, OnlyAOneSetsAPixel) {
 
 TEST(MarkData, RowLengthIsThatOfTheGroup) {
   const struct {
-    gint markno;
-    gint byte;  // of pixel (3, 1)
+    gint Mark;
+    gint Byte;  // of pixel (3, 1)
   } cases[] = {{0, 2}, {99, 2}, {100, 4}, {199, 4}, {200, 8}, {249, 8}, {250, 4}, {300, 8}};
   for (const auto& one : cases) {
     MARKDATA mark = {};
-    MarkDataSet(one.markno, &mark, 3, 1, 1);
-    EXPECT_EQ(0x08, mark.mark[one.byte]) << "mark " << one.markno;
-    EXPECT_EQ(1, MarkDataGet(one.markno, &mark, 3, 1));
+    MarkDataSet(one.Mark, &mark, 3, 1, 1);
+    EXPECT_EQ(0x08, mark.mark[one.Byte]) << "mark " << one.Mark;
+    EXPECT_EQ(1, MarkDataGet(one.Mark, &mark, 3, 1));
     EXPECT_EQ(511, std::count(std::begin(mark.mark), std::end(mark.mark), 0));
   }
 }

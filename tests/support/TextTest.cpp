@@ -17,8 +17,8 @@ TEST(Text, AsciiIsTheSameInBoth) {
 
 TEST(Text, ConvertsEveryPlaneOfEucBothWays) {
   struct {
-    const char* utf8;
-    const char* euc;
+    const char* Utf8;
+    const char* Euc;
   } const pairs[] = {
       {"日本", "\xC6\xFC\xCB\xDC"},             // JIS X 0208
       {"Ａあア", "\xA3\xC1\xA4\xA2\xA5\xA2"},   // JIS X 0208, full width
@@ -29,8 +29,8 @@ TEST(Text, ConvertsEveryPlaneOfEucBothWays) {
       {"Ω Ж ─", "\xA6\xB8 \xA7\xA8 \xA8\xA1"},  // Greek, Cyrillic, frame
   };
   for (const auto& pair : pairs) {
-    EXPECT_EQ(pair.euc, EucFromUtf8(pair.utf8)) << pair.utf8;
-    EXPECT_EQ(pair.utf8, Utf8FromEuc(pair.euc)) << pair.utf8;
+    EXPECT_EQ(pair.Euc, EucFromUtf8(pair.Utf8)) << pair.Utf8;
+    EXPECT_EQ(pair.Utf8, Utf8FromEuc(pair.Euc)) << pair.Utf8;
   }
 }
 
