@@ -26,6 +26,7 @@ gchar* FontNameList[FontCount + 1] = {
     FontList[12], FontList[13], FontList[14], FontList[15], FontList[16], FontList[17],
     FontList[18], FontList[19], NoFont};
 gint FontHeight[FontCount];
+gint Language;
 
 const SIZE MarkDataSize[7] = {{16, 32}, {16, 32}, {32, 32}, {32, 32}, {64, 32}, {32, 64}, {64, 64}};
 const guint8 ByteMask[8] = {1, 2, 4, 8, 16, 32, 64, 128};

@@ -1,3 +1,5 @@
+#include <iterator>
+
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "app/ui/MenuRows.h"
@@ -120,4 +122,10 @@ void SetMenuActive1() {
 void MarkToggled(GtkWidget*, gpointer) {
   // A click on the entry that is on turns its mark off without a change behind it.
   if (MarksBeingSet == 0) SetMenuActive1();
+}
+
+void SetMenuActive2(gint flags) {
+  for (gsize i = 0; i < std::size(ToolBoxMenu); i++)
+    if (ToolBoxMenu[i] != nullptr) gtk_widget_set_sensitive(ToolBoxMenu[i], (flags >> i & 1) != 0);
+  SetToolBoxButton(flags);
 }

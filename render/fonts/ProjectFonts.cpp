@@ -1,3 +1,4 @@
+// An object of its own, so that a test can stand in for the function.
 #include "render/FontTable.h"
 #include "render/fonts/DrawFonts.h"
 #include "support/Resource.h"

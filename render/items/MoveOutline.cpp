@@ -93,3 +93,12 @@ void DrawMoveData06(Drawable* drawable, DrawGc* gc, const PTRNDATA* item, gint u
   }
   outline.Rectangle({x, y, x + Zoomed(item->Size.cx, zoom), y + Zoomed(item->Size.cy, zoom)});
 }
+
+void DrawUndfData(Drawable* drawable, DrawGc* gc, gint zoom) {
+  const gint count = GetPtrnCount();
+  for (gint no = 0; no < count; ++no) {
+    const PTRNDATA* item = ViewPtrnData(no);
+    if (item == nullptr || item->UndfFlag == 0) continue;
+    if (const OutlineFunction draw = OutlineOf(item->Type)) draw(drawable, gc, item, 1, zoom);
+  }
+}

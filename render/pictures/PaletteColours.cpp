@@ -1,3 +1,4 @@
+// An object of its own, so that a test can stand in for the function.
 #include "render/Palette.h"
 #include "support/Resource.h"
 

@@ -6,6 +6,7 @@
 #include <new>
 #include <utility>
 
+#include "render/surface/Paint.h"
 #include "support/BareMemory.h"
 
 namespace {
@@ -110,4 +111,8 @@ cairo_surface_t* Drawable::Cairo() {
                                                  static_cast<int>(stride_ * sizeof(guint32)));
   }
   return cairo_;
+}
+
+void FillPixels(Drawable* drawable, gint x, gint y, gint w, gint h, guint32 rgb) {
+  FillBox(*drawable, {x, y, gint64{x} + w, gint64{y} + h}, rgb);
 }
