@@ -49,6 +49,8 @@ struct Limit {
   const gchar* Text = nullptr;  // of the others
   Condition Counts = {};
   gint Most = G_MAXINT;
+
+  constexpr bool IsSet() const { return Least != G_MININT || Most != G_MAXINT; }
 };
 
 struct Parameter {

@@ -7,10 +7,8 @@
 
 #include "Constant.h"
 
-namespace {
-
 // Index = type code. The ranks' steps of ten leave room for types in between.
-constexpr ItemTypeRow Rows[] = {
+constexpr ItemTypeRow ItemTypeRows[] = {
     {},
     {.Type = TypeFrame,
      .Name = "Frame",
@@ -159,11 +157,13 @@ constexpr ItemTypeRow Rows[] = {
      .NeedsCode = true,
      .Covers = true},
 };
-static_assert(std::size(Rows) == ItemTypeCount + 1, "each type has a row");
+
+namespace {
+static_assert(std::size(ItemTypeRows) == ItemTypeCount + 1, "each type has a row");
 
 constexpr bool RowsAreInOrder() {
   for (gint type = 0; type <= ItemTypeCount; ++type)
-    if (Rows[type].Type != type) return false;
+    if (ItemTypeRows[type].Type != type) return false;
   return true;
 }
 static_assert(RowsAreInOrder());
@@ -171,24 +171,24 @@ static_assert(RowsAreInOrder());
 // The type that is painted at a place.
 constexpr gint PaintedAt(gint place) {
   const auto before = [](const ItemTypeRow& one) {
-    return std::count_if(std::begin(Rows) + 1, std::end(Rows), [&one](const ItemTypeRow& other) {
-      return other.PaintRank < one.PaintRank;
-    });
+    return std::count_if(
+        std::begin(ItemTypeRows) + 1, std::end(ItemTypeRows),
+        [&one](const ItemTypeRow& other) { return other.PaintRank < one.PaintRank; });
   };
-  const auto found = std::find_if(std::begin(Rows) + 1, std::end(Rows),
+  const auto found = std::find_if(std::begin(ItemTypeRows) + 1, std::end(ItemTypeRows),
                                   [&](const ItemTypeRow& row) { return before(row) == place; });
   return found->Type;  // none: two ranks are alike, and this is no constant
 }
 
 constexpr bool NeedsTwoPoints(gint type) {
-  return Rows[type].Shape > ItemShape::Anchored;
+  return ItemTypeRows[type].Shape > ItemShape::Anchored;
 }
 
 constexpr gint PointsOf(gint no) {
   return NeedsTwoPoints(no + 1) ? 1 : 0;
 }
 constexpr const gchar* LabelAt(gint no) {
-  return Rows[no + 1].Label;
+  return ItemTypeRows[no + 1].Label;
 }
 
 // An array takes its entries one by one. A list that is short of a type does not compile.
@@ -202,14 +202,6 @@ constinit const gint PtrnDataType[] = {0, OF_EACH_TYPE(PointsOf)};
 constinit const gint PtrnTable[] = {OF_EACH_TYPE(PaintedAt)};
 constinit const gchar* const PtrnTypeList[] = {OF_EACH_TYPE(LabelAt), ""};
 
-const ItemTypeRow& ItemTypeOf(gint type) {
-  return Rows[IsItemType(type) ? type : 0];
-}
-
 std::span<const ItemTypeRow> ItemTypes() {
-  return std::span(Rows).subspan(1);
-}
-
-bool HasTwoPoints(gint type) {
-  return IsItemType(type) && NeedsTwoPoints(type);
+  return std::span(ItemTypeRows).subspan(1);
 }

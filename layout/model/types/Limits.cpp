@@ -21,7 +21,7 @@ BrokenLimit FindBrokenLimit(std::span<const Parameter> parameters, std::span<con
   BrokenLimit first;
   for (const Parameter& parameter : parameters)
     for (const Limit& limit : parameter.Limits)
-      if ((first.By == nullptr || limit.Message < first.By->Message) &&
+      if (limit.IsSet() && (first.By == nullptr || limit.Message < first.By->Message) &&
           IsOutside(parameter, limit, values) && Counts(limit.Counts, values))
         first = {&parameter, &limit};
   return first;

@@ -1,7 +1,9 @@
 #include "layout/Parameters.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <type_traits>
 #include <vector>
 
 #include "Constant.h"
@@ -219,16 +221,28 @@ Parameters RowsOf(gint type) {
   return parameters;
 }
 
+struct TypeParameters {
+  Parameters Rows;
+  std::array<const Parameter*, std::extent_v<decltype(PTRNDATA::Parm)>> OfSlot = {};
+};
+
+const TypeParameters& ParametersOf(gint type) {
+  static const auto byType = [] {
+    std::array<TypeParameters, ItemTypeCount + 1> all;
+    for (gsize no = 1; no < all.size(); ++no) {
+      auto& [rows, ofSlot] = all[no];
+      rows = RowsOf(static_cast<gint>(no));
+      for (const Parameter& row : rows) std::fill_n(ofSlot.begin() + row.Slot, row.Count(), &row);
+    }
+    return all;
+  }();
+  return byType[IsItemType(type) ? static_cast<gsize>(type) : 0];
+}
+
 }  // namespace
 
 std::span<const Parameter> ItemParameters(gint type) {
-  static const auto byType = [] {
-    std::array<Parameters, ItemTypeCount + 1> all;
-    for (gsize no = 1; no < all.size(); ++no) all[no] = RowsOf(static_cast<gint>(no));
-    return all;
-  }();
-  if (!IsItemType(type)) return {};
-  return byType[static_cast<gsize>(type)];
+  return ParametersOf(type).Rows;
 }
 
 const Parameter* FindParameter(std::span<const Parameter> parameters, gint slot) {
@@ -238,5 +252,6 @@ const Parameter* FindParameter(std::span<const Parameter> parameters, gint slot)
 }
 
 const Parameter* FindParameter(gint type, gint slot) {
-  return FindParameter(ItemParameters(type), slot);
+  const auto& ofSlot = ParametersOf(type).OfSlot;
+  return slot >= 0 && slot < std::ssize(ofSlot) ? ofSlot[static_cast<gsize>(slot)] : nullptr;
 }

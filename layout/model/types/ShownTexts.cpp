@@ -4,13 +4,12 @@
 #include "support/Text.h"
 
 std::string_view TextOf(const PTRNDATA& item, gint language) {
-  const std::string_view texts[] = {FieldText(item.Text1), FieldText(item.Text2),
-                                    FieldText(item.Text3)};
-  return texts[TextIndex(language)];
+  const gchar(*const texts[])[sizeof item.Text1] = {&item.Text1, &item.Text2, &item.Text3};
+  return FieldText(*texts[TextIndex(language)]);
 }
 
 std::string_view TitleOf(const PTRNHEDR& header, gint language) {
-  const std::string_view titles[] = {FieldText(header.PtrnName1), FieldText(header.PtrnName2),
-                                     FieldText(header.PtrnName3)};
-  return titles[TextIndex(language)];
+  const gchar(*const titles[])[sizeof header.PtrnName1] = {&header.PtrnName1, &header.PtrnName2,
+                                                           &header.PtrnName3};
+  return FieldText(*titles[TextIndex(language)]);
 }
