@@ -5,7 +5,7 @@
 #include "render/FontTable.h"
 #include "render/HitTest.h"
 #include "render/Items.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/Pictures.h"

@@ -1,6 +1,5 @@
 #include <set>
 
-#include "Constant.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/LayoutFile.h"

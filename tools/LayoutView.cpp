@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "Constant.h"
 #include "layout/EditState.h"
 #include "layout/ItemSlots.h"
 #include "layout/LayoutFile.h"
@@ -11,11 +10,12 @@
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"
+#include "support/ConstantLists.h"
 #include "support/FileTools.h"
 #include "support/Resource.h"
 #include "tools/Report.h"

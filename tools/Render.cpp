@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Surface.h"
 #include "support/FileTools.h"
 #include "support/Files.h"

@@ -8,7 +8,7 @@
 #include "app/ui/OverlayRegion.h"
 #include "app/ui/StartPicture.h"
 #include "dialogs/kit/SwatchArea.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/PaintedLayout.h"
 #include "render/Primitives.h"
 

@@ -9,8 +9,8 @@
 #include "app/ui/WindowPlace.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
-#include "layout/Commands.h"
-#include "render/Layout.h"
+#include "layout/LayoutCommands.h"
+#include "render/LayoutPicture.h"
 
 namespace {
 GtkWidget* CreateCanvas() {

@@ -4,7 +4,7 @@
 
 #include "PtrnData.h"
 #include "render/HitTest.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 
 namespace {
 // How far outline and handles may stand off the box.

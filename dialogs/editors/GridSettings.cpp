@@ -1,5 +1,4 @@
 // The grid settings dialog of the open layout.
-#include "Constant.h"
 #include "dialogs/Editors.h"
 #include "dialogs/frame/TableDialog.h"
 #include "dialogs/kit/Rows.h"
@@ -7,6 +6,7 @@
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
+#include "support/ConstantLists.h"
 
 // The dialog's copy of the header; the controls are bound to it.
 PTRNHEDR DlgHedr;

@@ -1,7 +1,6 @@
 // The section of the tool box that all types share, and the point read-outs.
 #include <map>
 
-#include "Constant.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "dialogs/frame/Accessible.h"
@@ -9,6 +8,7 @@
 #include "dialogs/toolbox/ToolBoxRows.h"
 #include "layout/ItemSlots.h"
 #include "layout/Screen.h"
+#include "support/ConstantLists.h"
 
 GtkWidget* ToolBox_Label1 = nullptr;
 GtkWidget* ToolBox_Label2 = nullptr;

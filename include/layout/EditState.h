@@ -1,4 +1,4 @@
-// State of the editing in the window, read by the overlay. Written by Mouse.h and Commands.h.
+// State of the editing in the window, read by the overlay. Written by Mouse.h and LayoutCommands.h.
 #pragma once
 
 #include "layout/ItemTypes.h"

@@ -72,3 +72,11 @@ std::span<const ItemTypeRow> ItemTypes();
 inline bool HasTwoPoints(gint type) {
   return ItemTypeOf(type).Shape > ItemShape::Anchored;
 }
+
+// 1 for a type placed by two points, 0 for one placed by an anchor; index = type code, entry 0
+// unused.
+extern const gint PtrnDataType[ItemTypeCount + 1];
+// The painting order: type codes, areas first, texts last. Layout files keep their items in it too.
+extern const gint PtrnTable[ItemTypeCount];
+// Names of the item types, index = type code - 1.
+extern const gchar* const PtrnTypeList[ItemTypeCount + 1];

@@ -1,6 +1,5 @@
 #include "layout/dialog/LayoutSettingsPages.h"
 
-#include "Constant.h"
 #include "dialogs/kit/Rows.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"

@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "layout/Area.h"
-#include "layout/Commands.h"
 #include "layout/CopyDialogs.h"
 #include "layout/EditState.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/CopyMove.h"

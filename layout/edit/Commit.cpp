@@ -1,10 +1,10 @@
 #include "layout/Commit.h"
 
-#include "layout/Commands.h"
 #include "layout/CopyDialogs.h"
 #include "layout/EditState.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Registry.h"
 #include "layout/Screen.h"
 #include "layout/ShownTexts.h"

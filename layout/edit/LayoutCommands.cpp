@@ -1,4 +1,4 @@
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Mouse.h"

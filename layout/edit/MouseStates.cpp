@@ -1,7 +1,7 @@
 #include "layout/edit/MouseStates.h"
 
-#include "Constant.h"
 #include "layout/Store.h"
+#include "support/ConstantLists.h"
 
 void RunState(const StateHandlers& handlers, const POINT& point) {
   if (PtrnMode < ModeIdle || PtrnMode > ModeArea) {

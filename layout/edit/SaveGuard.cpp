@@ -1,4 +1,4 @@
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 

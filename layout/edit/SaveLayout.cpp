@@ -1,7 +1,7 @@
 // The one road to the layout file. What a save would cost is kept beside it first.
 #include <string>
 
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
 #include "project/ProjectRecord.h"

@@ -2,8 +2,8 @@
 // program. Slot PtrnSaveCount - 1 is the newest.
 #include <unistd.h>
 
-#include "layout/Commands.h"
 #include "layout/ItemSlots.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"

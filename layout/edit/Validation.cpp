@@ -1,9 +1,9 @@
-#include "Constant.h"
 #include "layout/Commit.h"
 #include "layout/Screen.h"
 #include "layout/Snap.h"
 #include "layout/Store.h"
 #include "layout/Validate.h"
+#include "support/ConstantLists.h"
 
 gint DispErrorMesg(gint k) {
   constexpr gint MessageCount = 19;

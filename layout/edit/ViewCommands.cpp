@@ -2,7 +2,6 @@
 // the commands again; so each acts only where the mark and the state differ.
 #include <glib-object.h>
 
-#include "Constant.h"
 #include "layout/EditState.h"
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
@@ -10,6 +9,7 @@
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "render/FontTable.h"
+#include "support/ConstantLists.h"
 #include "support/Resource.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include "project/ProjectRecord.h"
 #include "project/check/Check.h"
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"
 #include "render/pictures/PictureFiles.h"

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Mouse.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"

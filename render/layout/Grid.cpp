@@ -1,6 +1,6 @@
 #include "layout/Guards.h"
 #include "layout/Store.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/surface/PageArea.h"
 

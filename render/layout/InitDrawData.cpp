@@ -1,5 +1,5 @@
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/fonts/DrawFonts.h"

@@ -2,10 +2,10 @@
 #include <array>
 #include <vector>
 
-#include "Constant.h"
 #include "layout/ItemSlots.h"
+#include "layout/ItemTypes.h"
 #include "layout/Store.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 
 void DrawPtrnData(Drawable* drawable, DrawGc* gc, std::span<PTRNDATA> items, gint layer) {
   std::array<std::vector<PTRNDATA*>, ItemTypeCount + 1> byType;

@@ -1,5 +1,5 @@
+#include "render/LayoutPicture.h"
 #include "layout/Store.h"
-#include "render/Layout.h"
 #include "render/pictures/PictureFiles.h"
 
 void DrawLayout(Drawable* drawable, DrawGc* gc, const PTRNHEDR& header, std::span<PTRNDATA> items) {

@@ -5,7 +5,7 @@
 #include "layout/ShownTexts.h"
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"

@@ -4,7 +4,7 @@
 
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"
 #include "render/primitives/Gradation.h"

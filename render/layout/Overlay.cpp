@@ -2,7 +2,7 @@
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/surface/Plane.h"
 

@@ -8,7 +8,7 @@
 #include "layout/Guards.h"
 #include "layout/Store.h"
 #include "project/ProjectRecord.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/layout/Calendar.h"
 #include "render/pictures/PictureFiles.h"

@@ -1,6 +1,6 @@
 #include <optional>
 
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/layout/Calendar.h"
 
 namespace {

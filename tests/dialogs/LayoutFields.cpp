@@ -10,7 +10,7 @@
 #include "common/TempFolder.h"
 #include "dialogs/Controls.h"
 #include "dialogs/Fields.h"
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"
 

@@ -7,7 +7,7 @@
 #include "dialogs/Controls.h"
 #include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"

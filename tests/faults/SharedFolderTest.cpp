@@ -14,7 +14,7 @@
 #include "faults/FileCalls.h"
 #include "faults/FolderImage.h"
 #include "faults/ProjectAtHand.h"
-#include "layout/Commands.h"
+#include "layout/LayoutCommands.h"
 #include "support/FileTools.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/layout/Calendar.h"
 #include "render/primitives/Gradation.h"
 #include "support/Text.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "layout/ItemSlots.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 
 namespace {
 

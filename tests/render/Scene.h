@@ -14,7 +14,7 @@
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"

@@ -3,7 +3,7 @@
 #include "Constant.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "window/Exposures.h"
 #include "window/Widgets.h"
 #include "window/WindowTest.h"

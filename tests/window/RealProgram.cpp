@@ -4,7 +4,7 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "window/PopUps.h"
 #include "window/Program.h"

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 #include "support/Text.h"

@@ -4,9 +4,9 @@
 #include <array>
 #include <map>
 
-#include "Constant.h"
 #include "layout/ItemTypes.h"
 #include "layout/Parameters.h"
+#include "support/ConstantLists.h"
 #include "support/Text.h"
 #include "tools/json/Numbers.h"
 

@@ -4,8 +4,8 @@
 #include <new>
 #include <vector>
 
-#include "Constant.h"
 #include "layout/Guards.h"
+#include "layout/ItemTypes.h"
 #include "layout/LayoutFile.h"
 #include "layout/model/file/StoredItem.h"
 #include "layout/model/file/TextWords.h"

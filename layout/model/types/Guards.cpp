@@ -1,8 +1,8 @@
 #include "layout/Guards.h"
 
-#include "Constant.h"
 #include "layout/ItemSlots.h"
 #include "layout/Records.h"
+#include "support/ConstantLists.h"
 #include "support/Resource.h"
 
 namespace {

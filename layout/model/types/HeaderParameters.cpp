@@ -1,8 +1,8 @@
 // The parameters of a layout header.
-#include "Constant.h"
 #include "layout/ItemSlots.h"
 #include "layout/Parameters.h"
 #include "layout/model/types/Ranges.h"
+#include "support/ConstantLists.h"
 
 using namespace Ranges;
 using enum Spread;

@@ -5,8 +5,6 @@
 #include <iterator>
 #include <string_view>
 
-#include "Constant.h"
-
 // Index = type code. The ranks' steps of ten leave room for types in between.
 constexpr ItemTypeRow ItemTypeRows[] = {
     {},

@@ -6,10 +6,10 @@
 #include <type_traits>
 #include <vector>
 
-#include "Constant.h"
 #include "layout/ItemTypes.h"
 #include "layout/model/types/Messages.h"
 #include "layout/model/types/Ranges.h"
+#include "support/ConstantLists.h"
 
 using namespace Ranges;
 using enum Spread;

@@ -1,8 +1,8 @@
 // The parameters of a project.
-#include "Constant.h"
 #include "layout/Parameters.h"
 #include "layout/ProjectSlots.h"
 #include "layout/model/types/Ranges.h"
+#include "support/ConstantLists.h"
 
 using namespace Ranges;
 using enum Spread;

@@ -1,8 +1,8 @@
 // What the numbers of parameters stand for, in the words of their tables.
 #pragma once
 
-#include "Constant.h"
 #include "layout/Parameters.h"
+#include "support/ConstantLists.h"
 #include "support/Resource.h"
 
 namespace Ranges {

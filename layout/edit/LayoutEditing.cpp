@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <iterator>
 
-#include "layout/Commands.h"
 #include "layout/EditState.h"
+#include "layout/LayoutCommands.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/MouseStates.h"

@@ -1,6 +1,6 @@
 #include "project/check/Check.h"
 #include "render/FontTable.h"
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "tools/Commands.h"
 #include "tools/FindingText.h"

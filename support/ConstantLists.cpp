@@ -1,4 +1,4 @@
-#include "Constant.h"
+#include "support/ConstantLists.h"
 
 const gchar* const IDCodeList[18] = {"（なし）",
                                      "自ウィンドウへメッセージ送信",

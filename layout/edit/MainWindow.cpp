@@ -1,3 +1,0 @@
-#include "layout/EditWindows.h"
-
-GtkWidget* PtrnWnd;
