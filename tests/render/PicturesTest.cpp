@@ -1,4 +1,4 @@
-#include "render/Layout.h"
+#include "render/LayoutPicture.h"
 #include "render/Pictures.h"
 
 #include <gtest/gtest.h>
