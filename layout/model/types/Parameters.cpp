@@ -179,11 +179,13 @@ constexpr TypeSet Of(Types... types) {
 }
 
 // Which types a table is for.
-const struct {
+struct ParameterTable {
   TypeSet Types;
   std::span<const Parameter> Rows;
-} Tables[] = {
-    {~TypeSet{0}, ItemRows},
+};
+constexpr TypeSet AllTypes = ~TypeSet{0};
+constexpr ParameterTable Tables[] = {
+    {AllTypes, ItemRows},
     {Of(TypeFrame), FrameRows},
     {Of(TypeLine), LineRows},
     {Of(TypeRectangle, TypeEllipse), ShapeRows},
@@ -202,6 +204,18 @@ const struct {
     {Of(TypeScrollBar), ScrollBarRows},
     {Of(TypeSpinButton), SpinButtonRows},
 };
+
+// Each type has parameters besides those of all items.
+constexpr bool EachTypeHasParameters() {
+  TypeSet types = 1;  // 0 is no type
+  for (const ParameterTable& table : Tables) {
+    if (table.Types != AllTypes) {
+      types |= table.Types;
+    }
+  }
+  return types == (TypeSet{1} << (ItemTypeCount + 1)) - 1;
+}
+static_assert(EachTypeHasParameters());
 
 bool IsOfSecondPoint(const Parameter& row) {
   return row.Slot == ItemSlot::X2 || row.Slot == ItemSlot::Y2;
