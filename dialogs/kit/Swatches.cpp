@@ -2,6 +2,7 @@
 #include <string>
 
 #include "dialogs/Kit.h"
+#include "dialogs/Pickers.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/RecentColours.h"
 #include "dialogs/kit/SwatchArea.h"

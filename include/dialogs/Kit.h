@@ -86,10 +86,6 @@ void Dlg_ComboBox(GtkWidget* parent, GtkWidget* table, DLG_COMBOBOX* rows);
 void Dlg_ColrData(GtkWidget* parent, GtkWidget* table, DLG_COLRDATA* rows);
 void Dlg_MarkData(GtkWidget* parent, GtkWidget* table, DLG_MARKDATA* rows);
 
-// What a press on a swatch opens, brought by the editors: the number chosen, beginning at
-// `current`, -1 when closed without a choice.
-gint Dlg_ColrSelect(GtkWidget* parent, gint current = 0);
-gint Dlg_MarkSelect(GtkWidget* parent, gint current = 0);
 // Paint a swatch.
 void DrawColrData(GtkWidget* colrbox, cairo_t* cairo, gint colrno, COLRDATA colrdata);
 void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDATA& markdata);
