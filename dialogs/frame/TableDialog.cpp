@@ -23,7 +23,9 @@ void Build(const DialogWindow& window, const TableDialog& dialog) {
 }
 
 void PressOk(GtkWidget* button, const TableDialog& dialog) {
-  if (!dialog.Check || dialog.Check() != 0) CloseDialog(button, Confirmed);
+  if (dialog.Check && dialog.Check() == 0) return;
+  if (dialog.Take) dialog.Take();
+  CloseDialog(button, Confirmed);
 }
 
 }  // namespace
@@ -36,7 +38,5 @@ gint RunTableDialog(GtkWidget* parent, const TableDialog& dialog) {
                            .Default = dialog.ReturnPressesOk});
   frame.Buttons.insert(frame.Buttons.end(), dialog.More.begin(), dialog.More.end());
   frame.Buttons.push_back(CancelButton(dialog.Cancel));
-  const gint answer = RunDialog(parent, std::move(frame));
-  if (answer == Confirmed && dialog.Take) dialog.Take();
-  return answer;
+  return RunDialog(parent, std::move(frame));
 }

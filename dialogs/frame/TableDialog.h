@@ -22,7 +22,7 @@ struct TableDialog {
   const gchar* Cancel = " 取消 ";
   // 0 refuses, when it has told the reason, and the dialog stays.
   std::function<gint()> Check = {};
-  // Takes the working copy over when the dialog was confirmed and has gone.
+  // Takes the working copy over when the dialog is confirmed, before it closes.
   std::function<void()> Take = {};
 };
 
