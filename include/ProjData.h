@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Types.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "project/LogicGeneration.h"
 #include "project/ProjectCommands.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"

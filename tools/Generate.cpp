@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <vector>
 
+#include "layout/ProjectRecord.h"
 #include "project/LogicGeneration.h"
-#include "project/ProjectRecord.h"
 #include "project/check/Check.h"
 #include "project/logic/Generation.h"
 #include "support/Files.h"

@@ -11,7 +11,7 @@
 #include <memory>
 
 #include "layout/LayoutFile.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "support/RecordBytes.h"
 #include "support/Resource.h"
 #include "support/Text.h"

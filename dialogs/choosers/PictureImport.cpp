@@ -1,7 +1,7 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/kit/Cells.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
-#include "project/ProjectRecord.h"
 #include "support/Files.h"
 #include "support/KeptResources.h"
 #include "support/Text.h"

@@ -7,7 +7,7 @@
 #include "dialogs/toolbox/ToolBoxRows.h"
 #include "layout/Guards.h"
 #include "layout/ItemTypes.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "support/Resource.h"
 
 namespace {

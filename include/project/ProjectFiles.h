@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 
 // Fills `EditData` and the palette from the designer profile; keys that are missing give 0.
 void ProjSetDefault();

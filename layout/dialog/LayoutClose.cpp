@@ -2,10 +2,10 @@
 #include "dialogs/Kit.h"
 #include "dialogs/choosers/NameDialog.h"
 #include "dialogs/frame/Accessible.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"
-#include "project/ProjectRecord.h"
 #include "support/Files.h"
 #include "support/Text.h"
 

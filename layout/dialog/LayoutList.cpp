@@ -3,8 +3,8 @@
 #include <string>
 
 #include "dialogs/choosers/NameList.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Records.h"
-#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 

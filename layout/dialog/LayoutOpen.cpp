@@ -4,10 +4,10 @@
 #include "dialogs/Choosers.h"
 #include "dialogs/choosers/NameDialog.h"
 #include "dialogs/kit/Cells.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/dialog/LayoutList.h"
-#include "project/ProjectRecord.h"
 #include "support/Files.h"
 #include "support/Text.h"
 

@@ -2,10 +2,10 @@
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Mouse.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
-#include "project/ProjectRecord.h"
 #include "support/Profile.h"
 #include "support/Text.h"
 

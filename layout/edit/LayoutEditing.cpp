@@ -4,11 +4,11 @@
 
 #include "layout/EditState.h"
 #include "layout/LayoutCommands.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "layout/edit/MouseStates.h"
 #include "layout/edit/OwnFile.h"
-#include "project/ProjectRecord.h"
 
 void PtrnDataInit() {
   PtrnType = 0;

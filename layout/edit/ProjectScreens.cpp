@@ -1,8 +1,8 @@
 // Notes in the project which layout is its start screen and which its exit screen.
 #include "layout/ItemSlots.h"
 #include "layout/LayoutSettings.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Store.h"
-#include "project/ProjectRecord.h"
 #include "support/Files.h"
 #include "support/Text.h"
 

@@ -2,9 +2,9 @@
 #include <string>
 
 #include "layout/LayoutCommands.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Store.h"
 #include "layout/edit/OwnFile.h"
-#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 
 namespace {

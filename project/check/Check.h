@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "layout/Layout.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "support/Resource.h"
 
 // A layout of the project.

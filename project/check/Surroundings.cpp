@@ -1,6 +1,6 @@
 // Fonts and pictures as the canvas uses them.
 #include "layout/ItemTypes.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "project/check/Check.h"
 #include "render/FontTable.h"
 #include "render/LayoutPicture.h"

@@ -2,8 +2,8 @@
 
 #include "dialogs/kit/Rows.h"
 #include "layout/Parameters.h"
+#include "layout/ProjectRecord.h"
 #include "layout/ProjectSlots.h"
-#include "project/ProjectRecord.h"
 #include "support/Resource.h"
 
 using namespace Rows;

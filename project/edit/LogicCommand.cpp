@@ -1,7 +1,7 @@
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "project/LogicGeneration.h"
 #include "project/ProjectCommands.h"
-#include "project/ProjectRecord.h"
 #include "project/logic/Generation.h"
 
 void LogicDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {

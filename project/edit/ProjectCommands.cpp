@@ -3,11 +3,11 @@
 
 #include "layout/LayoutCommands.h"
 #include "layout/Mouse.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
 #include "project/ProjectCommands.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "project/edit/ShownProject.h"
 #include "render/Marks.h"
 #include "render/Palette.h"

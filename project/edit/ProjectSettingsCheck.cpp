@@ -2,10 +2,10 @@
 #include <cstring>
 
 #include "layout/Parameters.h"
+#include "layout/ProjectRecord.h"
 #include "layout/ProjectSlots.h"
 #include "layout/Screen.h"
 #include "project/ProjectCommands.h"
-#include "project/ProjectRecord.h"
 
 GtkWidget* EditProj = nullptr;
 

@@ -1,8 +1,8 @@
 #include "project/edit/ShownProject.h"
 
+#include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "render/Marks.h"
 #include "render/Palette.h"
 

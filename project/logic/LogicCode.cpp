@@ -7,9 +7,9 @@
 #include <string>
 
 #include "layout/LayoutFile.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Registry.h"
 #include "project/LogicGeneration.h"
-#include "project/ProjectRecord.h"
 #include "project/logic/Generation.h"
 #include "project/model/LayoutNames.h"
 #include "support/FileTools.h"

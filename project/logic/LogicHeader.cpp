@@ -1,6 +1,6 @@
+#include "layout/ProjectRecord.h"
 #include "layout/Registry.h"
 #include "project/LogicGeneration.h"
-#include "project/ProjectRecord.h"
 #include "project/logic/Generation.h"
 #include "project/logic/LogicSource.h"
 #include "support/FileTools.h"

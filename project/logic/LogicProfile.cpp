@@ -1,8 +1,8 @@
 #include <optional>
 #include <string>
 
+#include "layout/ProjectRecord.h"
 #include "project/LogicGeneration.h"
-#include "project/ProjectRecord.h"
 #include "project/logic/Generation.h"
 #include "project/logic/RuntimeProfile.h"
 #include "support/FileTools.h"

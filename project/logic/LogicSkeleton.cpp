@@ -2,8 +2,8 @@
 #include <optional>
 #include <string>
 
+#include "layout/ProjectRecord.h"
 #include "project/LogicGeneration.h"
-#include "project/ProjectRecord.h"
 #include "project/logic/Generation.h"
 #include "project/logic/LogicSource.h"
 #include "project/model/LayoutNames.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 
 // A new profile with its sections and default keys.
 std::string NewRuntimeProfile();

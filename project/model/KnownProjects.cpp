@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include "layout/ProjectRecord.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/Profile.h"
 #include "support/ProfileFile.h"

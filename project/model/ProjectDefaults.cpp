@@ -1,8 +1,8 @@
 #include <span>
 
+#include "layout/ProjectRecord.h"
 #include "layout/ProjectSlots.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "support/Profile.h"
 #include "support/Resource.h"
 

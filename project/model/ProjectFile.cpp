@@ -1,7 +1,7 @@
 #include <cstring>
 
+#include "layout/ProjectRecord.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "project/model/ProjectTexts.h"
 #include "support/FileTools.h"
 #include "support/Files.h"

@@ -1,8 +1,8 @@
 #include <cstring>
 #include <string>
 
+#include "layout/ProjectRecord.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/Program.h"

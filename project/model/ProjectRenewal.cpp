@@ -1,8 +1,8 @@
 #include "layout/ItemSlots.h"
 #include "layout/LayoutFile.h"
+#include "layout/ProjectRecord.h"
 #include "layout/model/store/ProjectLook.h"
 #include "project/ProjectFiles.h"
-#include "project/ProjectRecord.h"
 #include "project/model/LayoutNames.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "layout/ItemSlots.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "render/Items.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"

@@ -2,9 +2,9 @@
 #include <string>
 
 #include "layout/Guards.h"
+#include "layout/ProjectRecord.h"
 #include "layout/ShownTexts.h"
 #include "layout/Store.h"
-#include "project/ProjectRecord.h"
 #include "render/LayoutPicture.h"
 #include "render/Pictures.h"
 #include "render/Primitives.h"

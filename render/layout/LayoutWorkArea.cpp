@@ -2,8 +2,8 @@
 #include <array>
 #include <string>
 
+#include "layout/ProjectRecord.h"
 #include "layout/Store.h"
-#include "project/ProjectRecord.h"
 #include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/items/ItemLook.h"

@@ -6,8 +6,8 @@
 
 #include "layout/EditState.h"
 #include "layout/Guards.h"
+#include "layout/ProjectRecord.h"
 #include "layout/Store.h"
-#include "project/ProjectRecord.h"
 #include "render/LayoutPicture.h"
 #include "render/Primitives.h"
 #include "render/layout/Calendar.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
 #include "support/KeptResources.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "layout/Parameters.h"
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "tests/layout/SlotConstants.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 #include "support/Program.h"
 #include "support/RecordBytes.h"
 #include "support/Text.h"

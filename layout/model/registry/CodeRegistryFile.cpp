@@ -1,6 +1,6 @@
+#include "layout/ProjectRecord.h"
 #include "layout/Registry.h"
 #include "layout/model/registry/RecordFile.h"
-#include "project/ProjectRecord.h"
 
 std::optional<std::vector<PTRNCODE>> LoadPtrnCode() {
   auto registry = ReadRecords<PTRNCODE>(ProjPath, CodeRegistryName);

@@ -1,8 +1,8 @@
 #include <algorithm>
 
+#include "layout/ProjectRecord.h"
 #include "layout/Registry.h"
 #include "layout/model/registry/RecordFile.h"
-#include "project/ProjectRecord.h"
 #include "support/Text.h"
 
 namespace {

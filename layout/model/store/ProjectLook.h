@@ -1,8 +1,8 @@
 // The common look that a project gives its layouts: new ones take it, renewal pushes it again.
 #pragma once
 
+#include "layout/ProjectRecord.h"
 #include "layout/Records.h"
-#include "project/ProjectRecord.h"
 
 // Sizes, title area, work area, button area, cursor, key colours and logo of a parent window.
 void CopyParentLook(PTRNHEDR& header, const PROJDATA& project);

@@ -1,4 +1,4 @@
-#include "project/ProjectRecord.h"
+#include "layout/ProjectRecord.h"
 
 gint ProjFlag;
 gchar ProjName[82];
