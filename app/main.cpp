@@ -6,6 +6,7 @@
 #include "support/Text.h"
 
 namespace {
+
 // Tells scripts that it was the display.
 constexpr int NoDisplay = 3;
 
@@ -15,10 +16,12 @@ void RunMainLoop() {
   g_main_loop_run(MainLoop);
   MainLoop = nullptr;
 }
+
 // For the launcher: --tell LINE LINE shows a message and does nothing else.
 bool IsMessage(int argc, char** argv) {
   return argc == 4 && std::strcmp(argv[1], "--tell") == 0;
 }
+
 }  // namespace
 
 int main(int argc, char** argv) {

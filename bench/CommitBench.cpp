@@ -1,6 +1,6 @@
 // The repainting that a commit of one item causes, against painting the whole layout.
-#include "FullLayout.h"
-#include "Measure.h"
+#include "bench/FullLayout.h"
+#include "bench/Measure.h"
 #include "render/PaintedLayout.h"
 
 namespace {
@@ -27,6 +27,7 @@ void CommitOneItem(benchmark::State& state) {
         DrawWindow1(&picture, &gc);
       });
 }
+
 BENCHMARK(CommitOneItem)->Unit(benchmark::kMillisecond);
 
 }  // namespace

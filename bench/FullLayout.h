@@ -3,7 +3,7 @@
 
 #include <random>
 
-#include "render/ItemSamples.h"
+#include "tests/render/ItemSamples.h"
 
 constexpr gint LayoutWidth = 1600;
 constexpr gint LayoutHeight = 1200;

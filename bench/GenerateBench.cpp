@@ -1,9 +1,9 @@
 // Logic generation for projects of layouts of 100 items that use 5,000 codes. The reference is the
 // plain reading of all layout files.
-#include "Measure.h"
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "SampleItems.h"
+#include "bench/Measure.h"
+#include "bench/SampleItems.h"
 #include "support/FileTools.h"
 #include "tests/common/TempFolder.h"
 
@@ -58,6 +58,7 @@ void Generate(benchmark::State& state) {
         }
       });
 }
+
 BENCHMARK(Generate)->Arg(100)->Arg(500)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

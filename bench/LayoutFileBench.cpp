@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <vector>
 
-#include "Measure.h"
 #include "PtrnMisc.h"
-#include "SampleItems.h"
+#include "bench/Measure.h"
+#include "bench/SampleItems.h"
 #include "layout/Store.h"
 #include "support/BareMemory.h"
 #include "support/FileHandle.h"
@@ -77,18 +77,22 @@ void Write(benchmark::State& state, void (*before)()) {
 void ReadLayout(benchmark::State& state) {
   Read(state, ForgetMemory);
 }
+
 void ReadLayoutCold(benchmark::State& state) {
   Read(state, [] {
     ForgetMemory();
     ForgetCaches();
   });
 }
+
 void ReadLayoutAgain(benchmark::State& state) {
   Read(state, KeepMemory);
 }
+
 void WriteLayout(benchmark::State& state) {
   Write(state, KeepMemory);
 }
+
 void WriteLayoutCold(benchmark::State& state) {
   Write(state, ForgetCaches);
 }

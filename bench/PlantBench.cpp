@@ -1,9 +1,9 @@
 // The sample project PowerPlant, 40 layouts with 3,000 items, as the build ships it. The reference
 // is the plain reading of all its layout files.
-#include "Measure.h"
 #include "ProjData.h"
 #include "PtrnDraw.h"
 #include "PtrnMisc.h"
+#include "bench/Measure.h"
 #include "layout/ItemSlots.h"
 #include "layout/Store.h"
 #include "project/check/Check.h"
@@ -30,8 +30,9 @@ bool OpenPlant(benchmark::State& state) {
 }
 
 void ReadFilesPlainly() {
-  for (const std::string& name : LayoutNames(ProjPath))
+  for (const std::string& name : LayoutNames(ProjPath)) {
     benchmark::DoNotOptimize(ReadWholeFile(JoinPath(ProjPath, name, "ptn")));
+  }
 }
 
 // Reads the project's layouts one after the other; `use` finds each in the store.
@@ -55,6 +56,7 @@ void ReadPlant(benchmark::State& state) {
       state, [] { ReadLayouts([] {}); }, ReadFilesPlainly);
   ExtPtrnData();
 }
+
 BENCHMARK(ReadPlant)->Unit(benchmark::kMillisecond);
 
 void CheckPlant(benchmark::State& state) {
@@ -63,6 +65,7 @@ void CheckPlant(benchmark::State& state) {
       state, [] { benchmark::DoNotOptimize(CheckProject(LoadCheckedProject())); },
       ReadFilesPlainly);
 }
+
 BENCHMARK(CheckPlant)->Unit(benchmark::kMillisecond);
 
 void PaintPlant(benchmark::State& state) {
@@ -71,6 +74,7 @@ void PaintPlant(benchmark::State& state) {
       state, [] { ReadLayouts(PaintLayout); }, ReadFilesPlainly);
   ExtPtrnData();
 }
+
 BENCHMARK(PaintPlant)->Unit(benchmark::kMillisecond);
 
 }  // namespace

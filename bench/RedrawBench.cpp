@@ -1,6 +1,6 @@
 // Painting a whole layout, against plain fills of the boxes that its items cover.
-#include "FullLayout.h"
-#include "Measure.h"
+#include "bench/FullLayout.h"
+#include "bench/Measure.h"
 
 namespace {
 
@@ -37,6 +37,7 @@ void FullRedraw(benchmark::State& state) {
   Compare(
       state, [&] { DrawWindow1(&picture, &gc); }, [&] { FillBoxes(picture); });
 }
+
 BENCHMARK(FullRedraw)->Unit(benchmark::kMillisecond);
 
 // Against the same layout without its texts.
@@ -55,6 +56,7 @@ void RedrawWithTexts(benchmark::State& state) {
   for (auto _ : state) best = std::min(best, Seconds(redraw));
   Report(state, best, plain);
 }
+
 BENCHMARK(RedrawWithTexts)->Unit(benchmark::kMillisecond);
 
 // The types apart: 1,000 items of one type, against the fills of their boxes.
@@ -70,6 +72,7 @@ void RedrawOfType(benchmark::State& state) {
   Compare(
       state, [&] { DrawPtrnData(&picture, &gc, 0); }, [&] { FillBoxes(picture); });
 }
+
 BENCHMARK(RedrawOfType)->DenseRange(1, 15)->Unit(benchmark::kMillisecond);
 
 }  // namespace

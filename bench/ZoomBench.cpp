@@ -4,8 +4,8 @@
 
 #include <fstream>
 
-#include "FullLayout.h"
-#include "Measure.h"
+#include "bench/FullLayout.h"
+#include "bench/Measure.h"
 
 namespace {
 
@@ -47,6 +47,7 @@ void ZoomedExpose(benchmark::State& state) {
                          scale, GDK_INTERP_TILES);
       });
 }
+
 // Scrolling over the largest layout at 500 %; the counter is the resident memory after it.
 void ScrollLargest(benchmark::State& state) {
   constexpr gint side = 9999;
@@ -66,6 +67,7 @@ void ScrollLargest(benchmark::State& state) {
   state.counters["resident_mb"] =
       static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
+
 BENCHMARK(ScrollLargest)->Iterations(20)->Unit(benchmark::kMillisecond);
 
 BENCHMARK(ZoomedExpose)->DenseRange(0, 4)->Unit(benchmark::kMillisecond);

@@ -1,6 +1,6 @@
 // Font descriptors: their height, the names looked for, and the fonts found. The first line is a
 // descriptor, the second a text in it.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "render/fonts/FontCatalogue.h"
 #include "render/fonts/FontSet.h"
 #include "support/Resource.h"

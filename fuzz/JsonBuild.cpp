@@ -1,5 +1,5 @@
 // Building files from JSON. What was built can be shown.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "tools/json/Convert.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

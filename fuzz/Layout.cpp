@@ -2,7 +2,7 @@
 // takes the same bytes from memory.
 #include <vector>
 
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "layout/Guards.h"
 #include "layout/Store.h"
 #include "tools/json/Convert.h"

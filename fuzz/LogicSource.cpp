@@ -1,7 +1,8 @@
 // The source editing of logic generation: the first line is a layout's name, the rest the source
 // that the user wrote.
 #include "project/logic/LogicSource.h"
-#include "Fuzz.h"
+
+#include "fuzz/Fuzz.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::string_view user = InputText(data, size);

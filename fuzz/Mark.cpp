@@ -1,6 +1,6 @@
 // The marks: read into the drawing marks and painted. An input of odd size is a file as it is, one
 // of even size is repeated to a whole file.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "render/Marks.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"

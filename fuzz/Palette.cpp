@@ -1,6 +1,7 @@
 // The palette: read into the drawing colours, and written as it was read.
 #include "render/Palette.h"
-#include "Fuzz.h"
+
+#include "fuzz/Fuzz.h"
 #include "render/Primitives.h"
 #include "support/Resource.h"
 #include "tools/json/Convert.h"

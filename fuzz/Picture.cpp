@@ -1,8 +1,8 @@
 // A layout loaded, painted, looked at in each zoom and hit, in every colour system, language and
 // state of the editing.
-#include "Fuzz.h"
 #include "PtrnData.h"
 #include "PtrnDraw.h"
+#include "fuzz/Fuzz.h"
 #include "render/PaintedLayout.h"
 #include "tools/json/Convert.h"
 
@@ -19,8 +19,9 @@ void PrepareOnce() {
                  "FONTNAME1=b,-*-fixed-medium-r-normal--24-*-*-*-c-*-*-*\n"
                  "FONTNAME20=c,-misc-fixed-medium-r-normal--14-*-*-*-c-*-*-*\n");
     for (gint no = 0; no < ColrCount; ++no) ColrData[no] = {no * 655, 65535 - no * 655, no * 64};
-    for (gint no = 0; no < MarkCount; ++no)
+    for (gint no = 0; no < MarkCount; ++no) {
       std::fill(std::begin(MarkData[no].mark), std::end(MarkData[no].mark), 0x5A + no);
+    }
     InitDrawData();
     SetDrawColr();
     SetDrawMark();

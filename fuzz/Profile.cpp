@@ -1,5 +1,5 @@
 // Profiles: reading, setting and removing keys. Section and key come from the first two lines.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "support/ProfileText.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // Project files: opened, saved again, and brought into a runtime profile.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "layout/ProjectSlots.h"
 #include "project/logic/RuntimeProfile.h"
 #include "tools/json/Convert.h"

@@ -1,6 +1,7 @@
 // The code registry: read, a code entered, written, brought into the code header.
 #include "layout/Registry.h"
-#include "Fuzz.h"
+
+#include "fuzz/Fuzz.h"
 #include "project/logic/LogicSource.h"
 #include "tools/json/Convert.h"
 

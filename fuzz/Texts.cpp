@@ -1,5 +1,5 @@
 // String lists: read and added to. The first line of the input is also entered.
-#include "Fuzz.h"
+#include "fuzz/Fuzz.h"
 #include "layout/Registry.h"
 #include "tools/json/Convert.h"
 

@@ -10,9 +10,9 @@ KeptResources* Kept = nullptr;
 
 }  // namespace
 
-KeptResources::KeptResources(SettingsOf settings) : Settings(settings) {
-  std::copy(std::begin(ColrData), std::end(ColrData), Colours.begin());
-  std::copy(std::begin(MarkData), std::end(MarkData), Marks.begin());
+KeptResources::KeptResources(SettingsOf settings) : settings_(settings) {
+  std::copy(std::begin(ColrData), std::end(ColrData), colours_.begin());
+  std::copy(std::begin(MarkData), std::end(MarkData), marks_.begin());
   Kept = this;
 }
 
@@ -21,23 +21,21 @@ KeptResources::~KeptResources() {
 }
 
 bool KeptResources::RestorePalette() const {
-  if (std::memcmp(ColrData, Colours.data(), sizeof ColrData) == 0) {
-    return false;
-  }
-  std::copy(Colours.begin(), Colours.end(), std::begin(ColrData));
+  if (std::memcmp(ColrData, colours_.data(), sizeof ColrData) == 0) return false;
+  std::copy(colours_.begin(), colours_.end(), std::begin(ColrData));
   return true;
 }
 
 void KeptResources::RestoreMarks() const {
-  std::copy(Marks.begin(), Marks.end(), std::begin(MarkData));
+  std::copy(marks_.begin(), marks_.end(), std::begin(MarkData));
 }
 
 bool ResourcesAreNewProjects() {
-  return Kept != nullptr && Kept->Settings == SettingsOf::NewProject;
+  return Kept != nullptr && Kept->settings_ == SettingsOf::NewProject;
 }
 
 void KeepSavedPalette() {
-  if (Kept != nullptr && Kept->Settings == SettingsOf::OpenProject) {
-    std::copy(std::begin(ColrData), std::end(ColrData), Kept->Colours.begin());
+  if (Kept != nullptr && Kept->settings_ == SettingsOf::OpenProject) {
+    std::copy(std::begin(ColrData), std::end(ColrData), Kept->colours_.begin());
   }
 }

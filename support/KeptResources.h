@@ -28,9 +28,9 @@ class KeptResources {
   friend bool ResourcesAreNewProjects();
   friend void KeepSavedPalette();
 
-  SettingsOf Settings;
-  std::array<COLRDATA, ColrCount> Colours;
-  std::array<MARKDATA, MarkCount> Marks;
+  SettingsOf settings_;
+  std::array<COLRDATA, ColrCount> colours_;
+  std::array<MARKDATA, MarkCount> marks_;
 };
 
 // True while the settings of a new project are shown: then nothing of it is written, for the only

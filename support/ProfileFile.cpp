@@ -19,8 +19,9 @@ FileHandle LockFolderOf(const std::string& path) {
   const std::string folder = path.substr(0, path.rfind('/') + 1);
   FileHandle lock(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   for (int attempt = 0; lock && attempt < Tries; ++attempt) {
-    if (flock(lock.Get(), LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR))
+    if (flock(lock.Get(), LOCK_EX | LOCK_NB) == 0 || (errno != EWOULDBLOCK && errno != EINTR)) {
       break;
+    }
     g_usleep(Pause);
   }
   return lock;

@@ -82,6 +82,7 @@ bool FindKey(LineReader& reader, std::string_view key) {
 bool IsDigit(char letter) {
   return g_ascii_isdigit(letter);
 }
+
 bool IsHexDigit(char letter) {
   return g_ascii_isxdigit(letter);
 }

@@ -22,9 +22,9 @@ constexpr mode_t PrivateMode = 0600;
 
 // What the file is to hold: `offset` zero bytes, then `bytes`.
 struct Content {
-  std::string_view bytes;
-  off_t offset;
-  off_t Size() const { return offset + static_cast<off_t>(bytes.size()); }
+  std::string_view Bytes;
+  off_t Offset;
+  off_t Size() const { return Offset + static_cast<off_t>(Bytes.size()); }
 };
 
 enum class Outcome { Done, Failed, Refused };  // Refused = by the folder, not by the disk
@@ -112,7 +112,7 @@ Outcome ReplaceByRename(const std::string& path, const Content& content, const s
   Temporary temporary(path, old == nullptr ? NewFileMode : PrivateMode);
   if (!temporary) return OutcomeOf(errno);
   FileHandle& file = temporary.File();
-  if (!file.WriteAt(content.bytes, content.offset) || !file.SetLength(content.Size())) {
+  if (!file.WriteAt(content.Bytes, content.Offset) || !file.SetLength(content.Size())) {
     return Outcome::Failed;
   }
   if (old != nullptr && !TakeAttributes(file, *old)) return Outcome::Refused;
@@ -140,7 +140,7 @@ bool WriteZeros(const FileHandle& file, off_t count) {
 
 // Overwrites first and cuts last, so that the file keeps the room it has.
 bool Overwrite(const FileHandle& file, const Content& content) {
-  return WriteZeros(file, content.offset) && file.WriteAt(content.bytes, content.offset) &&
+  return WriteZeros(file, content.Offset) && file.WriteAt(content.Bytes, content.Offset) &&
          file.SetLength(content.Size()) && file.Flush();
 }
 

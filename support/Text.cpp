@@ -46,6 +46,7 @@ constexpr unsigned char SupplementShift = 0x8F;  // two bytes of JIS X 0212 foll
 bool IsPlain(unsigned char byte) {
   return byte < 0x80;
 }
+
 bool IsCharacterByte(unsigned char byte) {
   return byte >= 0xA1 && byte <= 0xFE;
 }

@@ -15,10 +15,11 @@ int RunCheck(const CheckOptions& options) {
   FontDataInit(1);
   const std::vector<Finding> findings = CheckProject(LoadCheckedProject());
   std::string text;
-  if (options.Json)
+  if (options.Json) {
     text = JsonOfFindings(findings);
-  else
+  } else {
     for (const Finding& finding : findings) text += FindingLine(finding);
+  }
   const int printed = Print(text);
   return findings.empty() ? printed : ExitFailed;
 }

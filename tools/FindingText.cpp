@@ -17,8 +17,9 @@ std::string OneLine(std::string text) {
 
 std::string FindingLine(const Finding& finding) {
   std::string line = finding.Layout.empty() ? "project" : OneLine(finding.Layout);
-  if (finding.Item >= 0)
+  if (finding.Item >= 0) {
     line += ": item " + std::to_string(finding.Item) + " (" + ItemTypeOf(finding.Type).Label + ")";
+  }
   if (!finding.Field.empty()) line += ": " + finding.Field;
   return line + ": " + finding.Message + " [" + finding.Code + "]\n";
 }

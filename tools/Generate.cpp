@@ -25,12 +25,14 @@ bool SetProgramFolder(const std::string& folder) {
 // Whether `folder` can take files; else the reason has been told.
 bool UsableFolder(const std::string& folder) {
   struct stat status {};
-  if (stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode))
+  if (stat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) {
     return Refuse(folder, "no such folder");
+  }
   if (access(folder.c_str(), W_OK | X_OK) != 0) return Refuse(folder, "cannot be written");
   // The longest name made there is that of a file with a four-character extension.
-  if (folder.size() + 1 + std::string_view(ProjName).size() + sizeof(".cpp") > PathSize)
+  if (folder.size() + 1 + std::string_view(ProjName).size() + sizeof(".cpp") > PathSize) {
     return Refuse(folder, "its path is longer than the program can hold");
+  }
   return true;
 }
 
@@ -48,8 +50,9 @@ int ReportProducts(const LogicProducts& products) {
 // Whether all names can stand in sources; else each that cannot has been told.
 bool UsableNames() {
   const std::vector<Finding> findings = RunCheckRule(SourceNameRule(), LoadCheckedProject());
-  for (const Finding& finding : findings)
+  for (const Finding& finding : findings) {
     std::fputs(("varnixtool: " + FindingLine(finding)).c_str(), stderr);
+  }
   return findings.empty();
 }
 
@@ -58,10 +61,12 @@ bool UsableNames() {
 int RunGenerate(const GenerateOptions& options) {
   const ProfileInUse profile(options.Profile);
   if (!profile.Good() || !OpenProject(options.Project)) return ExitFailed;
-  if (!options.ProgramFolder.empty() && !SetProgramFolder(options.ProgramFolder))
+  if (!options.ProgramFolder.empty() && !SetProgramFolder(options.ProgramFolder)) {
     return Fail(options.ProgramFolder, "its path is longer than the program can hold");
+  }
   if (ProjData.ProgPath[0] == '\0') return Fail(options.Project, "names no program folder");
-  if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath) || !UsableNames())
+  if (!UsableFolder(ProjPath) || !UsableFolder(ProjData.ProgPath) || !UsableNames()) {
     return ExitFailed;
+  }
   return ReportProducts(GenerateLogic());
 }

@@ -15,9 +15,10 @@ std::string HitLine(const Layout& layout, const POINT& point) {
   if (!IsOnLayout(layout.Header, point.x, point.y)) return "none\n";
   for (std::size_t no = 0; no < layout.Items.size(); ++no) {
     const PTRNDATA& item = layout.Items[no];
-    if (const gint hit = SearchPtrnData(&point, &item))
+    if (const gint hit = SearchPtrnData(&point, &item)) {
       return "index=" + std::to_string(no) + " type=" + std::to_string(item.Type) +
              " hit=" + std::to_string(hit) + "\n";
+    }
   }
   return "none\n";
 }

@@ -33,8 +33,9 @@ bool OpenProject(const std::string& file) {
   PROJFILE record;
   if (!FillRecords(&record, 1, *input.Bytes)) return Refuse(file, "not a whole project file");
   // The bitmap folder is the longest path made of the project's.
-  if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath))
+  if (name.size() >= sizeof(ProjName) || folder.size() + sizeof("/Bitmap") > sizeof(ProjPath)) {
     return Refuse(file, "its path is longer than the program can hold");
+  }
   EnterProject(folder, name);
   ProjData = CleanTexts(record.Data);
   return true;

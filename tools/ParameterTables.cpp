@@ -15,13 +15,16 @@ std::string SlotsText(const Parameter& parameter) {
 bool IsAny(const Parameter& /*parameter*/) {
   return true;
 }
+
 bool IsOfSecondPoint(const Parameter& parameter) {
   return parameter.Slot == ItemSlot::X2 || parameter.Slot == ItemSlot::Y2;
 }
+
 // Of every item type, besides a second point.
 bool IsCommon(const Parameter& parameter) {
   return parameter.Slot <= ItemSlot::Y1 || parameter.Slot >= ItemSlot::TopLayer;
 }
+
 bool IsOwn(const Parameter& parameter) {
   return !IsOfSecondPoint(parameter) && !IsCommon(parameter);
 }
@@ -29,8 +32,9 @@ bool IsOwn(const Parameter& parameter) {
 std::string Listed(std::span<const Parameter> parameters,
                    bool (*isListed)(const Parameter& parameter)) {
   std::string list;
-  for (const Parameter& parameter : parameters)
+  for (const Parameter& parameter : parameters) {
     if (isListed(parameter)) list += (list.empty() ? "" : ", ") + SlotsText(parameter);
+  }
   return list;
 }
 
@@ -48,8 +52,9 @@ std::string TypeRows() {
   for (gint type = TypeFrame; IsItemType(type);) {
     const std::string list = Listed(ItemParameters(type), IsOwn);
     std::string types = TypeText(type);
-    while (IsItemType(++type) && Listed(ItemParameters(type), IsOwn) == list)
+    while (IsItemType(++type) && Listed(ItemParameters(type), IsOwn) == list) {
       types += ", " + TypeText(type);
+    }
     rows += Row(types, list);
   }
   return rows;

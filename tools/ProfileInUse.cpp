@@ -24,8 +24,9 @@ std::string DesignerFolder() {
   std::string own = ExecutableFolder();
   for (const std::string& folder :
        {own, own + "/../program", std::string(g_get_user_data_dir()) + "/VarnixMaster",
-        own + "/../share/VarnixMaster"})
+        own + "/../share/VarnixMaster"}) {
     if (HoldsProfile(folder)) return folder;
+  }
   return own;
 }
 

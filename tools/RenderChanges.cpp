@@ -62,14 +62,16 @@ std::vector<ItemBox> PaintedBoxes(const Layout& layout) {
 // Dashes of a band along x; `length` runs from `x`.
 void BandAcross(Drawable& canvas, gint x, gint y, gint length, const OutlineStyle& style) {
   FillPixels(&canvas, x, y, length, Band, style.Off == 0 ? style.Colour : White);
-  for (gint at = 0; style.Off != 0 && at < length; at += style.On + style.Off)
+  for (gint at = 0; style.Off != 0 && at < length; at += style.On + style.Off) {
     FillPixels(&canvas, x + at, y, std::min(style.On, length - at), Band, style.Colour);
+  }
 }
 
 void BandDown(Drawable& canvas, gint x, gint y, gint length, const OutlineStyle& style) {
   FillPixels(&canvas, x, y, Band, length, style.Off == 0 ? style.Colour : White);
-  for (gint at = 0; style.Off != 0 && at < length; at += style.On + style.Off)
+  for (gint at = 0; style.Off != 0 && at < length; at += style.On + style.Off) {
     FillPixels(&canvas, x, y + at, Band, std::min(style.On, length - at), style.Colour);
+  }
 }
 
 void WhiteLine(Drawable& canvas, const ItemBox& box) {
@@ -100,8 +102,9 @@ void Outline(Drawable& canvas, const ItemBox& item, int zoom, const OutlineStyle
 void OutlineChanges(Drawable& canvas, int zoom, const LayoutChanges& changes,
                     const std::vector<ItemBox>& before, const std::vector<ItemBox>& after) {
   for (const std::size_t no : changes.Removed) Outline(canvas, before[no], zoom, RemovedStyle);
-  for (const ChangedItem& item : changes.Changed)
+  for (const ChangedItem& item : changes.Changed) {
     Outline(canvas, after[item.Items.After], zoom, ChangedStyle);
+  }
   for (const std::size_t no : changes.Added) Outline(canvas, after[no], zoom, AddedStyle);
 }
 
@@ -113,11 +116,13 @@ int RenderChanges(const RenderOptions& options) {
   if (!before || !after) return ExitFailed;
   // Before the painting: the sizes that it finds are no differences.
   const LayoutChanges changes = CompareLayouts(*before, *after);
-  if (const std::string fault = DrawingFault(*before); !fault.empty())
+  if (const std::string fault = DrawingFault(*before); !fault.empty()) {
     return Fail(options.Before, fault);
+  }
   FindSizes(*before);
-  if (const std::string fault = DrawingFault(*after); !fault.empty())
+  if (const std::string fault = DrawingFault(*after); !fault.empty()) {
     return Fail(options.After, fault);
+  }
   const CanvasPicture canvas = PaintCanvas(*after, options.Zoom, options.Grid);
   if (!canvas.Surface) return Fail(options.After, canvas.Error);
   OutlineChanges(*canvas.Surface, options.Zoom, changes, PaintedBoxes(*before),

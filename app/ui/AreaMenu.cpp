@@ -3,6 +3,7 @@
 #include "PtrnData.h"
 
 namespace {
+
 // The source that gives the area up, 0 = none.
 guint GivingUp;
 
@@ -11,7 +12,7 @@ void ForgetGivingUp() {
   GivingUp = 0;
 }
 
-gboolean GiveUpAtOnce(gpointer) {
+gboolean GiveUpAtOnce(gpointer /*data*/) {
   GivingUp = 0;
   GiveUpArea();
   return G_SOURCE_REMOVE;
@@ -19,15 +20,17 @@ gboolean GiveUpAtOnce(gpointer) {
 
 // A menu closes before what was chosen in it is done, and its end is told only after that, or not
 // at all when the menu was taken away. So the area waits for a choice, but no event comes before.
-void MenuHidden(GtkWidget*, gpointer) {
-  if (PtrnMode == ModeArea && GivingUp == 0)
+void MenuHidden(GtkWidget* /*widget*/, gpointer /*data*/) {
+  if (PtrnMode == ModeArea && GivingUp == 0) {
     GivingUp = g_idle_add_full(G_PRIORITY_HIGH, GiveUpAtOnce, nullptr, nullptr);
+  }
 }
 
-void MenuDone(GtkWidget*, gpointer) {
+void MenuDone(GtkWidget* /*widget*/, gpointer /*data*/) {
   ForgetGivingUp();
   GiveUpArea();
 }
+
 }  // namespace
 
 void GiveUpArea() {

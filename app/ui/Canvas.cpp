@@ -19,6 +19,7 @@ SIZE PtrnDraw_Size1;
 SIZE PtrnDraw_Size2;
 
 namespace {
+
 // The largest extent of a layout; a larger one comes from a damaged file.
 constexpr gint LargestLayout = 9999;
 constexpr gint LargestZoom = 500;
@@ -103,21 +104,23 @@ void ShowExposed(cairo_t* cairo) {
     return;
   }
   GdkRectangle whole;
-  if (gdk_cairo_get_clip_rectangle(cairo, &whole))
+  if (gdk_cairo_get_clip_rectangle(cairo, &whole)) {
     ShowLayout(cairo, whole.x, whole.y, whole.width, whole.height);
+  }
 }
 
 gint LayoutExtent(gint extent) {
   return std::clamp(extent, 1, LargestLayout);
 }
+
 }  // namespace
 
-gboolean PtrnDraw_Configure(GtkWidget*, GdkEventConfigure* event, gpointer) {
+gboolean PtrnDraw_Configure(GtkWidget* /*widget*/, GdkEventConfigure* event, gpointer /*data*/) {
   if (PtrnDraw_Mode == 0) RenderStartPicture(event->width, event->height);
   return TRUE;
 }
 
-gboolean PtrnDraw_Expose(GtkWidget*, cairo_t* cairo, gpointer) {
+gboolean PtrnDraw_Expose(GtkWidget* /*widget*/, cairo_t* cairo, gpointer /*data*/) {
   if (PtrnDraw_Mode == 0) {
     if (PtrnPixmap) ShowStartPicture(cairo, *PtrnPixmap);
     return TRUE;

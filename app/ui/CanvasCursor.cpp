@@ -4,6 +4,7 @@
 #include "render/Primitives.h"
 
 namespace {
+
 constexpr gint CursorCount = 8;
 constexpr gint CursorSize = 32;
 constexpr guint32 Opaque = 0xff000000;
@@ -35,6 +36,7 @@ SurfacePtr CursorPicture(gint no, gint scale) {
   cairo_surface_set_device_scale(picture.get(), scale, scale);
   return picture;
 }
+
 }  // namespace
 
 void SetCursor(gint no) {
@@ -42,8 +44,9 @@ void SetCursor(gint no) {
   if (window == nullptr || no < 0 || no >= CursorCount) return;
   // Every motion asks for its cursor; most ask for the one that is there.
   const gint scale = gdk_window_get_scale_factor(window);
-  if (no == CursorNo && scale == CursorScale && gdk_window_get_cursor(window) == Cursor.get())
+  if (no == CursorNo && scale == CursorScale && gdk_window_get_cursor(window) == Cursor.get()) {
     return;
+  }
 
   const SurfacePtr picture = CursorPicture(no, scale);
   Cursor.reset(gdk_cursor_new_from_surface(gdk_window_get_display(window), picture.get(),

@@ -7,6 +7,7 @@
 #include "app/ui/PopupKeys.h"
 
 namespace {
+
 POINT PointOf(gdouble x, gdouble y) {
   return {static_cast<gint>(x), static_cast<gint>(y)};
 }
@@ -24,9 +25,10 @@ gboolean CanvasRelease(GtkWidget* canvas, GdkEvent* event, gpointer data) {
   EventPopupMenu3(PopupMenu[2], event);
   return TRUE;
 }
+
 }  // namespace
 
-gboolean PtrnDraw_Press(GtkWidget* widget, GdkEventButton* event, gpointer) {
+gboolean PtrnDraw_Press(GtkWidget* widget, GdkEventButton* event, gpointer /*data*/) {
   // A double click is two presses and a notice of it; the notice is no third press.
   if (event->type == GDK_BUTTON_PRESS && event->button == GDK_BUTTON_PRIMARY &&
       PtrnDraw_Mode == 1) {
@@ -36,7 +38,7 @@ gboolean PtrnDraw_Press(GtkWidget* widget, GdkEventButton* event, gpointer) {
   return TRUE;
 }
 
-gboolean PtrnDraw_Release(GtkWidget* widget, GdkEventButton* event, gpointer) {
+gboolean PtrnDraw_Release(GtkWidget* widget, GdkEventButton* event, gpointer /*data*/) {
   if (event->button == GDK_BUTTON_PRIMARY && PtrnDraw_Mode == 1) {
     POINT point = PointOf(event->x, event->y);
     LButtonUp(widget, &point);
@@ -44,10 +46,11 @@ gboolean PtrnDraw_Release(GtkWidget* widget, GdkEventButton* event, gpointer) {
   return TRUE;
 }
 
-gboolean PtrnDraw_Motion(GtkWidget* widget, GdkEventMotion* event, gpointer) {
+gboolean PtrnDraw_Motion(GtkWidget* widget, GdkEventMotion* event, gpointer /*data*/) {
   POINT point = PointOf(event->x, event->y);
-  if (event->is_hint)
+  if (event->is_hint) {
     gdk_window_get_device_position(event->window, event->device, &point.x, &point.y, nullptr);
+  }
   if (PtrnDraw_Mode == 1) MouseMove(widget, &point);
   return TRUE;
 }

@@ -5,6 +5,7 @@
 #include "app/ui/AreaMenu.h"
 
 namespace {
+
 bool ItemInHand() {
   return PtrnType != 0 && PtrnMode == ModeSelected;
 }
@@ -24,14 +25,15 @@ gboolean DeleteKey() {
 }
 
 gboolean EscapeKey() {
-  if (PtrnMode == ModeArea)
+  if (PtrnMode == ModeArea) {
     GiveUpArea();
-  else if (PtrnMode != ModeIdle)
+  } else if (PtrnMode != ModeIdle) {
     ToolBoxButn(nullptr, GINT_TO_POINTER(ButtonCode::Cancel));
-  else if (PtrnType != 0)
+  } else if (PtrnType != 0) {
     ClearToolBox();
-  else
+  } else {
     return FALSE;
+  }
   return TRUE;
 }
 
@@ -48,14 +50,17 @@ constexpr ArrowKey ArrowKeys[] = {{GDK_KEY_Left, GDK_KEY_KP_Left, -1, 0},
                                   {GDK_KEY_Down, GDK_KEY_KP_Down, 0, 1}};
 
 gboolean MoveKey(guint key) {
-  for (const ArrowKey& arrow : ArrowKeys)
-    if (key == arrow.Key || key == arrow.PadKey)
+  for (const ArrowKey& arrow : ArrowKeys) {
+    if (key == arrow.Key || key == arrow.PadKey) {
       return MoveItemInHand(arrow.Columns, arrow.Rows) != 0;
+    }
+  }
   return FALSE;
 }
+
 }  // namespace
 
-gboolean CanvasKey(GtkWidget*, GdkEventKey* event, gpointer) {
+gboolean CanvasKey(GtkWidget* /*widget*/, GdkEventKey* event, gpointer /*data*/) {
   if (PtrnFlag == 0 || (event->state & gtk_accelerator_get_default_mod_mask()) != 0) return FALSE;
   switch (event->keyval) {
     case GDK_KEY_Delete:

@@ -12,6 +12,7 @@
 #include "app/Window.h"
 
 namespace {
+
 // A place of the layout in one direction, in its dots, and where in what is seen it stands, in
 // pixels: in the middle when nothing.
 struct Anchor {
@@ -76,8 +77,9 @@ Anchor Middle(const Axis& axis) {
 }
 
 void ScrollTo(const Place& place) {
-  for (const Axis& axis : {Across(), Down()})
+  for (const Axis& axis : {Across(), Down()}) {
     gtk_adjustment_set_value(axis.Bar, std::round(Start(axis, place)));
+  }
 }
 
 // At once as far as the canvas's present size allows, and again when it has its new one.
@@ -87,11 +89,12 @@ void Want(const Place& place) {
 }
 
 // After the scroll bars have come or gone, which takes from what is seen or adds to it.
-void ScrollWhenSized(GtkWidget* /*scrolled*/, GdkRectangle* /*place*/, gpointer) {
+void ScrollWhenSized(GtkWidget* /*scrolled*/, GdkRectangle* /*place*/, gpointer /*data*/) {
   if (!Wanted || PtrnDraw == nullptr || PtrnDraw_Mode == 0) return;
   if (gtk_widget_get_allocated_width(PtrnDraw) < PtrnDraw_Size2.cx ||
-      gtk_widget_get_allocated_height(PtrnDraw) < PtrnDraw_Size2.cy)
+      gtk_widget_get_allocated_height(PtrnDraw) < PtrnDraw_Size2.cy) {
     return;
+  }
   ScrollTo(*Wanted);
   Wanted.reset();
 }
@@ -111,14 +114,15 @@ constexpr struct {
               {GDK_KEY_Down, GDK_KEY_KP_Down, GTK_SCROLL_STEP_FORWARD, FALSE}};
 
 // The arrows with Control, the page keys, Home and End are the scrolled window's own.
-gboolean ScrollKey(GtkWidget*, GdkEventKey* event, gpointer scrolled) {
+gboolean ScrollKey(GtkWidget* /*widget*/, GdkEventKey* event, gpointer scrolled) {
   if (PtrnFlag == 0 || (event->state & gtk_accelerator_get_default_mod_mask()) != 0) return FALSE;
-  for (const auto& arrow : Arrows)
+  for (const auto& arrow : Arrows) {
     if (event->keyval == arrow.Key || event->keyval == arrow.PadKey) {
       gboolean done = FALSE;
       g_signal_emit_by_name(scrolled, "scroll-child", arrow.Step, arrow.Horizontal, &done);
       return TRUE;
     }
+  }
   return FALSE;
 }
 
@@ -150,7 +154,7 @@ void ZoomUnderPointer(gint index, const GdkEventScroll* event) {
 }
 
 // Zooming gives up what is being edited, so the wheel zooms only while nothing is.
-gboolean ZoomWheel(GtkWidget*, GdkEventScroll* event, gpointer) {
+gboolean ZoomWheel(GtkWidget* /*widget*/, GdkEventScroll* event, gpointer /*data*/) {
   const bool zooms = PtrnFlag != 0 && (event->state & GDK_CONTROL_MASK) != 0;
   const bool idle = PtrnMode == ModeIdle && PtrnType == 0;
   if (!zooms || !idle) {
@@ -162,6 +166,7 @@ gboolean ZoomWheel(GtkWidget*, GdkEventScroll* event, gpointer) {
   if (index != PtrnHedr.Parm2[ViewSlot::Zoom]) ZoomUnderPointer(index, event);
   return TRUE;
 }
+
 }  // namespace
 
 void ConnectScroll(GtkWidget* window, GtkWidget* scrolled) {

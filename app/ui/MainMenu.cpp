@@ -4,6 +4,7 @@
 #include "app/ui/MenuRows.h"
 
 namespace {
+
 // Labels stand as they are, so a menu's Alt key is kept beside them.
 struct TopMenu {
   const gchar* Label;
@@ -82,16 +83,20 @@ constexpr TopMenu TopMenus[] = {
 
 GtkAccelGroup* Keys;
 
-gboolean OpenTopMenu(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer entry) {
+gboolean OpenTopMenu(GtkAccelGroup* /*group*/, GObject* /*object*/, guint /*key*/,
+                     GdkModifierType /*modifiers*/, gpointer entry) {
   return gtk_widget_mnemonic_activate(GTK_WIDGET(entry), FALSE);
 }
+
 // Takes the keyboard from the main window to the tool box and back.
-gboolean SwitchWindow(GtkAccelGroup*, GObject*, guint, GdkModifierType, gpointer) {
+gboolean SwitchWindow(GtkAccelGroup* /*group*/, GObject* /*object*/, guint /*key*/,
+                      GdkModifierType /*modifiers*/, gpointer /*data*/) {
   if (ToolBox == nullptr) return FALSE;
   auto* panel = GTK_WINDOW(ToolBox);
   gtk_window_present(gtk_window_is_active(panel) ? GTK_WINDOW(PtrnWnd) : panel);
   return TRUE;
 }
+
 }  // namespace
 
 GtkAccelGroup* MainMenuKeys() {

@@ -13,6 +13,7 @@
 #include "render/LayoutPicture.h"
 
 namespace {
+
 GtkWidget* CreateCanvas() {
   GtkWidget* canvas = gtk_drawing_area_new();
   KeepWidget(&PtrnDraw, canvas);
@@ -48,6 +49,7 @@ void UseProgramIcon() {
   gtk_window_set_default_icon_from_file(path, &error);
   g_clear_error(&error);
 }
+
 }  // namespace
 
 void CreateMainWindow() {
@@ -80,7 +82,7 @@ void InitVarnixMaster() {
   ProjDataInit();
 }
 
-gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
+gboolean Delete_Event(GtkWidget* /*widget*/, GdkEvent* /*event*/, gpointer /*data*/) {
   if (ToolBox != nullptr) {
     // What keeps the window open shows itself.
     gtk_window_present(GTK_WINDOW(ToolBox));
@@ -89,7 +91,7 @@ gboolean Delete_Event(GtkWidget*, GdkEvent*, gpointer) {
   return SavePtrnData() == 1 ? FALSE : TRUE;
 }
 
-void Destroy_Event(GtkWidget*, gpointer) {
+void Destroy_Event(GtkWidget* /*widget*/, gpointer /*data*/) {
   LeavePopupMenus();
   if (ToolBox != nullptr) gtk_widget_destroy(ToolBox);
   if (MainLoop != nullptr) g_main_loop_quit(MainLoop);

@@ -2,6 +2,7 @@
 #include "dialogs/kit/LatePress.h"
 
 namespace {
+
 GtkWidget* Append(GtkWidget* shell, GtkWidget* entry) {
   gtk_menu_shell_append(GTK_MENU_SHELL(shell), entry);
   gtk_widget_show(entry);
@@ -14,6 +15,7 @@ GtkWidget* Opening(GtkWidget* shell, const gchar* label) {
   gtk_menu_item_set_submenu(GTK_MENU_ITEM(entry), menu);
   return menu;
 }
+
 }  // namespace
 
 GtkWidget* CreateTopMenu(GtkWidget* bar, const gchar* label) {

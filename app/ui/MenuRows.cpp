@@ -22,8 +22,9 @@ void AddTypes(GtkWidget* menu, const MenuRow& row) {
 void AddFamilies(GtkWidget* menu, const MenuRow& row) {
   for (const ItemFamily family : ItemFamilies) {
     if (family != ItemFamilies[0]) CreateSeparator(menu);
-    for (const ItemTypeRow& type : ItemTypes())
+    for (const ItemTypeRow& type : ItemTypes()) {
       if (type.Family == family) AddType(menu, row, type);
+    }
   }
 }
 
@@ -35,9 +36,10 @@ void FinishEntry(GtkWidget* entry, const MenuRow& row, GtkAccelGroup* keys) {
   gtk_accelerator_parse(row.Key, &key, &modifiers);
   gtk_widget_add_accelerator(entry, "activate", keys, key, modifiers, GTK_ACCEL_VISIBLE);
   // The number pad's is the same key to the user.
-  if (key == GDK_KEY_Delete)
+  if (key == GDK_KEY_Delete) {
     gtk_widget_add_accelerator(entry, "activate", keys, GDK_KEY_KP_Delete, modifiers,
                                GtkAccelFlags{});
+  }
 }
 }  // namespace
 

@@ -24,16 +24,20 @@ constexpr MenuRow Item(const gchar* label, MenuCallback callback, gint data, Gtk
                        const gchar* key = nullptr) {
   return {RowKind::Item, label, callback, data, slot, key};
 }
+
 constexpr MenuRow Check(const gchar* label, MenuCallback callback, gint data, GtkWidget** slot,
                         const gchar* key = nullptr) {
   return {RowKind::Check, label, callback, data, slot, key};
 }
+
 constexpr MenuRow SubMenu(const gchar* label, std::span<const MenuRow> rows) {
   return {RowKind::SubMenu, label, nullptr, 0, nullptr, nullptr, rows};
 }
+
 constexpr MenuRow Types(RowKind kind, MenuCallback callback, GtkWidget** slots) {
   return {kind, nullptr, callback, 0, slots};
 }
+
 inline constexpr MenuRow Separator;
 // The zooms, with the slots of their entries.
 constexpr std::array<MenuRow, ZoomCode::Count> ZoomRowsOf(MenuCallback zoom, GtkWidget** slots) {

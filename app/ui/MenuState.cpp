@@ -7,30 +7,39 @@
 #include "support/Resource.h"
 
 namespace {
+
 bool ProjectOpen() {
   return ProjFlag != 0;
 }
+
 bool LayoutOpen() {
   return PtrnFlag != 0;
 }
+
 bool NoLayout() {
   return !LayoutOpen();
 }
+
 bool ProjectWithoutLayout() {
   return ProjectOpen() && NoLayout();
 }
+
 bool LayoutChanged() {
   return PtrnFlag == 2;
 }
+
 bool UndoPossible() {
   return LayoutOpen() && PtrnSaveCount != 0;
 }
+
 bool SecondLanguage() {
   return LayoutOpen() && ProjData.Parm1[ProjectSlot::Languages] > 0;
 }
+
 bool ThirdLanguage() {
   return LayoutOpen() && ProjData.Parm1[ProjectSlot::Languages] > 1;
 }
+
 bool FourColours() {
   return LayoutOpen() && ProjData.Parm1[ProjectSlot::ColourSystems] != 0;
 }
@@ -73,21 +82,27 @@ struct MarkRule {
 bool TypeChosen(gint i) {
   return PtrnType == i + 1;
 }
+
 bool TypeUnpickable(gint i) {
   return PtrnUnSlct[i] != 0;
 }
+
 bool GridShown(gint /*i*/) {
   return PtrnHedr.Parm2[ViewSlot::GridShown] != 0;
 }
+
 bool ZoomChosen(gint i) {
   return PtrnHedr.Parm2[ViewSlot::Zoom] == i;
 }
+
 bool ColourChosen(gint i) {
   return ColorCode == i;
 }
+
 bool LanguageChosen(gint i) {
   return Language == i;
 }
+
 constexpr MarkRule MarkRules[] = {
     {PtrnSlct[0], ItemTypeCount, TypeChosen},
     {PtrnSlct[1], ItemTypeCount, TypeChosen},
@@ -101,31 +116,38 @@ constexpr MarkRule MarkRules[] = {
 };
 
 gint MarksBeingSet;
+
 }  // namespace
 
 void SetMainMenu() {
-  for (const EnableRule& rule : EnableRules)
-    for (gint i = 0; i < rule.Count; i++)
+  for (const EnableRule& rule : EnableRules) {
+    for (gint i = 0; i < rule.Count; i++) {
       if (rule.Slots[i] != nullptr) gtk_widget_set_sensitive(rule.Slots[i], rule.Enabled());
+    }
+  }
 }
 
 void SetMenuActive1() {
   MarksBeingSet++;
   // A mark that changes runs its entry's command, which finds its own state reached already.
-  for (const MarkRule& rule : MarkRules)
-    for (gint i = 0; i < rule.Count; i++)
-      if (rule.Slots[i] != nullptr)
+  for (const MarkRule& rule : MarkRules) {
+    for (gint i = 0; i < rule.Count; i++) {
+      if (rule.Slots[i] != nullptr) {
         gtk_check_menu_item_set_active(GTK_CHECK_MENU_ITEM(rule.Slots[i]), rule.Marked(i));
+      }
+    }
+  }
   MarksBeingSet--;
 }
 
-void MarkToggled(GtkWidget*, gpointer) {
+void MarkToggled(GtkWidget* /*widget*/, gpointer /*data*/) {
   // A click on the entry that is on turns its mark off without a change behind it.
   if (MarksBeingSet == 0) SetMenuActive1();
 }
 
 void SetMenuActive2(gint flags) {
-  for (gsize i = 0; i < std::size(ToolBoxMenu); i++)
+  for (gsize i = 0; i < std::size(ToolBoxMenu); i++) {
     if (ToolBoxMenu[i] != nullptr) gtk_widget_set_sensitive(ToolBoxMenu[i], (flags >> i & 1) != 0);
+  }
   SetToolBoxButton(flags);
 }

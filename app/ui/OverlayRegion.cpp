@@ -7,6 +7,7 @@
 #include "render/LayoutPicture.h"
 
 namespace {
+
 // How far outline and handles may stand off the box.
 constexpr gint Reach = HandleReach + 1;
 // Far outside any canvas, and far from overflow.
@@ -28,9 +29,10 @@ Box ZoomedBox(gint64 x1, gint64 y1, gint64 x2, gint64 y2) {
 
 Box ItemBox() {
   const POINT& first = PtrnData.Point1;
-  if (IsItemType(PtrnData.Type) && !HasTwoPoints(PtrnData.Type))
+  if (IsItemType(PtrnData.Type) && !HasTwoPoints(PtrnData.Type)) {
     return ZoomedBox(first.x, first.y, gint64{first.x} + PtrnData.Size.cx,
                      gint64{first.y} + PtrnData.Size.cy);
+  }
   return ZoomedBox(first.x, first.y, PtrnData.Point2.x, PtrnData.Point2.y);
 }
 
@@ -47,6 +49,7 @@ RegionPtr Outline(const Box& box) {
   cairo_region_subtract(region.get(), Widened(box, -Reach).get());
   return region;
 }
+
 }  // namespace
 
 RegionPtr OverlayRegion(gint width, gint height) {
@@ -54,8 +57,9 @@ RegionPtr OverlayRegion(gint width, gint height) {
     const cairo_rectangle_int_t all{0, 0, width, height};
     return RegionPtr(cairo_region_create_rectangle(&all));
   }
-  if (PtrnMode == ModeArea)
+  if (PtrnMode == ModeArea) {
     return Outline(ZoomedBox(AreaPoint1.x, AreaPoint1.y, AreaPoint2.x, AreaPoint2.y));
+  }
   if (PtrnMode < ModeCreating || PtrnMode > ModeDragging) return RegionPtr(cairo_region_create());
 
   return OutlineCrossesBox(PtrnData.Type) ? Widened(ItemBox(), Reach) : Outline(ItemBox());

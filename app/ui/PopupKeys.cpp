@@ -7,6 +7,7 @@
 #include "app/ui/OverlayRegion.h"
 
 namespace {
+
 // Escape leaves every menu, also where the entry of what it would do next shows it.
 gboolean ChooseByKey(GtkWidget* menu, GdkEventKey* event, gpointer popup) {
   auto* window = GTK_WINDOW(gtk_widget_get_toplevel(menu));
@@ -20,9 +21,11 @@ void UseKeysBelow(GtkWidget* menu, GtkAccelGroup* keys, GtkWidget* popup) {
   gtk_window_add_accel_group(GTK_WINDOW(gtk_widget_get_toplevel(menu)), keys);
   g_signal_connect(menu, "key-press-event", G_CALLBACK(ChooseByKey), popup);
   GList* entries = gtk_container_get_children(GTK_CONTAINER(menu));
-  for (GList* link = entries; link != nullptr; link = link->next)
-    if (GtkWidget* submenu = gtk_menu_item_get_submenu(GTK_MENU_ITEM(link->data)))
+  for (GList* link = entries; link != nullptr; link = link->next) {
+    if (GtkWidget* submenu = gtk_menu_item_get_submenu(GTK_MENU_ITEM(link->data))) {
       UseKeysBelow(submenu, keys, popup);
+    }
+  }
   g_list_free(entries);
 }
 
@@ -48,13 +51,14 @@ GdkRectangle WorkPlace(GdkWindow* canvas) {
   cairo_region_get_extents(seen.get(), &place);
   return {place.x, place.y, 1, 1};
 }
+
 }  // namespace
 
 void UseKeysIn(GtkWidget* menu, GtkAccelGroup* keys) {
   UseKeysBelow(menu, keys, menu);
 }
 
-gboolean OpenMenuByKey(GtkWidget* canvas, gpointer) {
+gboolean OpenMenuByKey(GtkWidget* canvas, gpointer /*data*/) {
   GtkWidget* menu = PopupMenuOfState();
   if (menu == nullptr) return FALSE;
   GdkWindow* window = gtk_widget_get_window(canvas);
@@ -62,9 +66,10 @@ gboolean OpenMenuByKey(GtkWidget* canvas, gpointer) {
   const GdkRectangle place = pointer ? *pointer : WorkPlace(window);
   gtk_menu_popup_at_rect(GTK_MENU(menu), window, &place, GDK_GRAVITY_SOUTH_WEST,
                          GDK_GRAVITY_NORTH_WEST, nullptr);
-  if (gtk_widget_get_visible(menu))
+  if (gtk_widget_get_visible(menu)) {
     gtk_menu_shell_select_first(GTK_MENU_SHELL(menu), TRUE);
-  else
+  } else {
     GiveUpArea();
+  }
   return TRUE;
 }

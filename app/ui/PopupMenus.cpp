@@ -8,6 +8,7 @@
 #include "app/ui/PopupKeys.h"
 
 namespace {
+
 constexpr auto ZoomRows = ZoomRowsOf(PtrnZoom, PtrnZoom2);
 
 constexpr MenuRow ViewRows[] = {
@@ -62,6 +63,7 @@ bool AreaExceedsGrid() {
          std::llabs(gint64{AreaPoint1.y} - AreaPoint2.y) >
              GridDots(PtrnHedr.Parm2[ViewSlot::GridY]);
 }
+
 }  // namespace
 
 void CreatePopupMenu(GtkWidget* canvas) {
@@ -78,9 +80,11 @@ void CreatePopupMenu(GtkWidget* canvas) {
 }
 
 void LeavePopupMenus() {
-  for (GtkWidget* menu : PopupMenu)
-    if (menu != nullptr && gtk_widget_get_visible(menu))
+  for (GtkWidget* menu : PopupMenu) {
+    if (menu != nullptr && gtk_widget_get_visible(menu)) {
       gtk_menu_shell_cancel(GTK_MENU_SHELL(menu));
+    }
+  }
 }
 
 gboolean EventPopupMenu1(GtkWidget* menu, GdkEvent* event) {

@@ -5,6 +5,7 @@
 #include "render/Primitives.h"
 
 namespace {
+
 constexpr guint32 White = 0xffffff;
 
 // A picture of the program folder and its place in percent of the canvas.
@@ -25,6 +26,7 @@ Place PlaceOf(const StartPicture& picture, gint width, gint height) {
   return {width * picture.X / 100, height * picture.Y / 100, width * picture.Width / 100,
           height * picture.Height / 100};
 }
+
 }  // namespace
 
 void MakeInitWindow(Drawable* window, gint width, gint height) {

@@ -4,6 +4,7 @@
 #include "support/Profile.h"
 
 namespace {
+
 // Larger values cannot be a window's size on any X display.
 constexpr gint LargestWindow = 32767;
 
@@ -13,6 +14,7 @@ SIZE WindowSize;
 bool IsWindowExtent(gint extent) {
   return extent > 0 && extent <= LargestWindow;
 }
+
 }  // namespace
 
 SIZE SavedWindowSize() {
@@ -23,7 +25,7 @@ SIZE SavedWindowSize() {
   return {width, height};
 }
 
-void RememberWindowSize(GtkWidget*, GdkRectangle* allocation, gpointer) {
+void RememberWindowSize(GtkWidget* /*widget*/, GdkRectangle* allocation, gpointer /*data*/) {
   WindowSize = {allocation->width, allocation->height};
 }
 

@@ -3,9 +3,9 @@
 
 #include "PtrnMisc.h"
 #include "app/Window.h"
-#include "window/Program.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Program.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 class BenchWindow : public WindowTest {
  public:

@@ -1,10 +1,10 @@
 // What the canvas does for one motion of the pointer and one step of scrolling, against painting
 // all of it that is to be seen. Times are those of the whole process, the toolkit's included.
-#include "BenchWindow.h"
 #include "PtrnData.h"
 #include "bench/FullLayout.h"
 #include "bench/Measure.h"
-#include "window/Exposures.h"
+#include "bench/window/BenchWindow.h"
+#include "tests/window/Exposures.h"
 
 namespace {
 
@@ -101,6 +101,7 @@ void MotionOfDrag(benchmark::State& state) {
   state.counters["painted_share"] = painted / VisiblePixels();
   state.counters["own_ms"] = bestOwn * 1e3;
 }
+
 BENCHMARK(MotionOfDrag)->Unit(benchmark::kMillisecond);
 
 // The pointer over the items, no button pressed.
@@ -118,6 +119,7 @@ void MotionOverItems(benchmark::State& state) {
       },
       PaintWholeCanvas);
 }
+
 BENCHMARK(MotionOverItems)->Unit(benchmark::kMillisecond);
 
 void ScrollBy40(benchmark::State& state) {
@@ -147,6 +149,7 @@ void ScrollBy40(benchmark::State& state) {
       PaintWholeCanvas);
   state.counters["painted_share"] = painted / steps / VisiblePixels();
 }
+
 BENCHMARK(ScrollBy40)->Arg(Zoom500)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,11 +1,11 @@
 // Opening dialogs until they are painted and closing them, against the same with a bare window.
-#include "BenchWindow.h"
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnDialog.h"
 #include "PtrnMisc.h"
 #include "bench/Measure.h"
-#include "common/TempFolder.h"
+#include "bench/window/BenchWindow.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 
@@ -53,8 +53,9 @@ class ManyLayouts {
     PtrnFileInit(0);
     PtrnHedr = EditHedr;
     const std::string bytes(reinterpret_cast<const char*>(&PtrnHedr), sizeof PtrnHedr);
-    for (gint no = 0; no < count; ++no)
+    for (gint no = 0; no < count; ++no) {
       folder_.Write("Screen " + std::to_string(1000 + no) + ".ptn", bytes);
+    }
   }
 
  private:
@@ -66,6 +67,7 @@ void OpenLayoutDialog(benchmark::State& state) {
   const ManyLayouts layouts(static_cast<gint>(state.range(0)));
   CompareDialog(state, "レイアウトを開く", [] { PtrnFileOpen(PtrnWnd); });
 }
+
 BENCHMARK(OpenLayoutDialog)->Arg(10)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 // With its switch to the layouts that have incomplete items, each header of which is read.
@@ -81,12 +83,14 @@ void OpenProjectDialog(benchmark::State& state) {
   }
   CompareDialog(state, "プロジェクトを開く", [] { ProjFileOpen(PtrnWnd); });
 }
+
 BENCHMARK(OpenProjectDialog)->Unit(benchmark::kMillisecond);
 
 void MarkPicker(benchmark::State& state) {
   BenchWindow window;
   CompareDialog(state, "マーク選択", [] { Dlg_MarkSelect(PtrnWnd); });
 }
+
 BENCHMARK(MarkPicker)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,5 +1,7 @@
 // Start-up to the first painted window, and the memory of the whole program. Both are measured on
 // processes of their own.
+#include <benchmark/benchmark.h>
+#include <glib.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -8,10 +10,7 @@
 #include <string>
 #include <vector>
 
-#include <benchmark/benchmark.h>
-#include <glib.h>
-
-#include "window/Program.h"
+#include "tests/window/Program.h"
 
 namespace {
 
@@ -82,6 +81,7 @@ void StartUp(benchmark::State& state) {
   state.counters["resident_mb"] = program.Megabytes;
   state.counters["bare_mb"] = bare.Megabytes;
 }
+
 BENCHMARK(StartUp)->Iterations(20)->Unit(benchmark::kMillisecond);
 
 // The start-up layout of the sample project, shown in a size and zoom and scrolled through.
@@ -94,6 +94,7 @@ void Memory(benchmark::State& state) {
   if (run.Megabytes == 0) return state.SkipWithError("not shown");
   state.counters["resident_mb"] = run.Megabytes;
 }
+
 BENCHMARK(Memory)
     ->Args({800, 600, 2})
     ->Args({1600, 1200, 0})

@@ -45,8 +45,9 @@ GtkWidget* BareWindow() {
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_VERTICAL, 0);
   gtk_container_add(GTK_CONTAINER(window), box);
   GtkWidget* bar = gtk_menu_bar_new();
-  for (const char* title : {"ファイル", "編集", "表示"})
+  for (const char* title : {"ファイル", "編集", "表示"}) {
     gtk_menu_shell_append(GTK_MENU_SHELL(bar), gtk_menu_item_new_with_label(title));
+  }
   gtk_box_pack_start(GTK_BOX(box), bar, FALSE, FALSE, 0);
   GtkWidget* area = gtk_drawing_area_new();
   g_signal_connect(area, "draw", G_CALLBACK(+[](GtkWidget*, cairo_t* cairo) {

@@ -38,8 +38,9 @@ GtkWidget* FileSelect_Button = nullptr;
 
 gint CheckFileType(const gchar* filename) {
   if (FileType < 0 || FileType > PictureType) return 0;
-  for (const gchar* pattern : Patterns[FileType])
+  for (const gchar* pattern : Patterns[FileType]) {
     if (fnmatch(pattern, filename, 0) == 0) return 1;
+  }
   return 0;
 }
 
@@ -55,10 +56,11 @@ const gchar* ReasonNotToOffer(const std::string& path, const std::string& name) 
 void AddFile(const std::string& path, const gchar* file) {
   const std::string_view whole = file;
   const std::string name(FileType == PictureType ? whole : whole.substr(0, whole.find('.')));
-  if (const gchar* reason = ReasonNotToOffer(path, name))
+  if (const gchar* reason = ReasonNotToOffer(path, name)) {
     AddUnusableName(FileList, name, reason);
-  else
+  } else {
     AddName(FileList, name, path);
+  }
 }
 
 void ClearFiles() {

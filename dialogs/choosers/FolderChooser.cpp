@@ -38,10 +38,11 @@ void FolderSelect_Input(GtkEditable* entry, gpointer /*data*/) {
 void FolderSelect_Insert(GtkEditable* entry, const gchar* text, gint length, const gint* /*at*/,
                          gpointer /*data*/) {
   const glong held = gtk_entry_get_text_length(GTK_ENTRY(entry));
-  if (held + g_utf8_strlen(text, length) <= EntryLimit)
+  if (held + g_utf8_strlen(text, length) <= EntryLimit) {
     UnmarkEntry(GTK_WIDGET(entry));
-  else
+  } else {
     MarkEntry(GTK_WIDGET(entry), held < EntryLimit ? EntryTookAPart : EntryTakesNoMore);
+  }
 }
 
 void FolderSelect_Erase(GtkEditable* entry, gint /*start*/, gint /*end*/, gpointer /*data*/) {
@@ -80,8 +81,9 @@ void FolderSelect_OK(GtkWidget* button) {
   }
   if (!g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
     if (Dlg_MessageBox(button, Title, "フォルダーが存在しません。", "フォルダーを作成しますか ？。",
-                       2) != 1)
+                       2) != 1) {
       return;
+    }
     if (CreateFolder(FolderName) == 0 || !g_file_test(FolderName, G_FILE_TEST_IS_DIR)) {
       Tell(button, "フォルダーの作成に失敗しました。");
       return;
@@ -119,7 +121,8 @@ gchar* Dlg_FolderSelect(GtkWidget* parent, const gchar* title) {
   if (RunChooser(parent, {.Title = title,
                           .Build = AddEntryAndTree,
                           .Choose = FolderSelect_OK,
-                          .ChooseButton = &FolderSelect_Button}) != 1)
+                          .ChooseButton = &FolderSelect_Button}) != 1) {
     FolderName[0] = '\0';
+  }
   return FolderName;
 }

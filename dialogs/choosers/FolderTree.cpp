@@ -140,8 +140,9 @@ gboolean LookIntoRowsInView(gpointer data) {
   GtkTreeIter end;
   if (gtk_tree_model_get_iter(model, &row, first) && gtk_tree_model_get_iter(model, &end, last)) {
     LookInto(state->Store, &row);
-    while (row.user_data != end.user_data && NextShownRow(state->View, &row))
+    while (row.user_data != end.user_data && NextShownRow(state->View, &row)) {
       LookInto(state->Store, &row);
+    }
   }
   gtk_tree_path_free(first);
   gtk_tree_path_free(last);
@@ -173,8 +174,9 @@ gboolean FillBeforeUnfolding(GtkTreeView* view, GtkTreeIter* row, GtkTreePath* /
   const std::string path = RowPath(model, row);
   if (FirstVisit(state, path)) {
     const auto folders = SubFolders(path);
-    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder)
+    for (auto folder = folders.rbegin(); folder != folders.rend(); ++folder) {
       AddFolder(state, row, folder->second, folder->first);
+    }
   }
   if (unfoldable) gtk_tree_store_remove(store, &placeholder);
   LookIntoFirstRows(state, row);
@@ -215,8 +217,9 @@ void GoOut(const TreeState* state, GtkTreePath* path) {
     gtk_tree_path_up(path);
     gtk_tree_view_set_cursor(state->View, path, nullptr, FALSE);
   }
-  if (gtk_tree_path_get_depth(path) == 1)
+  if (gtk_tree_path_get_depth(path) == 1) {
     gtk_tree_selection_unselect_all(gtk_tree_view_get_selection(state->View));
+  }
 }
 
 // Left and right alone; with other keys held they scroll.

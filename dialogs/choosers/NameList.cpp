@@ -22,8 +22,9 @@ std::string BytesOf(GtkTreeModel* model, GtkTreeIter* row) {
 bool IsUsable(GtkTreeModel* model, GtkTreePath* path) {
   GtkTreeIter row;
   gboolean usable = FALSE;
-  if (gtk_tree_model_get_iter(model, &row, path))
+  if (gtk_tree_model_get_iter(model, &row, path)) {
     gtk_tree_model_get(model, &row, UsableColumn, &usable, -1);
+  }
   return usable != FALSE;
 }
 
@@ -35,8 +36,9 @@ gboolean MaySelect(GtkTreeSelection* /*selection*/, GtkTreeModel* model, GtkTree
 // Pressed twice, an unusable row would be taken for the one that stays selected beside it.
 void KeepUnusableBack(GtkTreeView* list, GtkTreePath* path, GtkTreeViewColumn* /*column*/,
                       gpointer /*data*/) {
-  if (!IsUsable(gtk_tree_view_get_model(list), path))
+  if (!IsUsable(gtk_tree_view_get_model(list), path)) {
     g_signal_stop_emission_by_name(list, "row-activated");
+  }
 }
 
 void AddRow(GtkWidget* list, const std::string& label, const gchar* bytes, const gchar* reason) {

@@ -40,20 +40,22 @@ constexpr struct {
 
 void NameLeftOut(GtkWidget* widget, gpointer /*data*/) {
   const gchar* name = atk_object_get_name(gtk_widget_get_accessible(widget));
-  for (const auto& row : Nameless)
+  for (const auto& row : Nameless) {
     if ((name == nullptr || *name == '\0') &&
         std::strcmp(G_OBJECT_TYPE_NAME(widget), row.Kind) == 0 &&
         gtk_widget_get_ancestor(widget, g_type_from_name(row.Place)) != nullptr) {
       SetAccessibleName(widget, row.Name);
       return;
     }
+  }
   if (GTK_IS_CONTAINER(widget)) gtk_container_forall(GTK_CONTAINER(widget), NameLeftOut, nullptr);
 }
 
 void KeepSlidersFromWheel(GtkWidget* widget, gpointer /*data*/) {
   if (GTK_IS_SCALE(widget)) KeepFromWheel(widget);
-  if (GTK_IS_CONTAINER(widget))
+  if (GTK_IS_CONTAINER(widget)) {
     gtk_container_forall(GTK_CONTAINER(widget), KeepSlidersFromWheel, nullptr);
+  }
 }
 
 void LabelButton(GtkWidget* dialog, gint response, const gchar* label) {

@@ -48,8 +48,9 @@ void EditMarkData(GtkWidget* parent, gpointer data) {
   ClearToolBox();
   const auto boxes = MarkCopies();
   const MarkPress press = [&boxes](GtkWidget* swatch, gint number, guint button) {
-    if (button == GDK_BUTTON_PRIMARY && MakeMarkData(swatch, number, boxes->data()) == 1)
+    if (button == GDK_BUTTON_PRIMARY && MakeMarkData(swatch, number, boxes->data()) == 1) {
       gtk_widget_queue_draw(swatch);
+    }
   };
   RunTableDialog(
       data != nullptr ? parent : PtrnWnd,
@@ -64,10 +65,11 @@ void EditMarkData(GtkWidget* parent, gpointer data) {
 gint Dlg_MarkSelect(GtkWidget* parent, gint current) {
   const auto boxes = MarkCopies();
   const MarkPress press = [&boxes](GtkWidget* swatch, gint number, guint button) {
-    if (button == GDK_BUTTON_PRIMARY)
+    if (button == GDK_BUTTON_PRIMARY) {
       CloseDialog(swatch, number);
-    else if (button == GDK_BUTTON_SECONDARY)
+    } else if (button == GDK_BUTTON_SECONDARY) {
       EditPickedMark(swatch, number, boxes.get());
+    }
   };
   return RunPicker(parent, boxes->data(), press, current);
 }

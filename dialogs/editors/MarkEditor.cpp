@@ -61,13 +61,14 @@ gboolean MakeMarkData_Expose2(GtkWidget* /*view*/, cairo_t* cairo, const MarkEdi
   cairo_set_source_rgb(cairo, 0, 0, 0);
   for (gint i = 0; i <= width; ++i) PaintGridLine(cairo, i, i * Cell, 0, i * Cell, height * Cell);
   for (gint j = 0; j <= height; ++j) PaintGridLine(cairo, j, 0, j * Cell, width * Cell, j * Cell);
-  for (gint y = 0; y < height; ++y)
+  for (gint y = 0; y < height; ++y) {
     for (gint x = 0; x < width; ++x) {
       const double shade = MarkDataGet(edit->Number, &edit->Data, x, y) != 0 ? 0.0 : 1.0;
       cairo_set_source_rgb(cairo, shade, shade, shade);
       cairo_rectangle(cairo, Cell * x + 1, Cell * y + 1, 6, 6);
       cairo_fill(cairo);
     }
+  }
   if (gtk_widget_has_visible_focus(edit->Enlarged)) PaintCursor(cairo, edit);
   return TRUE;
 }
@@ -100,8 +101,9 @@ void SetPixelsTo(MarkEdit* edit, const POINT& to, gint data) {
   const gint dx = to.x - from.x;
   const gint dy = to.y - from.y;
   const gint steps = std::max({std::abs(dx), std::abs(dy), 1});
-  for (gint step = 0; step <= steps; ++step)
+  for (gint step = 0; step <= steps; ++step) {
     SetPixel(edit, from.x + dx * step / steps, from.y + dy * step / steps, data);
+  }
 }
 
 // A press on the right or bottom border passes, a motion there does not; the pixel beyond the mark
@@ -178,12 +180,13 @@ gboolean MakeMarkData_Focus(GtkWidget* /*view*/, GdkEvent* /*event*/, const Mark
 // The arrow keys move from pixel to pixel, Space turns one over.
 gboolean MakeMarkData_Key(GtkWidget* view, const GdkEventKey* event, MarkEdit* edit) {
   const POINT at = edit->Cursor;
-  if (const std::optional<POINT> to = Moved(edit, event->keyval))
+  if (const std::optional<POINT> to = Moved(edit, event->keyval)) {
     edit->Cursor = *to;
-  else if (event->keyval == GDK_KEY_space || event->keyval == GDK_KEY_KP_Space)
+  } else if (event->keyval == GDK_KEY_space || event->keyval == GDK_KEY_KP_Space) {
     SetPixel(edit, at.x, at.y, 1 - MarkDataGet(edit->Number, &edit->Data, at.x, at.y));
-  else
+  } else {
     return FALSE;
+  }
   TellCursor(edit);
   ScrollToCursor(edit);
   gtk_widget_queue_draw(view);
@@ -197,9 +200,11 @@ void MakeMarkData_Search(GtkWidget* button, MarkEdit* edit) {
   if (source == -1) return;
   const MARKDATA from = edit->Marks[source].mark;
   edit->Data = {};
-  for (gint y = 0; y < edit->Size.cy; ++y)
-    for (gint x = 0; x < edit->Size.cx; ++x)
+  for (gint y = 0; y < edit->Size.cy; ++y) {
+    for (gint x = 0; x < edit->Size.cx; ++x) {
       MarkDataSet(edit->Number, &edit->Data, x, y, MarkDataGet(source, &from, x, y));
+    }
+  }
   gtk_widget_queue_draw(edit->ActualSize);
   gtk_widget_queue_draw(edit->Enlarged);
 }

@@ -41,8 +41,9 @@ GtkWidget* NewSwatch(const MARKBOX* marks, gint number, const MarkPress& press) 
 }  // namespace
 
 void CopyMarks(MarkBoxes* boxes) {
-  for (gsize number = 0; number < boxes->size(); ++number)
+  for (gsize number = 0; number < boxes->size(); ++number) {
     (*boxes)[number] = {nullptr, MarkData[number]};
+  }
 }
 
 void AddMarkSet(const DialogWindow& window, const MARKBOX* marks, const MarkPress& press,
@@ -54,9 +55,10 @@ void AddMarkSet(const DialogWindow& window, const MARKBOX* marks, const MarkPres
     GtkWidget* swatch = NewSwatch(marks, number, press);
     gtk_grid_attach(GTK_GRID(table), swatch, number % Columns, number / Columns, 1, 1);
     // Once all have their places, so that it comes into view.
-    if (number == first)
+    if (number == first) {
       g_signal_connect_object(window.Window, "map", G_CALLBACK(gtk_widget_grab_focus), swatch,
                               G_CONNECT_SWAPPED);
+    }
   }
   MakeOneTabStop(table);
   GtkWidget* scrolled = NewScrolled(table, GTK_POLICY_AUTOMATIC);

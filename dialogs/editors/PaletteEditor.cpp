@@ -65,8 +65,9 @@ void AddPalette(const DialogWindow& window, Palette* boxes, SwatchPress press) {
 
 void EditColrData_Event(GtkWidget* box, guint button, gpointer data) {
   if (button == GDK_BUTTON_PRIMARY &&
-      MakeColrData(box, SwatchNumber(box), static_cast<Palette*>(data)->data()) == 1)
+      MakeColrData(box, SwatchNumber(box), static_cast<Palette*>(data)->data()) == 1) {
     gtk_widget_queue_draw(box);
+  }
 }
 
 void EditColrData_OK(const Palette& boxes) {
@@ -87,10 +88,11 @@ void EditPickedColour(GtkWidget* box, gint number, Palette* boxes) {
 
 void Dlg_ColrSelect_Event(GtkWidget* box, guint button, gpointer data) {
   const gint number = SwatchNumber(box);
-  if (button == GDK_BUTTON_PRIMARY)
+  if (button == GDK_BUTTON_PRIMARY) {
     CloseDialog(box, number);
-  else if (button == GDK_BUTTON_SECONDARY)
+  } else if (button == GDK_BUTTON_SECONDARY) {
     EditPickedColour(box, number, static_cast<Palette*>(data));
+  }
 }
 
 // The colours used lately once more below all of them.
@@ -100,8 +102,9 @@ void AddRecentColours(const DialogWindow& window, Palette* boxes) {
   gtk_widget_set_margin_start(label, 10);
   GtkWidget* row = NewSwatchGrid();
   gint culm = 0;
-  for (const gint number : RecentColours())
+  for (const gint number : RecentColours()) {
     gtk_grid_attach(GTK_GRID(row), NewSwatch(boxes, number, Dlg_ColrSelect_Event), culm++, 0, 1, 1);
+  }
   // As wide a place for each as in the palette above.
   while (culm < Side) gtk_grid_attach(GTK_GRID(row), NewLabel(""), culm++, 0, 1, 1);
   gtk_box_pack_start(GTK_BOX(window.Content), label, FALSE, FALSE, 0);
@@ -131,8 +134,9 @@ gint Dlg_ColrSelect(GtkWidget* parent, gint current) {
                                 [&boxes, current](const DialogWindow& window) {
                                   AddPalette(window, &boxes, Dlg_ColrSelect_Event);
                                   AddRecentColours(window, &boxes);
-                                  if (current >= 0 && current < ColrCount)
+                                  if (current >= 0 && current < ColrCount) {
                                     gtk_widget_grab_focus(boxes[static_cast<gsize>(current)].box);
+                                  }
                                 },
                             .Otherwise = NoChoice});
 }

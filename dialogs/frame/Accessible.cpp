@@ -32,12 +32,13 @@ std::string TextOf(GtkWidget* label) {
 
 void FindControl(GtkWidget* widget, gpointer data) {
   auto* cell = static_cast<Cell*>(data);
-  if (IsControl(widget))
+  if (IsControl(widget)) {
     cell->Control = widget;
-  else if (GTK_IS_LABEL(widget))
+  } else if (GTK_IS_LABEL(widget)) {
     cell->Caption = TextOf(widget);
-  else if (GTK_IS_CONTAINER(widget))
+  } else if (GTK_IS_CONTAINER(widget)) {
     gtk_container_foreach(GTK_CONTAINER(widget), FindControl, data);
+  }
 }
 
 // From left to right in each row.
@@ -72,8 +73,9 @@ void DescribeChoice(GtkWidget* choice, const std::string& row) {
 }
 
 std::string NameOf(const Cell& cell, const std::string& row) {
-  if (GTK_IS_BUTTON(cell.Control))
+  if (GTK_IS_BUTTON(cell.Control)) {
     return Joined(row, gtk_button_get_label(GTK_BUTTON(cell.Control)));
+  }
   return Joined(row, cell.Caption);
 }
 
@@ -92,20 +94,23 @@ void NameRow(const std::vector<Cell>& row, const std::string& heading) {
       if (!name.empty()) named[{name, G_OBJECT_TYPE(cell.Control)}].push_back(cell.Control);
     }
   }
-  for (const auto& [kind, controls] : named)
-    for (gsize i = 0; i < controls.size(); ++i)
+  for (const auto& [kind, controls] : named) {
+    for (gsize i = 0; i < controls.size(); ++i) {
       SetAccessibleName(controls[i], controls.size() == 1
                                          ? kind.first
                                          : kind.first + " " + std::to_string(i + 1));
+    }
+  }
 }
 
 }  // namespace
 
 void SetAccessibleName(GtkWidget* control, const std::string& name) {
-  if (IsSwatchArea(control))
+  if (IsSwatchArea(control)) {
     SetSwatchLabel(control, name);
-  else
+  } else {
     atk_object_set_name(gtk_widget_get_accessible(control), name.c_str());
+  }
 }
 
 void SetAccessibleDescription(GtkWidget* control, const std::string& text) {

@@ -5,10 +5,11 @@
 namespace {
 
 void PressButton(GtkWidget* button, const DialogButton* row) {
-  if (row->Pressed)
+  if (row->Pressed) {
     row->Pressed(button);
-  else
+  } else {
     CloseDialog(button, row->Answer);
+  }
 }
 
 void AddButton(const DialogWindow& dialog, DialogButton& row) {

@@ -3,7 +3,6 @@
 #include "dialogs/frame/ScreenRoom.h"
 #include "dialogs/kit/Cells.h"
 #include "dialogs/kit/LatePress.h"
-
 #include "layout/EditWindows.h"
 
 namespace {
@@ -83,8 +82,9 @@ void SetDefaultButton(GtkWidget* button) {
 void SetDialogParent(GtkWidget* window, GtkWidget* parent) {
   if (parent == nullptr) return;
   GtkWidget* top = gtk_widget_get_toplevel(parent);
-  if (GTK_IS_WINDOW(top) && top != window)
+  if (GTK_IS_WINDOW(top) && top != window) {
     gtk_window_set_transient_for(GTK_WINDOW(window), GTK_WINDOW(top));
+  }
 }
 
 gint RunModal(GtkWidget* window, GtkWidget* parent, gint otherwise) {
@@ -101,8 +101,9 @@ gint RunModeless(GtkWidget* window, GtkWidget* parent, gint otherwise) {
   bool open = true;
   g_signal_connect(window, "destroy", G_CALLBACK(NoteEnd), &open);
   gtk_widget_show(window);
-  while (open && (MainLoop == nullptr || g_main_loop_is_running(MainLoop)))
+  while (open && (MainLoop == nullptr || g_main_loop_is_running(MainLoop))) {
     g_main_context_iteration(nullptr, TRUE);
+  }
   if (open) gtk_widget_destroy(window);
   return answer;
 }

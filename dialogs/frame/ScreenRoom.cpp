@@ -81,8 +81,9 @@ void ScrollTo(GtkWidget* control, const GdkRectangle& part) {
   gint x = 0;
   gint y = 0;
   if (!gtk_widget_translate_coordinates(control, gtk_bin_get_child(GTK_BIN(port)), part.x, part.y,
-                                        &x, &y))
+                                        &x, &y)) {
     return;
+  }
   const auto show = [](GtkAdjustment* place, gint from, gint extent) {
     gtk_adjustment_clamp_page(place, from, from + extent);
   };

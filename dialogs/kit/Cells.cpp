@@ -23,8 +23,9 @@ GtkWidget* NewLabel(const gchar* text, bool right) {
 
 GtkWidget* NewCaptionBox(const gchar* caption, gint spacing, guint padding) {
   GtkWidget* box = gtk_box_new(GTK_ORIENTATION_HORIZONTAL, spacing);
-  if (caption != nullptr && *caption != '\0')
+  if (caption != nullptr && *caption != '\0') {
     gtk_box_pack_start(GTK_BOX(box), NewLabel(caption), FALSE, FALSE, padding);
+  }
   return box;
 }
 
@@ -43,11 +44,13 @@ GdkRGBA Ink(GtkWidget* area) {
 }
 
 void KeepWidget(GtkWidget** slot, GtkWidget* widget) {
-  if (*slot != nullptr)
+  if (*slot != nullptr) {
     g_object_remove_weak_pointer(G_OBJECT(*slot), reinterpret_cast<gpointer*>(slot));
+  }
   *slot = widget;
-  if (widget != nullptr)
+  if (widget != nullptr) {
     g_object_add_weak_pointer(G_OBJECT(widget), reinterpret_cast<gpointer*>(slot));
+  }
 }
 
 void RedrawLayout() {

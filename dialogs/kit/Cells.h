@@ -12,8 +12,9 @@
 // Calls `build` for each row that shows a control.
 template <class Row, class Build>
 void ForEachRow(Row* rows, Build build) {
-  for (Row* row = rows; row != nullptr && row->line >= 0; ++row)
+  for (Row* row = rows; row != nullptr && row->line >= 0; ++row) {
     if (row->culm1 != -1) build(*row);
+  }
 }
 
 // Places and shows a control in columns culm1..culm2 of row `line`.
@@ -22,6 +23,7 @@ template <class Row>
 void PlaceControl(GtkWidget* table, GtkWidget* control, const Row& row) {
   PlaceControl(table, control, row.line, row.culm1, row.culm2);
 }
+
 // A shown, left- or right-aligned label.
 GtkWidget* NewLabel(const gchar* text, bool right = false);
 // A shown horizontal box, begun with the caption unless that is empty; `padding` stands on both
@@ -49,6 +51,7 @@ inline gint LoadInt(const gint* bound) {
   std::memcpy(&value, static_cast<const void*>(bound), sizeof value);
   return value;
 }
+
 inline void StoreInt(gint* bound, gint value) {
   std::memcpy(static_cast<void*>(bound), &value, sizeof value);
 }

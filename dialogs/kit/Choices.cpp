@@ -44,18 +44,20 @@ void Dlg_ComboBox_Slct(GtkComboBox* combo, const DLG_COMBOBOX* row) {
   gchar* text = gtk_combo_box_text_get_active_text(GTK_COMBO_BOX_TEXT(combo));
   if (text == nullptr) return;
   const gint count = ListCount(row->list);
-  for (gint index = 0; index < count; ++index)
+  for (gint index = 0; index < count; ++index) {
     if (std::strcmp(text, row->list[index]) == 0) {
       StoreInt(row->item, index);
       break;
     }
+  }
   g_free(text);
 }
 
 GtkWidget* NewCombo(DLG_COMBOBOX& row, gint count) {
   GtkWidget* combo = row.edit != 0 ? gtk_combo_box_text_new_with_entry() : gtk_combo_box_text_new();
-  for (gint index = 0; index < count; ++index)
+  for (gint index = 0; index < count; ++index) {
     gtk_combo_box_text_append_text(GTK_COMBO_BOX_TEXT(combo), row.list[index]);
+  }
   // An index equal to the count shows an empty text: only a greater one falls back to the first.
   gint shown = LoadInt(row.item);
   if (shown > count) shown = 0;
@@ -77,8 +79,9 @@ void Dlg_RadioButn(GtkWidget* parent, GtkWidget* table, DLG_RADIOBUTN* rows) {
     previous = &row;
     GtkWidget* button = gtk_radio_button_new_with_label_from_widget(group, row.text);
     group = GTK_RADIO_BUTTON(button);
-    if (LoadInt(row.data) == row.code)
+    if (LoadInt(row.data) == row.code) {
       gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(button), TRUE);
+    }
     g_signal_connect(button, "toggled", G_CALLBACK(Dlg_RadioButn_Slct), &row);
     PlaceControl(table, button, row);
   });
@@ -103,8 +106,9 @@ void Dlg_ComboBox(GtkWidget* parent, GtkWidget* table, DLG_COMBOBOX* rows) {
   Dlg_ComboBox_Parent = parent;
   ForEachRow(rows, [table](DLG_COMBOBOX& row) {
     GtkWidget* box = NewCaptionBox(row.text, 0, 5);
-    if (const gint count = ListCount(row.list); count > 0)
+    if (const gint count = ListCount(row.list); count > 0) {
       gtk_box_pack_start(GTK_BOX(box), NewCombo(row, count), TRUE, TRUE, 0);
+    }
     PlaceControl(table, box, row);
   });
 }

@@ -124,12 +124,13 @@ void ShowRecordText(GtkWidget* entry, const gchar* text) {
   const auto block = [entry](bool on) {
     for (GCallback handler : {G_CALLBACK(Dlg_EditBox_Insert), G_CALLBACK(Dlg_EditBox_Entry)}) {
       const gpointer function = reinterpret_cast<gpointer>(handler);
-      if (on)
+      if (on) {
         g_signal_handlers_block_matched(entry, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, function,
                                         nullptr);
-      else
+      } else {
         g_signal_handlers_unblock_matched(entry, G_SIGNAL_MATCH_FUNC, 0, 0, nullptr, function,
                                           nullptr);
+      }
     }
   };
   block(true);

@@ -21,7 +21,7 @@ GtkStyleProvider* ReadOnlyLook() {
 }
 
 // The space bar is the window's where an entry does not take it, and presses the default button.
-gboolean KeepSpace(GtkWidget* /*entry*/, const GdkEventKey* event, gpointer) {
+gboolean KeepSpace(GtkWidget* /*entry*/, const GdkEventKey* event, gpointer /*data*/) {
   return event->keyval == GDK_KEY_space || event->keyval == GDK_KEY_KP_Space;
 }
 

@@ -38,6 +38,7 @@ G_DEFINE_TYPE_WITH_CODE(LateMenuEntryAccessible, late_menu_entry_accessible,
 void late_button_class_init(LateButtonClass* type) {
   gtk_widget_class_set_accessible_type(GTK_WIDGET_CLASS(type), late_button_accessible_get_type());
 }
+
 void late_button_init(LateButton* /*button*/) {}
 void late_button_accessible_class_init(LateButtonAccessibleClass* /*type*/) {}
 void late_button_accessible_init(LateButtonAccessible* /*accessible*/) {}
@@ -46,6 +47,7 @@ void late_menu_entry_class_init(LateMenuEntryClass* type) {
   gtk_widget_class_set_accessible_type(GTK_WIDGET_CLASS(type),
                                        late_menu_entry_accessible_get_type());
 }
+
 void late_menu_entry_init(LateMenuEntry* /*entry*/) {}
 void late_menu_entry_accessible_class_init(LateMenuEntryAccessibleClass* /*type*/) {}
 void late_menu_entry_accessible_init(LateMenuEntryAccessible* /*accessible*/) {}
@@ -58,12 +60,13 @@ bool CanBePressed(GtkWidget* widget) {
 }
 
 void Press(GtkWidget* widget) {
-  if (GTK_IS_BUTTON(widget))
+  if (GTK_IS_BUTTON(widget)) {
     gtk_button_clicked(GTK_BUTTON(widget));
-  else if (GTK_IS_MENU_ITEM(widget) && gtk_widget_get_mapped(widget))
+  } else if (GTK_IS_MENU_ITEM(widget) && gtk_widget_get_mapped(widget)) {
     gtk_menu_shell_activate_item(GTK_MENU_SHELL(gtk_widget_get_parent(widget)), widget, TRUE);
-  else
+  } else {
     gtk_widget_activate(widget);
+  }
 }
 
 gboolean PressWhenIdle(gpointer accessible) {
@@ -73,8 +76,9 @@ gboolean PressWhenIdle(gpointer accessible) {
 }
 
 gboolean DoAction(AtkAction* accessible, gint action) {
-  if (action != 0 || !CanBePressed(gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible))))
+  if (action != 0 || !CanBePressed(gtk_accessible_get_widget(GTK_ACCESSIBLE(accessible)))) {
     return FALSE;
+  }
   g_idle_add_full(G_PRIORITY_DEFAULT, PressWhenIdle, g_object_ref(accessible), g_object_unref);
   return TRUE;
 }

@@ -37,8 +37,9 @@ GtkAdjustment* NewAdjustment(const DLG_NUMRBOX& row) {
 void LeavePageKeysToPages() {
   static const bool left = [] {
     auto* type = static_cast<GObjectClass*>(g_type_class_ref(GTK_TYPE_SPIN_BUTTON));
-    for (const guint key : {GDK_KEY_Page_Up, GDK_KEY_Page_Down})
+    for (const guint key : {GDK_KEY_Page_Up, GDK_KEY_Page_Down}) {
       gtk_binding_entry_skip(gtk_binding_set_by_class(type), key, GDK_CONTROL_MASK);
+    }
     g_type_class_unref(type);
     return true;
   }();

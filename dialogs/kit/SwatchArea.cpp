@@ -108,8 +108,9 @@ void Finalize(GObject* area) {
 void BindKeys(SwatchAreaClass* type) {
   GtkBindingSet* keys = gtk_binding_set_by_class(type);
   for (const guint key :
-       {GDK_KEY_space, GDK_KEY_KP_Space, GDK_KEY_Return, GDK_KEY_ISO_Enter, GDK_KEY_KP_Enter})
+       {GDK_KEY_space, GDK_KEY_KP_Space, GDK_KEY_Return, GDK_KEY_ISO_Enter, GDK_KEY_KP_Enter}) {
     gtk_binding_entry_add_signal(keys, key, GdkModifierType{}, "activate", 0);
+  }
 }
 
 void swatch_area_class_init(SwatchAreaClass* type) {
@@ -189,8 +190,9 @@ bool IsSwatchArea(GtkWidget* widget) {
 
 void RedrawSwatches() {
   GList* windows = gtk_window_list_toplevels();
-  for (GList* link = windows; link != nullptr; link = link->next)
+  for (GList* link = windows; link != nullptr; link = link->next) {
     RedrawWithin(static_cast<GtkWidget*>(link->data), nullptr);
+  }
   g_list_free(windows);
 }
 

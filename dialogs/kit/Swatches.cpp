@@ -28,9 +28,11 @@ void PaintNumber(GtkWidget* box, cairo_t* cairo, gint number) {
   DrawTextOnBaseline(&picture, &gc, 0, Baseline, SmallFont, ColourBlack, text);
   const GdkRGBA colour = Ink(box);
   gdk_cairo_set_source_rgba(cairo, &colour);
-  for (gint y = 0; y < NumberArea.cy; ++y)
-    for (gint x = 0; x < NumberArea.cx; ++x)
+  for (gint y = 0; y < NumberArea.cy; ++y) {
+    for (gint x = 0; x < NumberArea.cx; ++x) {
       if ((picture.Row(y)[x] & 0xffffff) == 0) cairo_rectangle(cairo, x, y, 1, 1);
+    }
+  }
   cairo_fill(cairo);
 }
 
@@ -48,10 +50,11 @@ constexpr SIZE ColourSize = {62, 20};
 
 void Dlg_ColrData_Draw(GtkWidget* area, cairo_t* cairo, gpointer row) {
   const gint number = LoadInt(static_cast<const DLG_COLRDATA*>(row)->colr);
-  if (number >= 0 && number < ColrCount)
+  if (number >= 0 && number < ColrCount) {
     DrawColrData(area, cairo, number, ColrData[number]);
-  else
+  } else {
     PaintNumber(area, cairo, number);
+  }
 }
 
 void Dlg_ColrData_Slct(GtkWidget* area, guint button, gpointer data) {
@@ -67,10 +70,11 @@ void Dlg_ColrData_Slct(GtkWidget* area, guint button, gpointer data) {
 
 void Dlg_MarkData_Draw(GtkWidget* area, cairo_t* cairo, gpointer row) {
   const gint number = LoadInt(static_cast<const DLG_MARKDATA*>(row)->mark);
-  if (number >= 0 && number < MarkCount)
+  if (number >= 0 && number < MarkCount) {
     DrawMarkData(area, cairo, number, MarkData[number]);
-  else
+  } else {
     PaintNumber(area, cairo, number);
+  }
 }
 
 // The cells beside it give room for a mark of 32 x 32; a larger one needs its own.
@@ -109,9 +113,11 @@ void DrawMarkData(GtkWidget* markbox, cairo_t* cairo, gint markno, const MARKDAT
   const SIZE size = MarkDataSize[markno / 50];
   Drawable picture(size.cx, size.cy);
   FillPixels(&picture, 0, 0, size.cx, size.cy, 0xffffff);
-  for (gint y = 0; y < size.cy; ++y)
-    for (gint x = 0; x < size.cx; ++x)
+  for (gint y = 0; y < size.cy; ++y) {
+    for (gint x = 0; x < size.cx; ++x) {
       if (MarkDataGet(markno, &markdata, x, y) != 0) FillPixels(&picture, x, y, 1, 1, 0);
+    }
+  }
   cairo_set_source_surface(cairo, picture.Cairo(), 26, 1);
   cairo_pattern_set_filter(cairo_get_source(cairo), CAIRO_FILTER_NEAREST);
   cairo_rectangle(cairo, 26, 1, size.cx, size.cy);

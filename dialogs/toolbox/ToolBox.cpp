@@ -1,6 +1,5 @@
 // The tool box window: opening, closing, its buttons and the place it remembers.
 #include "dialogs/ToolBox.h"
-#include "dialogs/kit/LatePress.h"
 
 #include <optional>
 
@@ -8,6 +7,7 @@
 #include "dialogs/frame/DialogWindow.h"
 #include "dialogs/frame/ScreenRoom.h"
 #include "dialogs/kit/Cells.h"
+#include "dialogs/kit/LatePress.h"
 #include "dialogs/toolbox/ToolBoxPage.h"
 #include "layout/Commit.h"
 #include "layout/EditState.h"
@@ -114,8 +114,9 @@ void ShareKeyboard(GtkWindow* panel, GtkWidget* parent) {
   g_signal_connect(panel, "key-press-event", G_CALLBACK(ToolBox_Key), nullptr);
   if (parent == nullptr) return;
   for (GSList* keys = gtk_accel_groups_from_object(G_OBJECT(parent)); keys != nullptr;
-       keys = keys->next)
+       keys = keys->next) {
     gtk_window_add_accel_group(panel, GTK_ACCEL_GROUP(keys->data));
+  }
 }
 
 }  // namespace
@@ -123,10 +124,11 @@ void ShareKeyboard(GtkWindow* panel, GtkWidget* parent) {
 GtkWidget* ToolBox_Button(GtkWidget* box, const gchar* label, gint no, gint start) {
   GtkWidget* button = NewButton(label);
   g_signal_connect(button, "clicked", G_CALLBACK(ToolBoxButn), GINT_TO_POINTER(no));
-  if (start != 0)
+  if (start != 0) {
     gtk_box_pack_start(GTK_BOX(box), button, FALSE, FALSE, 0);
-  else
+  } else {
     gtk_box_pack_end(GTK_BOX(box), button, FALSE, FALSE, 0);
+  }
   gtk_widget_set_sensitive(button, no == ButtonCode::Redraw);
   gtk_widget_show(button);
   KeepWidget(&ToolBoxButton[no], button);
@@ -161,8 +163,9 @@ void Dlg_ToolBox(GtkWidget* parent, gint type) {
   g_signal_connect(dialog.Window, "delete-event", G_CALLBACK(ToolBox_Delete), nullptr);
   g_signal_connect(dialog.Window, "destroy", G_CALLBACK(ToolBox_Destroy), nullptr);
   BuildToolBoxPage(dialog.Window, type);
-  for (const auto& button : Buttons)
+  for (const auto& button : Buttons) {
     ToolBox_Button(dialog.Actions, button.Label, button.Code, button.Start);
+  }
   SetDefaultButton(ToolBoxButton[ButtonCode::Register]);
   SetDialogParent(dialog.Window, parent);
   ShareKeyboard(GTK_WINDOW(dialog.Window), parent);
@@ -180,9 +183,11 @@ void SaveToolBox() {
 
 void SetToolBoxButton(gint mode) {
   if (ToolBox == nullptr) return;
-  for (gint code = 0; code < 5; ++code)
-    if (ToolBoxButton[code] != nullptr)
+  for (gint code = 0; code < 5; ++code) {
+    if (ToolBoxButton[code] != nullptr) {
       gtk_widget_set_sensitive(ToolBoxButton[code], (mode >> code & 1) != 0);
+    }
+  }
   // The buttons change with the state of the item in hand. What registering moved onto the grid or
   // took as done is shown as it is held now.
   SetToolBoxPoint();

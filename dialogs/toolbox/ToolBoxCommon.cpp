@@ -38,8 +38,9 @@ void DescribeCommon(PageRows& rows, const CommonVariant& variant) {
   rows.Row("識別コード").Entry(PtrnData.ID_Code).Browse(ToolBox_Code);
   rows.Row().Number(ItemInt(offsetof(PTRNDATA, ID_No)), 9999);
   rows.Row().Check(ItemInt(offsetof(PTRNDATA, UndfFlag)), "後で設定", 3);
-  if (variant.Registers)
+  if (variant.Registers) {
     rows.Row().Check(ItemInt(offsetof(PTRNDATA, RegstFlag)), "文字列一覧へ登録", 3);
+  }
   rows.Row().Check(ItemInt(offsetof(PTRNDATA, CheckFlag)), "次回からの初期値として保存", 3);
 }
 

@@ -17,8 +17,9 @@ gint* const Keys[] = {&CusrUp, &CusrDown, &CusrLeft, &CusrRight};
 
 void SetToolBoxCursor() {
   gint bits = 0;
-  for (gint bit = 0; bit < 4; ++bit)
+  for (gint bit = 0; bit < 4; ++bit) {
     if (*Keys[bit] != 0) bits |= 1 << bit;
+  }
   PtrnData.Parm[TextSlot::CursorKeys] = bits;
 }
 

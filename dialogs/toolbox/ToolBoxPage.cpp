@@ -45,10 +45,11 @@ void AlignColumns(GtkWidget* table) {
     gtk_container_child_get(GTK_CONTAINER(table), widget, "left-attach", &left, "width", &width,
                             nullptr);
     if (width != 1) continue;
-    if (left == 0)
+    if (left == 0) {
       gtk_widget_set_margin_end(widget, 10);
-    else
+    } else {
       gtk_size_group_add_widget(columns, widget);
+    }
   }
   g_list_free(cells);
   g_object_unref(columns);
@@ -63,18 +64,21 @@ bool IsStop(GtkWidget* widget) {
 void FindStop(GtkWidget* widget, gpointer data) {
   auto** found = static_cast<GtkWidget**>(data);
   if (*found != nullptr) return;
-  if (IsStop(widget))
+  if (IsStop(widget)) {
     *found = widget;
-  else if (GTK_IS_CONTAINER(widget))
+  } else if (GTK_IS_CONTAINER(widget)) {
     gtk_container_forall(GTK_CONTAINER(widget), FindStop, data);
+  }
 }
 
 // The panel's keyboard begins below the first row, which has TOP beside what is only read.
 void BeginBelowTop(GtkWidget* table, gint lines, gint culms) {
   GtkWidget* first = nullptr;
-  for (gint cell = 0; cell < lines * culms && first == nullptr; ++cell)
-    if (GtkWidget* child = gtk_grid_get_child_at(GTK_GRID(table), cell % culms, 1 + cell / culms))
+  for (gint cell = 0; cell < lines * culms && first == nullptr; ++cell) {
+    if (GtkWidget* child = gtk_grid_get_child_at(GTK_GRID(table), cell % culms, 1 + cell / culms)) {
       FindStop(child, &first);
+    }
+  }
   if (first != nullptr) gtk_widget_grab_focus(first);
 }
 

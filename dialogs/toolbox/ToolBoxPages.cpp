@@ -86,10 +86,11 @@ void ToolBox_Numr(PageRows& page) {
 }
 
 void ButtonTexts(PageRows& page) {
-  if (page.Language() == 0)
+  if (page.Language() == 0) {
     page.Texts(std::array{"ボタンの文字"});
-  else
+  } else {
     page.Texts(std::array{"ボタンの文字１", "ボタンの文字２", "ボタンの文字３"});
+  }
 }
 
 void ToolBox_Butn(PageRows& page) {
@@ -177,8 +178,9 @@ constexpr TypePage Pages[] = {{TypeFrame, ToolBox_Gbox},          {TypeLine, Too
 // One page per type, in the order of the types.
 static_assert([] {
   gint type = 0;
-  for (const TypePage& page : Pages)
+  for (const TypePage& page : Pages) {
     if (page.Type != ++type) return false;
+  }
   return type == ItemTypeCount;
 }());
 

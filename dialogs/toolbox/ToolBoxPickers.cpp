@@ -53,8 +53,9 @@ std::vector<std::string> ToolBoxList3(gint kind) {
   std::vector<std::string> texts;
   const auto content = ReadWholeFile(JoinPath(ProjPath, file, ""));
   if (!content) return texts;
-  for (gsize at = 0; at + sizeof(PTRNTEXT) <= content->size(); at += sizeof(PTRNTEXT))
+  for (gsize at = 0; at + sizeof(PTRNTEXT) <= content->size(); at += sizeof(PTRNTEXT)) {
     texts.emplace_back(FieldText(content->data() + at, sizeof(PTRNTEXT)));
+  }
   return texts;
 }
 
@@ -75,11 +76,13 @@ void ToolBoxList_Select(GtkWidget* list, const std::string& chosen) {
 
 // Texts of more than `limit` bytes are unusable.
 void FillList(GtkWidget* list, const std::vector<std::string>& texts, gsize limit) {
-  for (const std::string& text : texts)
-    if (text.size() <= limit)
+  for (const std::string& text : texts) {
+    if (text.size() <= limit) {
       AddName(list, text, text);
-    else
+    } else {
       AddUnusableName(list, text, "長すぎるため、この欄には入りません。");
+    }
+  }
   gtk_tree_view_column_set_min_width(gtk_tree_view_get_column(GTK_TREE_VIEW(list), 0), 280);
   // One click chooses. The selection alone would not do: a list that gets the keyboard focus
   // selects its first row by itself.

@@ -161,6 +161,7 @@ void BuildTables(GtkWidget* window, GtkWidget* grid, PageTables& tables) {
                  .Colr = tables.Colr.Rows(),
                  .Mark = tables.Mark.Rows()});
   Dlg_ColrData(window, grid, tables.LaterColr.Rows());
-  for (const BrowseButton& browse : tables.Browse)
+  for (const BrowseButton& browse : tables.Browse) {
     AddBrowseButton(grid, browse, tables.Edit.Rows());
+  }
 }

@@ -68,6 +68,7 @@ struct PageVariant {
 inline gint* ItemInt(gsize offset) {
   return static_cast<gint*>(static_cast<void*>(reinterpret_cast<char*>(&PtrnData) + offset));
 }
+
 inline gint* Parm(gint slot) {
   return ItemInt(offsetof(PTRNDATA, Parm) + static_cast<gsize>(slot) * sizeof(gint));
 }

@@ -25,11 +25,14 @@ bool IsOnLayout(const PTRNHEDR& header, gint64 x, gint64 y);
 inline bool IsColour(gint colour) {
   return colour >= 0 && colour <= 102;
 }
+
 inline bool IsFont(gint font) {
   return font >= 0 && font <= 20;
 }
+
 inline bool IsMark(gint mark) {
   return mark >= 0 && mark <= 353;
 }
+
 // Line height of a font in dots; 0 for a number that names none.
 gint GuardedFontHeight(gint font);

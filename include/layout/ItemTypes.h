@@ -60,12 +60,14 @@ struct ItemTypeRow {
 inline bool IsItemType(gint type) {
   return type >= 1 && type <= ItemTypeCount;
 }
+
 // Index = type code; entry 0 is empty. Whoever asks goes through the functions below.
 extern const ItemTypeRow ItemTypeRows[ItemTypeCount + 1];
 // The row of a type code; an empty one, without name or shape, for any other number.
 inline const ItemTypeRow& ItemTypeOf(gint type) {
   return ItemTypeRows[IsItemType(type) ? type : 0];
 }
+
 // All rows, in the order of their codes.
 std::span<const ItemTypeRow> ItemTypes();
 // True for a type placed by two points; false for an unknown one.

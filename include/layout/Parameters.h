@@ -38,6 +38,7 @@ struct Condition {
 constexpr Condition While(gint slot) {
   return {slot, true};
 }
+
 constexpr Condition Unless(gint slot) {
   return {slot, false};
 }

@@ -19,6 +19,7 @@ extern DRAWCOLR CusrColr[2];
 inline bool ColourExists(gint colour) {
   return colour >= 0 && colour <= ColourRed;
 }
+
 // 0xRRGGBB of 16-bit channels.
 guint32 PixelOf(gint red, gint green, gint blue);
 

@@ -12,11 +12,11 @@
 
 // What tells one state of a file from another.
 struct FileState {
-  dev_t device;
-  ino_t inode;
-  off_t size;
-  gint64 seconds;
-  gint64 nanoseconds;
+  dev_t Device;
+  ino_t Inode;
+  off_t Size;
+  gint64 Seconds;
+  gint64 Nanoseconds;
 
   bool operator==(const FileState&) const = default;
 };

@@ -18,7 +18,7 @@ struct BareMemory {
 
   BareMemory() = default;
   template <typename Other>
-  explicit BareMemory(const BareMemory<Other>&) {}
+  explicit BareMemory(const BareMemory<Other>& /*other*/) {}
 
   Record* allocate(std::size_t count) {
     if (count > static_cast<std::size_t>(-1) / 2 / sizeof(Record)) throw std::bad_alloc();

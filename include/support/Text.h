@@ -26,6 +26,7 @@ template <std::size_t Size>
 std::string_view FieldText(const gchar (&field)[Size]) {
   return FieldText(field, Size);
 }
+
 template <std::size_t Size>
 void CopyText(gchar (&field)[Size], std::string_view text) {
   CopyText(field, Size, text);

@@ -33,8 +33,9 @@ void PtrnFileClose_Save(GtkWidget* button) {
   if (PtrnFileName[0] == '\0') return;
   if (FileExist(ProjPath, PtrnFileName, "ptn") != 0 &&
       Dlg_MessageBox(button, "レイアウト保存", "同一名称のレイアウトファイルが存在します。",
-                     "上書きしますか ？", 2) != 1)
+                     "上書きしますか ？", 2) != 1) {
     return;
+  }
   CloseDialog(button, Save);
 }
 

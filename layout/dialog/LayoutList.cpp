@@ -19,9 +19,10 @@ void ListLayouts(GtkWidget* list, bool incomplete) {
       FileRead(ProjPath, file.c_str(), "", &header, sizeof header, 0);
       if (header.UndfFlag == 0) return;
     }
-    if (name.size() < sizeof PtrnFileName)
+    if (name.size() < sizeof PtrnFileName) {
       AddName(list, name, name);
-    else
+    } else {
       AddUnusableName(list, name, "名称が長すぎるため、開くことも削除することもできません。");
+    }
   });
 }

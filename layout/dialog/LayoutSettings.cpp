@@ -1,5 +1,6 @@
 // The settings dialog of a layout, over the working copy EditHedr.
 #include "layout/LayoutSettings.h"
+
 #include "dialogs/Choosers.h"
 #include "dialogs/frame/TableDialog.h"
 #include "dialogs/kit/LatePress.h"
@@ -31,8 +32,9 @@ gint EditPtrnData(GtkWidget* parent) {
                                  .ColumnSpacing = 15,
                                  .Complete =
                                      [&page](GtkWidget* grid) {
-                                       if (page.Bitmap != nullptr)
+                                       if (page.Bitmap != nullptr) {
                                          AddBrowseButton(grid, page.Bitmap);
+                                       }
                                      },
                                  .First = page.Tables.Edit,
                                  .Check = EditPtrnData_Check,

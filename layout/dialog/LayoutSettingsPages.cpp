@@ -14,6 +14,7 @@ namespace {
 gint* Parm1(gint slot) {
   return IntAt(&EditHedr, offsetof(PTRNHEDR, Parm1) + static_cast<gsize>(slot) * sizeof(gint));
 }
+
 gint* Parm2(gint slot) {
   return IntAt(&EditHedr, offsetof(PTRNHEDR, Parm2) + static_cast<gsize>(slot) * sizeof(gint));
 }
@@ -21,6 +22,7 @@ gint* Parm2(gint slot) {
 const gchar* LabelOf(gint slot) {
   return FindParameter(HeaderParameters(), slot)->Label;
 }
+
 const ValueRange& RangeOf(gint slot) {
   return FindParameter(HeaderParameters(), slot)->Range;
 }
@@ -30,12 +32,15 @@ const ValueRange& RangeOf(gint slot) {
 DLG_NUMRBOX Number(gint line, gint culm, gint slot, const gchar* caption) {
   return Rows::Number(line, culm, Parm1(slot), RangeOf(slot).Least, RangeOf(slot).Most, caption);
 }
+
 DLG_RADIOBUTN Radio(gint line, gint culm, gint slot, gint value) {
   return Rows::Radio(line, culm, Parm1(slot), value, RangeOf(slot).Values[value]);
 }
+
 DLG_CHECKBUTN Switch(gint line, gint culm1, gint culm2, gint slot) {
   return Check(line, culm1, culm2, Parm1(slot), LabelOf(slot));
 }
+
 // A row of what else the header holds.
 DLG_CHECKBUTN Option(gint line, gint culm1, gint culm2, gint slot) {
   return Check(line, culm1, culm2, Parm2(slot), FindParameter(ViewParameters(), slot)->Label);

@@ -29,9 +29,7 @@ void ForItemsInside(Change change) {
   const gint count = GetPtrnCount();
   PTRNDATA item;
   for (gint no = 0; no < count; ++no) {
-    if (GetPtrnData(no, &item) != 0 && AreaButnCheck(&item) != 0) {
-      change(no, item);
-    }
+    if (GetPtrnData(no, &item) != 0 && AreaButnCheck(&item) != 0) change(no, item);
   }
 }
 
@@ -45,9 +43,7 @@ gint AreaButnCheck(const PTRNDATA* item) {
 }
 
 void AreaButn_Delt() {
-  if (EndedWithNothingOpen()) {
-    return;
-  }
+  if (EndedWithNothingOpen()) return;
   PushPtrnData();
   if (DelPtrnDataIf([](const PTRNDATA* item) { return AreaButnCheck(item) != 0; }) > 0) {
     PtrnFlag = 2;
@@ -55,9 +51,7 @@ void AreaButn_Delt() {
 }
 
 void AreaButn_Move() {
-  if (EndedWithNothingOpen() || Dlg_AreaMove(PtrnWnd, &CopyMoveParm) != 1) {
-    return;
-  }
+  if (EndedWithNothingOpen() || Dlg_AreaMove(PtrnWnd, &CopyMoveParm) != 1) return;
   PushPtrnData();
   ForItemsInside([](gint no, PTRNDATA& item) {
     ShiftItem(&item, CopyMoveParm);
@@ -67,21 +61,15 @@ void AreaButn_Move() {
 }
 
 void AreaButn_Copy() {
-  if (EndedWithNothingOpen() || Dlg_AreaCopy(PtrnWnd, &CopyMoveParm) != 1) {
-    return;
-  }
+  if (EndedWithNothingOpen() || Dlg_AreaCopy(PtrnWnd, &CopyMoveParm) != 1) return;
   PushPtrnData();
   ForItemsInside([](gint /*no*/, const PTRNDATA& item) { AddShiftedCopies(item, CopyMoveParm); });
 }
 
 void AreaBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
-  if (EndedWithNothingOpen()) {
-    return;
-  }
+  if (EndedWithNothingOpen()) return;
   const gint command = GPOINTER_TO_INT(data);
-  if (command > 0) {
-    OrderCorners();
-  }
+  if (command > 0) OrderCorners();
   switch (command) {
     case AreaCode::Delete:
       AreaButn_Delt();

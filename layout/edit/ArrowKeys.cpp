@@ -40,9 +40,7 @@ void Shift(POINT& point, gint64 xdot, gint64 ydot) {
 }  // namespace
 
 gint MoveItemInHand(gint columns, gint rows) {
-  if (PtrnFlag == 0 || PtrnType == 0 || PtrnMode != ModeSelected) {
-    return 0;
-  }
+  if (PtrnFlag == 0 || PtrnType == 0 || PtrnMode != ModeSelected) return 0;
   const gint64 xdot = gint64{columns} * Step(PtrnHedr.Parm2[ViewSlot::GridX]);
   const gint64 ydot = gint64{rows} * Step(PtrnHedr.Parm2[ViewSlot::GridY]);
   if (StaysInReach(xdot, ydot)) {

@@ -19,9 +19,7 @@ namespace {
 
 void FillParms() {
   const ItemTypeRow& type = ItemTypeOf(PtrnData.Type);
-  if (type.HasCursorKeys) {
-    SetToolBoxCursor();
-  }
+  if (type.HasCursorKeys) SetToolBoxCursor();
   SetPointParms(&PtrnData);
   if (type.Texts == ItemTexts::Words) {
     PtrnData.Parm[TextSlot::Length] = static_cast<gint>(TextOf(PtrnData, Language).size());
@@ -29,9 +27,7 @@ void FillParms() {
 }
 
 void StoreItem() {
-  if (PtrnNo < 0 || SetPtrnData(PtrnNo, &PtrnData) == 0) {
-    AddPtrnData(&PtrnData);
-  }
+  if (PtrnNo < 0 || SetPtrnData(PtrnNo, &PtrnData) == 0) AddPtrnData(&PtrnData);
   PtrnFlag = 2;
 }
 
@@ -46,16 +42,12 @@ void RegisterTexts() {
 }  // namespace
 
 gint ToolButn_OK() {
-  if (EndedWithNothingOpen() || TestPtrnData() == 0) {
-    return 0;
-  }
+  if (EndedWithNothingOpen() || TestPtrnData() == 0) return 0;
   PushPtrnData();
   FillParms();
   StoreItem();
   RegstPtrnCode(PtrnData.ID_Code, PtrnData.ID_No);
-  if (PtrnData.RegstFlag != 0) {
-    RegisterTexts();
-  }
+  if (PtrnData.RegstFlag != 0) RegisterTexts();
   if (PtrnData.CheckFlag != 0) {
     PtrnData.CheckFlag = 0;
     SaveItemDefaults(PtrnData);
@@ -64,9 +56,7 @@ gint ToolButn_OK() {
 }
 
 void ToolButn_Delt() {
-  if (EndedWithNothingOpen()) {
-    return;
-  }
+  if (EndedWithNothingOpen()) return;
   PushPtrnData();
   DelPtrnData(PtrnNo);
   PtrnFlag = 2;
@@ -74,12 +64,8 @@ void ToolButn_Delt() {
 
 // Copies the stored item: what was changed in hand and not registered is not copied.
 void ToolButn_Copy() {
-  if (EndedWithNothingOpen() || Dlg_ToolCopy(PtrnWnd, &CopyMoveParm) != 1) {
-    return;
-  }
+  if (EndedWithNothingOpen() || Dlg_ToolCopy(PtrnWnd, &CopyMoveParm) != 1) return;
   PushPtrnData();
   PTRNDATA item;
-  if (GetPtrnData(PtrnNo, &item) != 0) {
-    AddShiftedCopies(item, CopyMoveParm);
-  }
+  if (GetPtrnData(PtrnNo, &item) != 0) AddShiftedCopies(item, CopyMoveParm);
 }

@@ -1,5 +1,6 @@
 // Which form of the copy and move dialog a command asks with.
 #include "layout/CopyDialogs.h"
+
 #include "layout/Screen.h"
 
 namespace {

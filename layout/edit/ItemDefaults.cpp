@@ -36,15 +36,11 @@ void Write(const Key& key, Defaults& values, std::index_sequence<Index...> /*all
 void LoadItemDefaults(PTRNDATA* item) {
   Defaults values{};
   Read(Key(item->Type), values, Indices());
-  for (gsize i = 0; i < ParmCount; ++i) {
-    item->Parm[FirstParm + i] = values[i];
-  }
+  for (gsize i = 0; i < ParmCount; ++i) item->Parm[FirstParm + i] = values[i];
 }
 
 void SaveItemDefaults(const PTRNDATA& item) {
   Defaults values{};
-  for (gsize i = 0; i < ParmCount; ++i) {
-    values[i] = item.Parm[FirstParm + i];
-  }
+  for (gsize i = 0; i < ParmCount; ++i) values[i] = item.Parm[FirstParm + i];
   Write(Key(item.Type), values, Indices());
 }

@@ -1,4 +1,5 @@
 #include "layout/LayoutCommands.h"
+
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Mouse.h"
@@ -45,26 +46,18 @@ gint ProfileZoom() {
 // Cancelling the settings leaves an empty store and refreshes nothing.
 void PtrnDataNew([[maybe_unused]] GtkWidget* widget, gpointer data) {
   ClearToolBox();
-  if (SavePtrnData() != 1) {
-    return;
-  }
+  if (SavePtrnData() != 1) return;
   PtrnDataInit();
   PtrnFileInit(GPOINTER_TO_INT(data));
-  if (EditPtrnData(PtrnWnd) == 1) {
-    TakeSettings();
-  }
+  if (EditPtrnData(PtrnWnd) == 1) TakeSettings();
 }
 
 // The zoom comes from the profile, never from the file.
 void PtrnDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (SavePtrnData() != 1) {
-    return;
-  }
+  if (SavePtrnData() != 1) return;
   PtrnDataExit();
-  if (PtrnFileOpen(PtrnWnd) != 1) {
-    return;
-  }
+  if (PtrnFileOpen(PtrnWnd) != 1) return;
   PtrnFlag = 1;
   PtrnDataInit();
   TakeOwnFile();
@@ -84,13 +77,9 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
   ClearToolBox();
   if (PtrnFlag == 2) {
     const gint answer = PtrnFileClose(PtrnWnd);
-    if (answer == Cancelled) {
-      return;
-    }
+    if (answer == Cancelled) return;
     // What could not be saved stays open, silently: closing would lose it.
-    if (answer == Save && !SaveLayout()) {
-      return;
-    }
+    if (answer == Save && !SaveLayout()) return;
   }
   PtrnDataExit();
 }
@@ -98,9 +87,7 @@ void PtrnDataClose([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
 // The snapshots go, their count stays: undoing right after a save empties the store.
 void PtrnDataSave([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (PtrnFlag != 2 || !SaveLayout()) {
-    return;
-  }
+  if (PtrnFlag != 2 || !SaveLayout()) return;
   PtrnFlag = 1;
   PtrnSaveExit();
   SetMainMenu();
@@ -109,9 +96,7 @@ void PtrnDataSave([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 // A changed first title renames the layout: the next save writes a new file beside the old one.
 void PtrnDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (PtrnFlag == 0) {
-    return;
-  }
+  if (PtrnFlag == 0) return;
   EditHedr = PtrnHedr;
   if (EditPtrnData(PtrnWnd) == 1) {
     PushPtrnData();
@@ -121,9 +106,7 @@ void PtrnDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 
 void PtrnEditBack([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (PtrnFlag == 0) {
-    return;
-  }
+  if (PtrnFlag == 0) return;
   PopPtrnData();
   TakeName();
   ShowCanvas();
@@ -136,7 +119,5 @@ void PtrnDataPrint([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer
 
 void PtrnExit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
   ClearToolBox();
-  if (SavePtrnData() == 1 && MainLoop != nullptr) {
-    g_main_loop_quit(MainLoop);
-  }
+  if (SavePtrnData() == 1 && MainLoop != nullptr) g_main_loop_quit(MainLoop);
 }

@@ -1,6 +1,7 @@
 // Checking the layout settings.
 #include <algorithm>
 #include <cstring>
+
 #include "layout/ItemSlots.h"
 #include "layout/LayoutSettings.h"
 #include "layout/Parameters.h"
@@ -14,8 +15,9 @@ GtkWidget* EditLayoutWindow = nullptr;
 namespace {
 
 bool TitleMissing() {
-  for (gint language = 0; language <= std::clamp(Language, 0, 2); ++language)
+  for (gint language = 0; language <= std::clamp(Language, 0, 2); ++language) {
     if (TitleOf(EditHedr, language).empty()) return true;
+  }
   return false;
 }
 

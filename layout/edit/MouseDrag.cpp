@@ -29,18 +29,10 @@ void ShowInHand() {
 }
 
 void DragHandle(const Grip& grip, const POINT& point) {
-  if (grip.X1) {
-    PtrnData.Point1.x = point.x;
-  }
-  if (grip.Y1) {
-    PtrnData.Point1.y = point.y;
-  }
-  if (grip.X2) {
-    PtrnData.Point2.x = point.x;
-  }
-  if (grip.Y2) {
-    PtrnData.Point2.y = point.y;
-  }
+  if (grip.X1) PtrnData.Point1.x = point.x;
+  if (grip.Y1) PtrnData.Point1.y = point.y;
+  if (grip.X2) PtrnData.Point2.x = point.x;
+  if (grip.Y2) PtrnData.Point2.y = point.y;
 }
 
 POINT Moved(const POINT& from, gint64 xdot, gint64 ydot) {
@@ -99,7 +91,5 @@ constexpr StateHandlers MoveHandlers = {
 }  // namespace
 
 void MouseMove([[maybe_unused]] GtkWidget* widget, POINT* point) {
-  if (PtrnFlag != 0 && MousePoint(point) != 0) {
-    RunState(MoveHandlers, *point);
-  }
+  if (PtrnFlag != 0 && MousePoint(point) != 0) RunState(MoveHandlers, *point);
 }

@@ -72,7 +72,5 @@ constexpr StateHandlers PressHandlers = {
 }  // namespace
 
 void LButtonDown([[maybe_unused]] GtkWidget* widget, POINT* point) {
-  if (PtrnFlag != 0 && MousePoint(point) != 0) {
-    RunState(PressHandlers, *point);
-  }
+  if (PtrnFlag != 0 && MousePoint(point) != 0) RunState(PressHandlers, *point);
 }

@@ -44,7 +44,5 @@ constexpr StateHandlers ReleaseHandlers = {
 }  // namespace
 
 void LButtonUp([[maybe_unused]] GtkWidget* widget, POINT* point) {
-  if (PtrnFlag != 0 && MousePoint(point) != 0) {
-    RunState(ReleaseHandlers, *point);
-  }
+  if (PtrnFlag != 0 && MousePoint(point) != 0) RunState(ReleaseHandlers, *point);
 }

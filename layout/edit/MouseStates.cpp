@@ -4,13 +4,9 @@
 #include "support/ConstantLists.h"
 
 void RunState(const StateHandlers& handlers, const POINT& point) {
-  if (PtrnMode < ModeIdle || PtrnMode > ModeArea) {
-    return;
-  }
+  if (PtrnMode < ModeIdle || PtrnMode > ModeArea) return;
   const StateHandler handler = handlers[static_cast<gsize>(PtrnMode)];
-  if (handler != nullptr) {
-    handler(point);
-  }
+  if (handler != nullptr) handler(point);
 }
 
 void PlaceFreeEnd(const POINT& point) {

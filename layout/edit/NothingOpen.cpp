@@ -4,9 +4,7 @@
 #include "layout/Store.h"
 
 bool EndedWithNothingOpen() {
-  if (PtrnFlag != 0) {
-    return false;
-  }
+  if (PtrnFlag != 0) return false;
   ClearToolBox();
   return true;
 }

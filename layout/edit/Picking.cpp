@@ -18,9 +18,7 @@ gint MousePoint(POINT* point) {
   // Division truncates toward zero, so a strip left of and above the layout counts as its edge.
   const gint64 x = gint64{point->x} * 100 / zoom;
   const gint64 y = gint64{point->y} * 100 / zoom;
-  if (!IsOnLayout(PtrnHedr, x, y)) {
-    return 0;
-  }
+  if (!IsOnLayout(PtrnHedr, x, y)) return 0;
   *point = {static_cast<gint>(x), static_cast<gint>(y)};
   return 1;
 }
@@ -30,9 +28,7 @@ gint SearchPtrnData1(const POINT* point) {
   const gint count = GetPtrnCount();
   for (gint no = 0; no < count; ++no) {
     const PTRNDATA* item = ViewPtrnData(no);
-    if (item != nullptr && Pickable(item->Type) && SearchPtrnData(point, item) >= 1) {
-      return no;
-    }
+    if (item != nullptr && Pickable(item->Type) && SearchPtrnData(point, item) >= 1) return no;
   }
   return -1;
 }

@@ -11,10 +11,11 @@ namespace {
 // The project's screen becomes this layout when it is marked as such, and nothing when it was this
 // layout and is not marked any more.
 void RenewScreen(gint marked, gchar (&screen)[82]) {
-  if (marked != 0)
+  if (marked != 0) {
     CopyText(screen, FieldText(EditHedr.PtrnName1));
-  else if (FieldText(screen) == FieldText(EditHedr.PtrnName1))
+  } else if (FieldText(screen) == FieldText(EditHedr.PtrnName1)) {
     CopyText(screen, "");
+  }
 }
 
 }  // namespace

@@ -25,13 +25,9 @@ Answer AskToSave() {
 gint SavePtrnData() {
   if (PtrnFlag == 2) {
     const Answer answer = AskToSave();
-    if (answer == AnswerCancel) {
-      return 0;
-    }
+    if (answer == AnswerCancel) return 0;
     // A layout that could not be saved is not released.
-    if (answer == AnswerSave && !SaveLayout()) {
-      return 0;
-    }
+    if (answer == AnswerSave && !SaveLayout()) return 0;
   }
   PtrnFlag = 0;
   ExtPtrnData();

@@ -34,12 +34,8 @@ bool CostsWork(const std::string& file) {
 }
 
 bool KeepWhatItCosts(const std::string& file) {
-  if (file == KeptFile || !CostsWork(file)) {
-    return true;
-  }
-  if (!KeepPtrnFile(ProjPath, PtrnName)) {
-    return false;
-  }
+  if (file == KeptFile || !CostsWork(file)) return true;
+  if (!KeepPtrnFile(ProjPath, PtrnName)) return false;
   KeptFile = file;
   return true;
 }
@@ -53,16 +49,12 @@ void ForgetOwnFile() {
 
 void TakeOwnFile() {
   const std::string file = FileOfLayout();
-  if (!IsMissing(file)) {
-    OwnFile = file;
-  }
+  if (!IsMissing(file)) OwnFile = file;
 }
 
 bool SaveLayout() {
   const std::string file = FileOfLayout();
-  if (!KeepWhatItCosts(file) || !WritePtrnFile(ProjPath, PtrnName)) {
-    return false;
-  }
+  if (!KeepWhatItCosts(file) || !WritePtrnFile(ProjPath, PtrnName)) return false;
   OwnFile = file;
   KeptFile.clear();
   return true;

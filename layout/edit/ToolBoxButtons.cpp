@@ -18,15 +18,11 @@ void LetGo() {
 }  // namespace
 
 void ToolBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
-  if (EndedWithNothingOpen()) {
-    return;
-  }
+  if (EndedWithNothingOpen()) return;
   const gint button = GPOINTER_TO_INT(data);
   switch (button) {
     case ButtonCode::Register:
-      if (ToolButn_OK() == 0) {
-        return;
-      }
+      if (ToolButn_OK() == 0) return;
       break;
     case ButtonCode::Delete:
       ToolButn_Delt();
@@ -40,8 +36,6 @@ void ToolBoxButn([[maybe_unused]] GtkWidget* widget, gpointer data) {
     default:
       break;
   }
-  if (button != ButtonCode::Redraw) {
-    LetGo();
-  }
+  if (button != ButtonCode::Redraw) LetGo();
   DrawRequest(1);
 }

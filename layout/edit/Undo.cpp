@@ -22,9 +22,7 @@ constexpr const gchar* SlotExtension = "ptn";
 
 void DeleteSlot(gint slot) {
   // Before the slots have names there are none.
-  if (PtrnSavePath[0] != '\0') {
-    FileDelete(PtrnSavePath, PtrnSaveName[slot], SlotExtension);
-  }
+  if (PtrnSavePath[0] != '\0') FileDelete(PtrnSavePath, PtrnSaveName[slot], SlotExtension);
 }
 
 bool IsEmptySlot(gint slot) {
@@ -49,9 +47,7 @@ bool ShiftSlots() {
 
 void PtrnSaveInit() {
   PtrnSaveCount = 0;
-  if (PtrnSavePath[0] != '\0') {
-    return;
-  }
+  if (PtrnSavePath[0] != '\0') return;
   MakePath(PtrnSavePath, PathName, "save", "");
   CreateFolder(PtrnSavePath);
   const gint group = getpgid(0);
@@ -62,18 +58,14 @@ void PtrnSaveInit() {
 
 // The count stays: undoing after a save finds no snapshot and empties the store.
 void PtrnSaveExit() {
-  for (gint slot = 0; slot < SlotCount; ++slot) {
-    DeleteSlot(slot);
-  }
+  for (gint slot = 0; slot < SlotCount; ++slot) DeleteSlot(slot);
 }
 
 // A snapshot that could not be written does not count: undoing to it would lose the layout. A
 // history with a gap would lose it too, so one that cannot move up is given up.
 void PushPtrnData() {
   gint slot = PtrnSaveCount;
-  if (slot >= SlotCount) {
-    slot = ShiftSlots() ? SlotCount - 1 : 0;
-  }
+  if (slot >= SlotCount) slot = ShiftSlots() ? SlotCount - 1 : 0;
   // Not through a link that somebody may have put there: the folder may be everybody's, and the
   // names can be foreseen.
   DeleteSlot(slot);
@@ -84,9 +76,7 @@ void PushPtrnData() {
 // The grid display is no part of the history; everything else goes back, the zoom included. A
 // snapshot that the device cannot deliver changes nothing.
 void PopPtrnData() {
-  if (PtrnSaveCount <= 0) {
-    return;
-  }
+  if (PtrnSaveCount <= 0) return;
   Layout snapshot;
   snapshot.Header = PtrnHedr;
   const bool gone = IsEmptySlot(PtrnSaveCount - 1);

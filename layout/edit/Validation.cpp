@@ -7,9 +7,7 @@
 
 gint DispErrorMesg(gint k) {
   constexpr gint MessageCount = 19;
-  if (k >= 0 && k < MessageCount) {
-    Dlg_MessageBox(PtrnWnd, "入力エラー", ErrorMessage[k], "", 1);
-  }
+  if (k >= 0 && k < MessageCount) Dlg_MessageBox(PtrnWnd, "入力エラー", ErrorMessage[k], "", 1);
   return 0;
 }
 
@@ -17,9 +15,7 @@ gint TestPtrnData() {
   PTRNDATA item = PtrnData;
   NormalizeZahyo(&item);
   const gint message = CheckPtrnData(&item);
-  if (message >= 0) {
-    return DispErrorMesg(message);
-  }
+  if (message >= 0) return DispErrorMesg(message);
   PtrnData = item;
   return 1;
 }

@@ -30,12 +30,8 @@ bool IsOn(GtkWidget* widget) {
 
 // True when entry `choice` of a group of which one is always chosen asks for a change.
 bool Chooses(GtkWidget* widget, gint choice, gint count, gint current) {
-  if (choice < 0 || choice >= count) {
-    return false;
-  }
-  if (IsOn(widget)) {
-    return choice != current;
-  }
+  if (choice < 0 || choice >= count) return false;
+  if (IsOn(widget)) return choice != current;
   if (choice == current) {
     SetMenuActive1();  // a click took the mark off the chosen entry: put it back
   }
@@ -46,9 +42,7 @@ bool Chooses(GtkWidget* widget, gint choice, gint count, gint current) {
 
 void PtrnSelct(GtkWidget* widget, gpointer data) {
   const gint type = GPOINTER_TO_INT(data) + 1;
-  if (!IsItemType(type)) {
-    return;
-  }
+  if (!IsItemType(type)) return;
   const bool on = IsOn(widget);
   if (on && type != PtrnType) {
     PtrnType = type;

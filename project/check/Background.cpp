@@ -41,8 +41,9 @@ bool Covers(const PTRNDATA& item, const POINT& point) {
 }  // namespace
 
 Backgrounds::Backgrounds(const CheckedLayout& layout) : layout_(layout) {
-  for (const PTRNDATA& item : layout.Items)
+  for (const PTRNDATA& item : layout.Items) {
     if (Hides(item)) covers_.push_back(&item);
+  }
   std::stable_sort(covers_.begin(), covers_.end(), PaintedBefore);
 }
 
@@ -61,8 +62,9 @@ gint Backgrounds::AreaColour(const POINT& point) const {
   const auto& parm = layout_.Header.Parm1;
   if (point.y < 0 || point.y >= parm[HedrSlot::Height]) return Unknown;
   if (point.y < parm[HedrSlot::TitleHeight]) return parm[HedrSlot::TitleAreaColour];
-  if (point.y >= parm[HedrSlot::Height] - parm[HedrSlot::ButtonAreaHeight])
+  if (point.y >= parm[HedrSlot::Height] - parm[HedrSlot::ButtonAreaHeight]) {
     return parm[HedrSlot::ButtonAreaColour];
+  }
   const bool plain = FieldText(layout_.Header.BmapName).empty() && parm[HedrSlot::Gradation] == 0;
   return plain ? gint{parm[HedrSlot::WorkAreaColour]} : Unknown;
 }

@@ -10,8 +10,9 @@ namespace {
 std::vector<CheckRule> AllRules() {
   std::vector<CheckRule> rules;
   for (const auto family : {FileRules(), ScreenRules(), ItemRules(), CodeRules(), SourceRules(),
-                            TextRules(), PictureRules(), ColourRules(), LookRules()})
+                            TextRules(), PictureRules(), ColourRules(), LookRules()}) {
     rules.insert(rules.end(), family.begin(), family.end());
+  }
   return rules;
 }
 

@@ -23,8 +23,9 @@ bool NeedsCode(const PTRNDATA& item) {
 
 void FindMissing(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    if (NeedsCode(item) && CodeOf(item).empty())
+    if (NeedsCode(item) && CodeOf(item).empty()) {
       findings.AddItem(layout, item, "ID_Code", "needs an identification code");
+    }
   });
 }
 
@@ -38,8 +39,9 @@ bool IsIdentifier(std::string_view code) {
 void FindMalformed(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     const std::string_view code = CodeOf(item);
-    if (!code.empty() && !IsIdentifier(code))
+    if (!code.empty() && !IsIdentifier(code)) {
       findings.AddItem(layout, item, "ID_Code", Quoted(code) + " is no identifier");
+    }
   });
 }
 
@@ -59,9 +61,10 @@ static_assert(std::is_sorted(std::begin(Reserved), std::end(Reserved)));
 
 void FindReserved(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    if (std::binary_search(std::begin(Reserved), std::end(Reserved), CodeOf(item)))
+    if (std::binary_search(std::begin(Reserved), std::end(Reserved), CodeOf(item))) {
       findings.AddItem(layout, item, "ID_Code",
                        Quoted(CodeOf(item)) + " means something else in the generated sources");
+    }
   });
 }
 
@@ -79,10 +82,11 @@ void FindMixedKinds(const CheckedProject& project, FindingList& findings) {
     if (CodeOf(item).empty()) return;
     const std::string kind = KindOf(item.Type);
     const std::string& first = kinds.emplace(CodeOf(item), kind).first->second;
-    if (first != kind)
+    if (first != kind) {
       findings.AddItem(
           layout, item, "ID_Code",
           Quoted(CodeOf(item)) + " stands for " + kind + " here and for " + first + " elsewhere");
+    }
   });
 }
 
@@ -93,10 +97,11 @@ void FindDoubleRadioNumbers(const CheckedProject& project, FindingList& findings
     for (const PTRNDATA& item : layout.Items) {
       if (ItemTypeOf(item.Type).Data != ItemData::Choice || CodeOf(item).empty()) continue;
       const gint number = item.Parm[ChoiceSlot::Number];
-      if (!seen.emplace(CodeOf(item), +item.ID_No, number).second)
+      if (!seen.emplace(CodeOf(item), +item.ID_No, number).second) {
         findings.AddItem(layout, item, ParameterField(item, ChoiceSlot::Number),
                          "number " + std::to_string(number) + " is double in the group of " +
                              Quoted(CodeOf(item)));
+      }
     }
   }
 }
@@ -113,8 +118,9 @@ std::string Lack(const std::map<std::string_view, gint>& slots, const PTRNDATA& 
 
 void FindRegistryBehind(const CheckedProject& project, FindingList& findings) {
   std::map<std::string_view, gint> slots;
-  for (const PTRNCODE& record : project.Registry)
+  for (const PTRNCODE& record : project.Registry) {
     slots.emplace(FieldText(record.ID_Code), +record.DataCount);
+  }
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     if (CodeOf(item).empty()) return;
     std::string lack = Lack(slots, item);

@@ -1,8 +1,7 @@
 // Foregrounds that have the colour of what lies behind them.
-#include "project/check/Rules.h"
-
 #include "layout/ItemTypes.h"
 #include "project/check/Background.h"
+#include "project/check/Rules.h"
 
 namespace {
 
@@ -33,26 +32,29 @@ void CheckItem(const CheckedProject& project, const CheckedLayout& layout, const
     if (!SameColour(project, front, back)) continue;
     systems += (systems.empty() ? "" : ", ") + std::to_string(system);
   }
-  if (!systems.empty())
+  if (!systems.empty()) {
     findings.AddItem(layout, item, FindParameter(item.Type, type.FrontColour)->Name,
                      "cannot be told from its background in colour system " + systems);
+  }
 }
 
 void CheckTitle(const CheckedProject& project, const CheckedLayout& layout, FindingList& findings) {
   const PTRNHEDR& header = layout.Header;
   if (header.Parm1[HedrSlot::TitleHeight] > 0 && !TitleOf(header, 0).empty() &&
       SameColour(project, header.Parm1[HedrSlot::TitleColour],
-                 header.Parm1[HedrSlot::TitleAreaColour]))
+                 header.Parm1[HedrSlot::TitleAreaColour])) {
     findings.AddLayout(layout, FindParameter(HeaderParameters(), HedrSlot::TitleColour)->Name,
                        "the title cannot be told from its area");
+  }
 }
 
 void FindVanishing(const CheckedProject& project, FindingList& findings) {
   for (const CheckedLayout& layout : project.Layouts) {
     CheckTitle(project, layout, findings);
     const Backgrounds backgrounds(layout);
-    for (const PTRNDATA& item : layout.Items)
+    for (const PTRNDATA& item : layout.Items) {
       CheckItem(project, layout, item, backgrounds, findings);
+    }
   }
 }
 

@@ -4,15 +4,18 @@
 namespace {
 
 void FindUnreadable(const CheckedProject& project, FindingList& findings) {
-  for (const std::string& name : project.Unreadable)
+  for (const std::string& name : project.Unreadable) {
     findings.AddFile(name, "the layout file is not whole");
+  }
 }
 
 void FindDropped(const CheckedProject& project, FindingList& findings) {
-  for (const CheckedLayout& layout : project.Layouts)
-    if (layout.Dropped > 0)
+  for (const CheckedLayout& layout : project.Layouts) {
+    if (layout.Dropped > 0) {
       findings.AddLayout(layout, "Type",
                          std::to_string(layout.Dropped) + " items of no known type are left out");
+    }
+  }
 }
 
 constexpr CheckRule Rules[] = {

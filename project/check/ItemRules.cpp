@@ -56,8 +56,9 @@ void FindInvalid(const CheckedProject& project, FindingList& findings) {
     const gint broken = CheckPtrnData(&item);
     if (broken < 0) return;
     const Reason& reason = Reasons[static_cast<std::size_t>(broken)];
-    if (reason.Field != nullptr)
+    if (reason.Field != nullptr) {
       findings.AddItem(layout, item, BrokenField(item, broken), reason.Text);
+    }
   });
 }
 
@@ -76,10 +77,11 @@ void FindOutside(const CheckedProject& project, FindingList& findings) {
     const bool twoPoints = HasTwoPoints(item.Type);
     const POINT one = item.Point1;
     const POINT two = item.Point2;
-    if (!Inside(layout.Header, one))
+    if (!Inside(layout.Header, one)) {
       findings.AddItem(layout, item, "Point1", PointText(one) + " lies outside the layout");
-    else if (twoPoints && !Inside(layout.Header, two))
+    } else if (twoPoints && !Inside(layout.Header, two)) {
       findings.AddItem(layout, item, "Point2", PointText(two) + " lies outside the layout");
+    }
   });
 }
 

@@ -29,10 +29,11 @@ void LoadLayouts(CheckedProject& project) {
   std::vector<std::string> names = LayoutNames(ProjPath);
   std::sort(names.begin(), names.end());
   for (const std::string& name : names) {
-    if (CheckPtrnFile(ProjPath, name.c_str()) == LayoutFileState::Whole)
+    if (CheckPtrnFile(ProjPath, name.c_str()) == LayoutFileState::Whole) {
       project.Layouts.push_back(LoadLayout(name));
-    else
+    } else {
       project.Unreadable.push_back(name);
+    }
   }
 }
 

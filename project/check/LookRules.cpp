@@ -25,10 +25,12 @@ template <std::size_t Count>
 void CompareParameters(const CheckedLayout& layout, std::span<const Parameter> parameters,
                        const gint (&has)[Count], const gint (&wanted)[Count],
                        FindingList& findings) {
-  for (const Parameter& parameter : parameters)
-    if (has[parameter.Slot] != wanted[parameter.Slot])
+  for (const Parameter& parameter : parameters) {
+    if (has[parameter.Slot] != wanted[parameter.Slot]) {
       findings.AddLayout(layout, parameter.Name,
                          Difference(has[parameter.Slot], wanted[parameter.Slot]));
+    }
+  }
 }
 
 void FindDifferences(const CheckedProject& project, FindingList& findings) {
@@ -38,11 +40,12 @@ void FindDifferences(const CheckedProject& project, FindingList& findings) {
     alignas(gint) const PTRNHEDR wanted = Renewed(header, project.Settings);
     CompareParameters(layout, HeaderParameters(), header.Parm1, wanted.Parm1, findings);
     CompareParameters(layout, ViewParameters(), header.Parm2, wanted.Parm2, findings);
-    if (FieldText(header.LogoName) != FieldText(wanted.LogoName))
+    if (FieldText(header.LogoName) != FieldText(wanted.LogoName)) {
       findings.AddLayout(layout, "LogoName",
                          "is " + Quoted(FieldText(header.LogoName)) +
                              ", the project's common look has " +
                              Quoted(FieldText(wanted.LogoName)));
+    }
   }
 }
 

@@ -15,13 +15,17 @@ template <typename Visit>
 void ForEachPicture(const CheckedProject& project, Visit visit) {
   for (const CheckedLayout& layout : project.Layouts) {
     const PTRNHEDR& header = layout.Header;
-    if (header.Parm1[HedrSlot::LogoShown] != 0 && !FieldText(header.LogoName).empty())
+    if (header.Parm1[HedrSlot::LogoShown] != 0 && !FieldText(header.LogoName).empty()) {
       visit(layout, nullptr, "LogoName", FieldText(header.LogoName));
-    if (!FieldText(header.BmapName).empty())
+    }
+    if (!FieldText(header.BmapName).empty()) {
       visit(layout, nullptr, "BmapName", FieldText(header.BmapName));
-    for (const PTRNDATA& item : layout.Items)
-      if (ItemTypeOf(item.Type).Texts == ItemTexts::Picture)
+    }
+    for (const PTRNDATA& item : layout.Items) {
+      if (ItemTypeOf(item.Type).Texts == ItemTexts::Picture) {
         visit(layout, &item, "Text1", FieldText(item.Text1));
+      }
+    }
   }
 }
 
@@ -34,10 +38,11 @@ void FindPictures(const CheckedProject& project, FindingList& findings, PictureS
         named ? project.Surroundings.Picture(std::string(name)) : PictureState::Missing;
     if (found != state) return;
     const std::string message = named ? Quoted(name) + complaint : "names no bitmap";
-    if (item == nullptr)
+    if (item == nullptr) {
       findings.AddLayout(layout, field, message);
-    else
+    } else {
       findings.AddItem(layout, *item, field, message);
+    }
   });
 }
 
@@ -55,8 +60,10 @@ void CheckMark(const CheckedProject& project, const CheckedLayout& layout, const
   for (gint system = 0; system < std::min(SystemCount(project), parameter.Count()); ++system) {
     const gint mark = item.Parm[parameter.Slot + system];
     const bool exists = mark >= 0 && mark < MarkCount;
-    if ((exists && project.MarkDrawn[static_cast<std::size_t>(mark)]) || !told.insert(mark).second)
+    if ((exists && project.MarkDrawn[static_cast<std::size_t>(mark)]) ||
+        !told.insert(mark).second) {
       continue;
+    }
     findings.AddItem(layout, item, parameter.Name,
                      "mark " + std::to_string(mark) + (exists ? " is empty" : " does not exist"));
   }
@@ -64,8 +71,9 @@ void CheckMark(const CheckedProject& project, const CheckedLayout& layout, const
 
 void FindEmptyMarks(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    for (const Parameter& parameter : ItemParameters(item.Type))
+    for (const Parameter& parameter : ItemParameters(item.Type)) {
       if (parameter.Range.Kind == Unit::Mark) CheckMark(project, layout, item, parameter, findings);
+    }
   });
 }
 

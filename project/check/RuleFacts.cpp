@@ -52,10 +52,11 @@ std::string Quoted(std::string_view bytes) {
   std::string text = "\"";
   for (const char c : DisplayText(bytes)) {
     constexpr char Digits[] = "0123456789ABCDEF";
-    if (g_ascii_iscntrl(c))
+    if (g_ascii_iscntrl(c)) {
       text += {'\\', 'x', Digits[c >> 4], Digits[c & 15]};
-    else
+    } else {
       text += c;
+    }
   }
   return text + "\"";
 }

@@ -28,8 +28,9 @@ class FindingList {
 
 template <typename Visit>
 void ForEachItem(const CheckedProject& project, Visit visit) {
-  for (const CheckedLayout& layout : project.Layouts)
+  for (const CheckedLayout& layout : project.Layouts) {
     for (const PTRNDATA& item : layout.Items) visit(layout, item);
+  }
 }
 
 // Number of languages (1..3) and of colour systems (2 or 4) that the project has.

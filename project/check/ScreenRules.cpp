@@ -13,10 +13,11 @@ void FindMissingScreens(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     if (!OpensScreen(item)) return;
     const std::string_view name = FieldText(item.ID_Name);
-    if (name.empty())
+    if (name.empty()) {
       findings.AddItem(layout, item, "ID_Name", "opens a screen but names none");
-    else if (!LayoutExists(project, name))
+    } else if (!LayoutExists(project, name)) {
       findings.AddItem(layout, item, "ID_Name", "no layout is named " + Quoted(name));
+    }
   });
 }
 
@@ -32,8 +33,9 @@ void FindMissingStart(const CheckedProject& project, FindingList& findings) {
 
 void FindMissingStop(const CheckedProject& project, FindingList& findings) {
   const std::string_view name = FieldText(project.Settings.PtrnStop);
-  if (!name.empty() && !LayoutExists(project, name))
+  if (!name.empty() && !LayoutExists(project, name)) {
     findings.AddProject("PtrnStop", "the stop layout " + Quoted(name) + " does not exist");
+  }
 }
 
 constexpr CheckRule Rules[] = {

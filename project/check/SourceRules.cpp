@@ -40,10 +40,12 @@ void FindBreakingScreens(const PROJDATA& settings, FindingList& findings) {
 void FindBreakingNames(const CheckedProject& project, FindingList& findings) {
   if (BreaksSource(project.Name)) findings.AddProject("ProjName", Complaint(project.Name));
   FindBreakingScreens(project.Settings, findings);
-  for (const std::string& name : project.Unreadable)
+  for (const std::string& name : project.Unreadable) {
     if (BreaksSource(name)) findings.AddFile(name, Complaint(name));
-  for (const CheckedLayout& layout : project.Layouts)
+  }
+  for (const CheckedLayout& layout : project.Layouts) {
     if (BreaksSource(layout.Name)) findings.AddLayout(layout, "PtrnName", Complaint(layout.Name));
+  }
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     const std::string_view code = FieldText(item.ID_Code);
     if (BreaksSource(code)) findings.AddItem(layout, item, "ID_Code", Complaint(code));

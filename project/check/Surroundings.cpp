@@ -42,7 +42,7 @@ bool FontExists(gint language, gint font) {
 
 PictureState Picture(const std::string& name) {
   if (FileExist(BmapPath, name.c_str(), "") == 0) return PictureState::Missing;
-  return PictureFile(PicturePathInside(BmapPath, name)).picture != nullptr
+  return PictureFile(PicturePathInside(BmapPath, name)).Picture != nullptr
              ? PictureState::Good
              : PictureState::Unreadable;
 }

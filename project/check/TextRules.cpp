@@ -14,8 +14,9 @@ gint TitleCount(const CheckedProject& project, const CheckedLayout& layout) {
 }
 
 bool HasText(const PTRNDATA& item, gint languages) {
-  for (gint language = 0; language < languages; ++language)
+  for (gint language = 0; language < languages; ++language) {
     if (!TextOf(item, language).empty()) return true;
+  }
   return false;
 }
 
@@ -25,25 +26,32 @@ std::string LanguageText(gint language) {
 
 void FindMissing(const CheckedProject& project, FindingList& findings) {
   const gint languages = LanguageCount(project);
-  for (const CheckedLayout& layout : project.Layouts)
-    for (gint language = 0; language < TitleCount(project, layout); ++language)
-      if (TitleOf(layout.Header, language).empty())
+  for (const CheckedLayout& layout : project.Layouts) {
+    for (gint language = 0; language < TitleCount(project, layout); ++language) {
+      if (TitleOf(layout.Header, language).empty()) {
         findings.AddLayout(layout, TitleField(language), "has no title" + LanguageText(language));
+      }
+    }
+  }
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
     // A button or choice without any caption is meant so.
     if (!IsWorded(item.Type) || !HasText(item, languages)) return;
-    for (gint language = 0; language < languages; ++language)
-      if (TextOf(item, language).empty())
+    for (gint language = 0; language < languages; ++language) {
+      if (TextOf(item, language).empty()) {
         findings.AddItem(layout, item, TextField(language), "has no text" + LanguageText(language));
+      }
+    }
   });
 }
 
 void FindUnreadable(const CheckedProject& project, FindingList& findings) {
   ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
-    for (gint language = 0; language < LanguageCount(project); ++language)
-      if (!Utf8FromEuc(TextOf(item, language)))
+    for (gint language = 0; language < LanguageCount(project); ++language) {
+      if (!Utf8FromEuc(TextOf(item, language))) {
         findings.AddItem(layout, item, TextField(language),
                          Quoted(TextOf(item, language)) + " is not EUC-JP");
+      }
+    }
   });
 }
 
@@ -52,8 +60,9 @@ bool UsesFont(const PTRNDATA& item, gint languages) {
 }
 
 bool AnyFont(const CheckedProject& project, gint language) {
-  for (gint font = 0; font < FontCount; ++font)
+  for (gint font = 0; font < FontCount; ++font) {
     if (project.Surroundings.FontExists(language, font)) return true;
+  }
   return false;
 }
 
@@ -68,9 +77,10 @@ void FindMissingFonts(const CheckedProject& project, FindingList& findings) {
       if (!UsesFont(item, LanguageCount(project))) return;
       const gint slot = ItemTypeOf(item.Type).Font;
       const gint font = item.Parm[slot];
-      if (!project.Surroundings.FontExists(language, font))
+      if (!project.Surroundings.FontExists(language, font)) {
         findings.AddItem(layout, item, ParameterField(item, slot),
                          "there is no font " + std::to_string(font) + LanguageText(language));
+      }
     });
   }
 }
@@ -111,13 +121,15 @@ void CheckItemExtent(const CheckedProject& project, const CheckedLayout& layout,
     const SIZE excess = ButtonExcess(
         item,
         project.Surroundings.TextExtent(language, item.Parm[ButtonSlot::Font], caption.c_str()));
-    if (excess.cx > 0 || excess.cy > 0)
+    if (excess.cx > 0 || excess.cy > 0) {
       findings.AddItem(layout, item, field, Overrun(excess, "its button") + where);
+    }
   } else if (!HasTwoPoints(item.Type)) {
     const SIZE excess = LayoutExcess(layout.Header, POINT{item.Point1},
                                      project.Surroundings.ItemExtent(language, item));
-    if (excess.cx > 0 || excess.cy > 0)
+    if (excess.cx > 0 || excess.cy > 0) {
       findings.AddItem(layout, item, field, Overrun(excess, "the layout") + where);
+    }
   }
 }
 
@@ -130,17 +142,20 @@ void CheckTitleExtent(const CheckedProject& project, const CheckedLayout& layout
       project.Surroundings.TextExtent(language, header.Parm1[HedrSlot::TitleFont], title.c_str());
   const SIZE room{header.Parm1[HedrSlot::Width], header.Parm1[HedrSlot::TitleHeight]};
   const SIZE excess{std::max(extent.cx - room.cx, 0), std::max(extent.cy - room.cy, 0)};
-  if (excess.cx > 0 || excess.cy > 0)
+  if (excess.cx > 0 || excess.cy > 0) {
     findings.AddLayout(layout, TitleField(language),
                        Overrun(excess, "the title area") + LanguageText(language));
+  }
 }
 
 // Language by language, since each has fonts of its own to load.
 void FindOverruns(const CheckedProject& project, FindingList& findings) {
   for (gint language = 0; language < LanguageCount(project); ++language) {
-    for (const CheckedLayout& layout : project.Layouts)
-      if (language < TitleCount(project, layout))
+    for (const CheckedLayout& layout : project.Layouts) {
+      if (language < TitleCount(project, layout)) {
         CheckTitleExtent(project, layout, language, findings);
+      }
+    }
     ForEachItem(project, [&](const CheckedLayout& layout, const PTRNDATA& item) {
       CheckItemExtent(project, layout, item, language, findings);
     });

@@ -70,13 +70,15 @@ void ProjFileOpen_Search(GtkWidget* button) {
 }
 
 void FillList(GtkWidget* list) {
-  for (gsize row = 0; row < ProjTable.size(); ++row)
-    if (ProjTable[row].whole)
+  for (gsize row = 0; row < ProjTable.size(); ++row) {
+    if (ProjTable[row].whole) {
       AddName(list, ProjTable[row].name, std::to_string(row));
-    else
+    } else {
       AddUnusableName(
           list, ProjTable[row].name,
           "パスが長すぎるため、一覧からは開けません。「フォルダーより探す」で開きます。");
+    }
+  }
 }
 
 void AddFolderEntry(const DialogWindow& dialog) {

@@ -98,11 +98,14 @@ void AddPage(GtkWidget* notebook, gint number, const ProjectPage& page) {
     const ControlTables& tables = page.Frames[frame].Tables;
     BuildControls(EditProj, table, tables);
     // Controls that gain nothing by it are not stretched over the page.
-    if (tables.Edit == nullptr && tables.Combo == nullptr)
+    if (tables.Edit == nullptr && tables.Combo == nullptr) {
       gtk_widget_set_halign(table, GTK_ALIGN_START);
-    for (const FrameButton& button : Buttons)
-      if (button.Page == number && button.Frame == static_cast<gint>(frame))
+    }
+    for (const FrameButton& button : Buttons) {
+      if (button.Page == number && button.Frame == static_cast<gint>(frame)) {
         AddButton(table, button.Label, button.Line, button.Culm, G_CALLBACK(button.Clicked));
+      }
+    }
     const gchar* title = page.Frames[frame].Title;
     NameControls(table, title != nullptr ? title : "");
     GtkWidget* shown = table;

@@ -29,16 +29,20 @@ constexpr NumberList Common{offsetof(PROJDATA, Parm4), CommonParameters};
 DLG_STRING Label(gint line, const NumberList& list, gint slot) {
   return Rows::Label(line, list.Of(slot).Label);
 }
+
 DLG_NUMRBOX Number(gint line, gint culm, const NumberList& list, gint slot, const gchar* caption) {
   const ValueRange& range = list.Of(slot).Range;
   return Rows::Number(line, culm, list.At(slot), range.Least, range.Most, caption);
 }
+
 DLG_COMBOBOX Choice(gint line, gint culm1, gint culm2, const NumberList& list, gint slot) {
   return Rows::Choice(line, culm1, culm2, list.At(slot), list.Of(slot).Range.Values);
 }
+
 DLG_RADIOBUTN Radio(gint line, gint culm, const NumberList& list, gint slot, gint value) {
   return Rows::Radio(line, culm, list.At(slot), value, list.Of(slot).Range.Values[value]);
 }
+
 DLG_CHECKBUTN Switch(gint line, gint culm1, gint culm2, const NumberList& list, gint slot) {
   return Check(line, culm1, culm2, list.At(slot), list.Of(slot).Label);
 }

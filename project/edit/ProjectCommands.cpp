@@ -1,3 +1,5 @@
+#include "project/ProjectCommands.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -6,7 +8,6 @@
 #include "layout/ProjectRecord.h"
 #include "layout/Screen.h"
 #include "layout/Store.h"
-#include "project/ProjectCommands.h"
 #include "project/ProjectFiles.h"
 #include "project/edit/ShownProject.h"
 #include "render/Marks.h"
@@ -32,22 +33,16 @@ bool SettingsShown = false;
 // The settings work on the copies that every command here fills; a second command only brings them
 // to the front.
 bool SettingsAreOpen() {
-  if (SettingsShown) {
-    EditProjData(PtrnWnd, SettingsTitle);
-  }
+  if (SettingsShown) EditProjData(PtrnWnd, SettingsTitle);
   return SettingsShown;
 }
 
 // A layout may have been opened beside the settings. It belongs to the project as it was, and its
 // store is needed for the renewal of the layouts.
 bool LayoutReleased() {
-  if (PtrnFlag == 0) {
-    return true;
-  }
+  if (PtrnFlag == 0) return true;
   ClearToolBox();
-  if (SavePtrnData() != 1) {
-    return false;
-  }
+  if (SavePtrnData() != 1) return false;
   PtrnDataExit();
   return true;
 }
@@ -73,9 +68,7 @@ void ClearResources() {
 }
 
 void RepaintLayout() {
-  if (PtrnFlag != 0) {
-    DrawRequest(1);
-  }
+  if (PtrnFlag != 0) DrawRequest(1);
 }
 
 // Shows the settings of a new project. Its palette and marks are in memory as long as they are
@@ -84,9 +77,7 @@ bool NewProjectConfirmed() {
   KeptResources kept(SettingsOf::NewProject);
   ClearResources();
   ProjSetDefault();
-  if (SettingsConfirmed()) {
-    return true;
-  }
+  if (SettingsConfirmed()) return true;
   kept.RestorePalette();
   kept.RestoreMarks();
   SetDrawColr();
@@ -98,9 +89,7 @@ bool NewProjectConfirmed() {
 // Shows the settings of the open project. Restored defaults go when they are cancelled.
 bool ChangesConfirmed() {
   KeptResources kept(SettingsOf::OpenProject);
-  if (SettingsConfirmed()) {
-    return true;
-  }
+  if (SettingsConfirmed()) return true;
   if (kept.RestorePalette()) {
     SetDrawColr();
     RepaintLayout();
@@ -123,14 +112,10 @@ void SaveResources() {
 }  // namespace
 
 void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
-  if (SettingsAreOpen()) {
-    return;
-  }
+  if (SettingsAreOpen()) return;
   CopyText(EditName, ProfileReadAsc1("", "PROJDATA", "NAME"));
   CopyText(EditPath, ProfileReadAsc1("", "PROJDATA", "PTRN"));
-  if (!NewProjectConfirmed()) {
-    return;
-  }
+  if (!NewProjectConfirmed()) return;
   TakeSettings();
   ProjFileWrite(ProjPath, ProjName);
   ProjFileCopy1(ProjPath);
@@ -140,12 +125,8 @@ void ProjDataNew([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer d
 }
 
 void ProjDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
-  if (SettingsAreOpen()) {
-    return;
-  }
-  if (ProjFileOpen(PtrnWnd) != 1) {
-    return;
-  }
+  if (SettingsAreOpen()) return;
+  if (ProjFileOpen(PtrnWnd) != 1) return;
   // A file that cannot be read leaves the settings of the project before.
   ProjFileRead(EditPath, EditName);
   EnterReadProject(FieldText(EditPath), FieldText(EditName));
@@ -153,15 +134,11 @@ void ProjDataOpen([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer 
 }
 
 void ProjDataEdit([[maybe_unused]] GtkWidget* widget, [[maybe_unused]] gpointer data) {
-  if (SettingsAreOpen()) {
-    return;
-  }
+  if (SettingsAreOpen()) return;
   EditData = ProjData;
   CopyText(EditName, FieldText(ProjName));
   CopyText(EditPath, FieldText(ProjPath));
-  if (!ChangesConfirmed()) {
-    return;
-  }
+  if (!ChangesConfirmed()) return;
   ProjFileCopy2(ProjPath, EditPath);
   ProjFileCopy3(ProjData.ProgPath, EditData.ProgPath);
   TakeSettings();

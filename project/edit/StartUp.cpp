@@ -32,9 +32,7 @@ void BeginWithoutProject() {
 
 void ProjDataInit() {
   PtrnFlag = 0;
-  if (!OpenLastProject()) {
-    BeginWithoutProject();
-  }
+  if (!OpenLastProject()) BeginWithoutProject();
   ReadKnownProjects();
   FontDataInit(1);
   ShowProject();

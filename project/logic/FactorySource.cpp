@@ -26,9 +26,7 @@ FactorySource::FactorySource(std::string_view source) : lines_(SplitLines(source
 
 bool FactorySource::Register(std::string_view layout) {
   for (std::size_t i = body_; i < lines_.size(); ++i) {
-    if (Occurs(lines_[i], layout)) {
-      return false;
-    }
+    if (Occurs(lines_[i], layout)) return false;
     if (Occurs(lines_[i], "return NULL;")) {
       lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(i), DispatchLine(layout));
       return true;
@@ -39,8 +37,6 @@ bool FactorySource::Register(std::string_view layout) {
 
 std::string FactorySource::Text() const {
   std::string text;
-  for (const std::string& line : lines_) {
-    text += line;
-  }
+  for (const std::string& line : lines_) text += line;
   return text;
 }

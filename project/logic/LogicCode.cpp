@@ -38,23 +38,17 @@ void CollectCode(CodeNumbers& codes, const PTRNDATA& item) {
 bool CollectLayout(CodeNumbers& codes, const std::string& name) {
   Layout layout;
   const LayoutReading reading = ReadLayoutFile(ProjPath, name.c_str(), layout);
-  for (const PTRNDATA& item : layout.Items) {
-    CollectCode(codes, item);
-  }
+  for (const PTRNDATA& item : layout.Items) CollectCode(codes, item);
   return reading != LayoutReading::Failed;
 }
 
 // All layouts of the project; nothing when one could not be read, as its codes would be lost.
 std::optional<CodeNumbers> CollectProject() {
   const auto layouts = ListLayoutNames(ProjPath);
-  if (!layouts) {
-    return std::nullopt;
-  }
+  if (!layouts) return std::nullopt;
   CodeNumbers codes;
   for (const std::string& name : *layouts) {
-    if (!CollectLayout(codes, name)) {
-      return std::nullopt;
-    }
+    if (!CollectLayout(codes, name)) return std::nullopt;
   }
   return codes;
 }
@@ -64,9 +58,7 @@ std::vector<PTRNCODE> NewRegistry(CodeNumbers codes) {
   codes.erase("");
   std::vector<PTRNCODE> registry{SystemCode()};
   const auto system = codes.extract(registry.front().ID_Code);
-  if (!system.empty()) {
-    RegisterCode(registry, system.key(), system.mapped());
-  }
+  if (!system.empty()) RegisterCode(registry, system.key(), system.mapped());
   registry.reserve(codes.size() + 1);
   for (const auto& [code, number] : codes) {
     PTRNCODE record{};
@@ -99,15 +91,11 @@ struct WrittenCodes {
 
 WrittenCodes WriteCodes() try {
   std::optional<CodeNumbers> codes = CollectProject();
-  if (!codes) {
-    return {};
-  }
+  if (!codes) return {};
   std::vector<PTRNCODE> registry = NewRegistry(std::move(*codes));
   const gint slots = NumberCodes(registry);
   // The flags are as many as the registry numbers.
-  if (WritePtrnCode(registry) == 0) {
-    return {};
-  }
+  if (WritePtrnCode(registry) == 0) return {};
   return {true, WriteFlagArea(slots)};
 } catch (const std::bad_alloc&) {
   return {};
@@ -118,9 +106,7 @@ WrittenCodes WriteCodes() try {
 void SetPtrnCode(const gchar* ptrnfile) {
   CodeNumbers codes;
   CollectLayout(codes, LayoutName(ptrnfile));
-  for (const auto& [code, number] : codes) {
-    RegstPtrnCode(code.c_str(), number);
-  }
+  for (const auto& [code, number] : codes) RegstPtrnCode(code.c_str(), number);
 }
 
 LogicProducts GenerateCodes() {

@@ -17,9 +17,7 @@ std::string ProgramFile(const gchar* ext) {
 }
 
 ProductState CreateOnce(const gchar* ext, const std::string& text) {
-  if (!IsMissing(ProgramFile(ext))) {
-    return ProductState::Kept;
-  }
+  if (!IsMissing(ProgramFile(ext))) return ProductState::Kept;
   return WrittenIf(ReplaceFile(ProgramFile(ext), text));
 }
 
@@ -33,17 +31,11 @@ bool IsBuiltIn(const std::string& layout) {
 // Registers layouts in the source; it is written only when a line was added.
 ProductState RegisterLayouts(const std::vector<std::string>& layouts) {
   const std::optional<std::string> text = ReadWholeFile(ProgramFile("cpp"));
-  if (!text) {
-    return ProductState::Failed;
-  }
+  if (!text) return ProductState::Failed;
   FactorySource source(*text);
   bool added = false;
-  for (const std::string& layout : layouts) {
-    added = source.Register(layout) || added;
-  }
-  if (!added) {
-    return ProductState::Kept;
-  }
+  for (const std::string& layout : layouts) added = source.Register(layout) || added;
+  if (!added) return ProductState::Kept;
   return WrittenIf(ReplaceProtectedFile(ProgramFile("cpp"), source.Text()));
 }
 

@@ -73,9 +73,7 @@ void CopyCursorColour(std::string& runtime, std::string_view designer, std::stri
   std::string value;
   for (std::size_t number = 0; number < 3; ++number) {
     const std::string channel = Field(designer, "COLOR", key, number, FieldKind::Decimal);
-    if (channel.empty()) {
-      return;
-    }
+    if (channel.empty()) return;
     value.append(number ? "," : "").append(std::to_string(DecimalValue(channel)));
   }
   SetProfileValue(runtime, "COLOR", key, value);
@@ -83,9 +81,7 @@ void CopyCursorColour(std::string& runtime, std::string_view designer, std::stri
 
 void CopyPictureColour(std::string& runtime, std::string_view designer, std::string_view key) {
   const std::string value = Field(designer, "COLOR", key, 0, FieldKind::Text);
-  if (!value.empty()) {
-    SetProfileValue(runtime, "COLOR", key, value);
-  }
+  if (!value.empty()) SetProfileValue(runtime, "COLOR", key, value);
 }
 
 // The designer keeps a display name and a descriptor, the runtime the descriptor alone.
@@ -93,9 +89,7 @@ void CopyFont(std::string& runtime, std::string_view designer, std::string_view 
   DeleteProfileKey(runtime, "FONT", key);
   const std::string name = Field(designer, "FONT", key, 0, FieldKind::Text);
   const std::string descriptor = Field(designer, "FONT", key, 1, FieldKind::Text);
-  if (!name.empty() && !descriptor.empty()) {
-    SetProfileValue(runtime, "FONT", key, descriptor);
-  }
+  if (!name.empty() && !descriptor.empty()) SetProfileValue(runtime, "FONT", key, descriptor);
 }
 
 }  // namespace
@@ -115,9 +109,7 @@ std::string NewRuntimeProfile() {
 void UpdateRuntimeProfile(std::string& runtime, std::string_view designer, const PROJDATA& project,
                           std::string_view projectFolder) {
   SetProject(runtime, project, projectFolder);
-  for (const char* key : {"CURSOR_BG", "CURSOR_FG"}) {
-    CopyCursorColour(runtime, designer, key);
-  }
+  for (const char* key : {"CURSOR_BG", "CURSOR_FG"}) CopyCursorColour(runtime, designer, key);
   for (const char* key : {"XPM_COLR3", "XPM_COLR2", "XPM_COLR1"}) {
     CopyPictureColour(runtime, designer, key);
   }

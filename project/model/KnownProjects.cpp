@@ -20,9 +20,7 @@ constexpr gchar LastName[] = "PROJECT";
 bool IsWhole(const std::string& value) {
   const std::string_view name = ProfileField(value, 0);
   const std::string_view path = ProfileField(value, 1);
-  if (name.size() >= sizeof ProjName || path != ProfileTextField(value, 1)) {
-    return false;
-  }
+  if (name.size() >= sizeof ProjName || path != ProfileTextField(value, 1)) return false;
   const std::string rest = value.substr(std::min(name.size() + 1, value.size()));
   return rest == path || IsMissing(JoinPath(rest, name, "prj"));
 }
@@ -50,16 +48,12 @@ void EnterInList(std::string& profile, const std::string& value) {
     const std::string key = NumberedKey(ListName, no);
     const std::string known = ProjectValue(profile, ListName, key);
     if (NameOf(known).empty()) {
-      if (!place) {
-        place = key;
-      }
+      if (!place) place = key;
     } else if (NameOf(known) == NameOf(entered) && FolderOf(known) == FolderOf(entered)) {
       return;
     }
   }
-  if (place) {
-    SetProfileValue(profile, ListName, *place, value);
-  }
+  if (place) SetProfileValue(profile, ListName, *place, value);
 }
 
 }  // namespace
@@ -80,9 +74,7 @@ std::vector<KnownProject> ReadKnownProjects() {
     const std::string value = ProjectValue(profile, ListName, NumberedKey(ListName, no));
     const std::string name = NameOf(value);
     const std::string folder = FolderOf(value);
-    if (name.empty() || folder.empty()) {
-      continue;
-    }
+    if (name.empty() || folder.empty()) continue;
     if (IsMissing(JoinPath(folder, name, "prj"))) {
       ProfileDelete2("", ListName, ListName, no);
     } else {

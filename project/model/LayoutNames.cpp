@@ -23,8 +23,6 @@ std::optional<std::vector<std::string>> ListLayoutNames(const std::string& folde
 
 std::string LayoutName(std::string_view file) {
   // A layout's own name may hold a ".".
-  if (file.ends_with(Suffix)) {
-    file.remove_suffix(Suffix.size());
-  }
+  if (file.ends_with(Suffix)) file.remove_suffix(Suffix.size());
   return std::string(file);
 }

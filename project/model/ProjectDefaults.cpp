@@ -46,9 +46,10 @@ constexpr DefaultKey CommonKeys[] = {
 
 void ReadKeys(std::span<const DefaultKey> keys, gint* parm) {
   static constexpr const gchar* Formats[] = {"", "i", "ii", "iii"};
-  for (const DefaultKey& key : keys)
+  for (const DefaultKey& key : keys) {
     ProfileRead1("", Section, key.Name, Formats[key.Count], parm + key.Slots[0],
                  parm + key.Slots[1], parm + key.Slots[2]);
+  }
 }
 
 }  // namespace

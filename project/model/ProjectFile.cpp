@@ -21,9 +21,7 @@ void CleanField(gchar (&field)[Size]) {
 
 template <std::size_t Size>
 void ClearUnlessLayout(gchar (&layout)[Size], const gchar* path) {
-  if (IsMissing(JoinPath(path, FieldText(layout), "ptn"))) {
-    std::memset(layout, 0, Size);
-  }
+  if (IsMissing(JoinPath(path, FieldText(layout), "ptn"))) std::memset(layout, 0, Size);
 }
 
 }  // namespace
@@ -38,25 +36,19 @@ PROJDATA CleanTexts(PROJDATA data) {
 
 gint ProjFileRead(const gchar* path, const gchar* name) {
   PROJFILE file;
-  if (!FileRead(path, name, Extension, &file, sizeof file, 0)) {
-    return 0;
-  }
+  if (!FileRead(path, name, Extension, &file, sizeof file, 0)) return 0;
   ProjData = CleanTexts(file.Data);
   ProfileRenew(path, name);
   return 1;
 }
 
 gint ProjFileWrite(const gchar* path, const gchar* name) {
-  if (*path == '\0' || *name == '\0') {
-    return 0;
-  }
+  if (*path == '\0' || *name == '\0') return 0;
   ClearUnlessLayout(ProjData.PtrnStart, path);
   ClearUnlessLayout(ProjData.PtrnStop, path);
   const PROJFILE file{Version, CleanTexts(ProjData)};
   CreateFolder(path);
-  if (!FileWrite(path, name, Extension, &file, sizeof file, 0)) {
-    return 0;
-  }
+  if (!FileWrite(path, name, Extension, &file, sizeof file, 0)) return 0;
   ProjFileRenew(path);
   ProfileRenew(path, name);
   return 1;

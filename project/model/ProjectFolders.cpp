@@ -23,9 +23,7 @@ bool MakeBitmapFolder(const gchar* path) {
 }  // namespace
 
 void ProjFileCopy1(const gchar* path) {
-  if (!MakeBitmapFolder(path)) {
-    return;
-  }
+  if (!MakeBitmapFolder(path)) return;
   const std::string templates = JoinPath(PathName, "VarnixData", "");
   CopyFiles(JoinPath(templates, BitmapFolder, ""), JoinPath(path, BitmapFolder, ""));
   // Template layouts go straight into the project folder.
@@ -33,9 +31,7 @@ void ProjFileCopy1(const gchar* path) {
 }
 
 void ProjFileCopy2(const gchar* path1, const gchar* path2) {
-  if (std::strcmp(path1, path2) == 0) {
-    return;
-  }
+  if (std::strcmp(path1, path2) == 0) return;
   if (MakeBitmapFolder(path2)) {
     CopyFiles(JoinPath(path1, BitmapFolder, ""), JoinPath(path2, BitmapFolder, ""));
   }
@@ -43,9 +39,7 @@ void ProjFileCopy2(const gchar* path1, const gchar* path2) {
 }
 
 void ProjFileCopy3(const gchar* path1, const gchar* path2) {
-  if (std::strcmp(path1, path2) != 0) {
-    CopyFiles(path1, path2);
-  }
+  if (std::strcmp(path1, path2) != 0) CopyFiles(path1, path2);
 }
 
 void SetBmapPath() {

@@ -24,9 +24,7 @@ void CopyLook(PTRNHEDR& header) {
 }  // namespace
 
 void PtrnFileRenew(const gchar* path, const gchar* name) {
-  if (!KeepDamagedPtrnFile(path, name)) {
-    return;
-  }
+  if (!KeepDamagedPtrnFile(path, name)) return;
   Layout layout;
   const LayoutReading reading = ReadLayoutFile(path, name, layout);
   if (reading != LayoutReading::Failed && !layout.Header.Parm1[HedrSlot::KeepAsIs]) {
@@ -36,7 +34,5 @@ void PtrnFileRenew(const gchar* path, const gchar* name) {
 }
 
 void ProjFileRenew(const gchar* path) {
-  for (const std::string& name : LayoutNames(path)) {
-    PtrnFileRenew(path, name.c_str());
-  }
+  for (const std::string& name : LayoutNames(path)) PtrnFileRenew(path, name.c_str());
 }

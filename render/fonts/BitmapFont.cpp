@@ -27,9 +27,7 @@ FontLibrary Library() {
     FT_Library opened = nullptr;
     FT_Init_FreeType(&opened);
     return FontLibrary(opened, [](FT_Library l) {
-      if (l != nullptr) {
-        FT_Done_FreeType(l);
-      }
+      if (l != nullptr) FT_Done_FreeType(l);
     });
   }();
   return library;
@@ -39,14 +37,10 @@ FontLibrary Library() {
 // last four bytes tell the size.
 std::string Unpacked(const std::string& packed) {
   guint32 size = 0;
-  if (packed.size() < sizeof size) {
-    return {};
-  }
+  if (packed.size() < sizeof size) return {};
   std::memcpy(&size, packed.data() + packed.size() - sizeof size, sizeof size);
   size = GUINT32_FROM_LE(size);
-  if (size > MaxFontBytes || size / MostPacking > packed.size()) {
-    return {};
-  }
+  if (size > MaxFontBytes || size / MostPacking > packed.size()) return {};
   FT_MemoryRec_ memory{
       nullptr, [](FT_Memory, long bytes) { return g_try_malloc(bytes); },
       [](FT_Memory, void* block) { g_free(block); },
@@ -67,9 +61,7 @@ std::vector<GlyphRun> RunsOf(const FT_Bitmap& bitmap, int left, int top) {
     const auto isSet = [&](unsigned x) { return (row[x / 8] & 0x80 >> x % 8) != 0; };
     for (unsigned x = 0; x < bitmap.width; ++x) {
       const unsigned start = x;
-      while (x < bitmap.width && isSet(x)) {
-        ++x;
-      }
+      while (x < bitmap.width && isSet(x)) ++x;
       if (x > start) {
         runs.push_back({static_cast<gint16>(left + static_cast<int>(start)),
                         static_cast<gint16>(static_cast<int>(y) - top),
@@ -101,19 +93,19 @@ bool CountsInk(std::string_view content) {
 
 // A blank has its place, but no width and no height.
 void MeasureInk(Glyph& glyph) {
-  if (glyph.runs.empty()) {
-    glyph.right = glyph.left;
-    glyph.ascent = glyph.descent = 0;
+  if (glyph.Runs.empty()) {
+    glyph.Right = glyph.Left;
+    glyph.Ascent = glyph.Descent = 0;
     return;
   }
-  glyph.left = G_MAXINT16;
-  glyph.right = G_MININT16;
-  for (const GlyphRun& run : glyph.runs) {
-    glyph.left = std::min<gint>(glyph.left, run.x);
-    glyph.right = std::max<gint>(glyph.right, run.x + run.length);
+  glyph.Left = G_MAXINT16;
+  glyph.Right = G_MININT16;
+  for (const GlyphRun& run : glyph.Runs) {
+    glyph.Left = std::min<gint>(glyph.Left, run.x);
+    glyph.Right = std::max<gint>(glyph.Right, run.x + run.Length);
   }
-  glyph.ascent = -glyph.runs.front().y;
-  glyph.descent = glyph.runs.back().y + 1;
+  glyph.Ascent = -glyph.Runs.front().y;
+  glyph.Descent = glyph.Runs.back().y + 1;
 }
 
 class BitmapFont : public GlyphSource {
@@ -128,18 +120,14 @@ class BitmapFont : public GlyphSource {
     }
   }
   ~BitmapFont() override {
-    if (face_ != nullptr) {
-      FT_Done_Face(face_);
-    }
+    if (face_ != nullptr) FT_Done_Face(face_);
   }
   bool Valid() const {
     return face_ != nullptr && face_->num_charmaps > 0 && face_->num_fixed_sizes > 0;
   }
   const Glyph& Find(guint code) override {
     const auto [place, isNew] = glyphs_.try_emplace(code);
-    if (isNew) {
-      place->second = Load(code);
-    }
+    if (isNew) place->second = Load(code);
     return place->second;
   }
 
@@ -152,17 +140,15 @@ class BitmapFont : public GlyphSource {
     }
     const FT_GlyphSlot slot = face_->glyph;
     const FT_Bitmap& bitmap = slot->bitmap;
-    glyph.left = slot->bitmap_left;
-    glyph.right = slot->bitmap_left + static_cast<gint>(bitmap.width);
-    glyph.ascent = slot->bitmap_top;
-    glyph.descent = static_cast<gint>(bitmap.rows) - slot->bitmap_top;
-    glyph.advance = static_cast<gint>(slot->advance.x >> 6);
+    glyph.Left = slot->bitmap_left;
+    glyph.Right = slot->bitmap_left + static_cast<gint>(bitmap.width);
+    glyph.Ascent = slot->bitmap_top;
+    glyph.Descent = static_cast<gint>(bitmap.rows) - slot->bitmap_top;
+    glyph.Advance = static_cast<gint>(slot->advance.x >> 6);
     if (bitmap.pixel_mode == FT_PIXEL_MODE_MONO) {
-      glyph.runs = RunsOf(bitmap, slot->bitmap_left, slot->bitmap_top);
+      glyph.Runs = RunsOf(bitmap, slot->bitmap_left, slot->bitmap_top);
     }
-    if (countsInk_) {
-      MeasureInk(glyph);
-    }
+    if (countsInk_) MeasureInk(glyph);
     return glyph;
   }
 
@@ -175,12 +161,8 @@ class BitmapFont : public GlyphSource {
 
 std::shared_ptr<GlyphSource> ReadBitmapFont(const std::string& path) {
   std::optional<std::string> content = ReadWholeFile(path, MaxFontBytes);
-  if (content && content->starts_with("\x1f\x8b")) {
-    content = Unpacked(*content);
-  }
-  if (!content || content->empty()) {
-    return nullptr;
-  }
+  if (content && content->starts_with("\x1f\x8b")) content = Unpacked(*content);
+  if (!content || content->empty()) return nullptr;
   auto font = std::make_shared<BitmapFont>(std::move(*content));
   return font->Valid() ? font : nullptr;
 }
@@ -190,8 +172,6 @@ std::shared_ptr<GlyphSource> ReadBitmapFont(const std::string& path) {
 std::shared_ptr<GlyphSource> OpenBitmapFont(const std::string& path) {
   static std::map<std::string, std::shared_ptr<GlyphSource>> fonts;
   const auto [place, isNew] = fonts.try_emplace(path);
-  if (isNew) {
-    place->second = ReadBitmapFont(path);
-  }
+  if (isNew) place->second = ReadBitmapFont(path);
   return place->second;
 }

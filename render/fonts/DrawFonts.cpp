@@ -21,20 +21,14 @@ std::unique_ptr<FontSet> SmallFontSet() {
 }  // namespace
 
 FontSet* DrawFontOf(gint font) {
-  if (font < 0 || font > SmallFont) {
-    return nullptr;
-  }
+  if (font < 0 || font > SmallFont) return nullptr;
   std::unique_ptr<FontSet>& set = DrawFont[static_cast<std::size_t>(font)];
-  if (font == SmallFont && !set) {
-    set = SmallFontSet();
-  }
+  if (font == SmallFont && !set) set = SmallFontSet();
   return set.get();
 }
 
 gint LineHeightOf(gint font) {
-  if (font == SmallFont) {
-    return FontDescriptorHeight(SmallFontName);
-  }
+  if (font == SmallFont) return FontDescriptorHeight(SmallFontName);
   return font >= 0 && font < FontCount ? FontHeight[font] : 0;
 }
 
@@ -45,7 +39,5 @@ void ForgetSmallFont() {
 void LoadDrawFont(gint font, const gchar* descriptor) {
   auto& loaded = DrawFont[static_cast<std::size_t>(font)];
   loaded.reset();
-  if (*descriptor != '\0') {
-    loaded = std::make_unique<FontSet>(descriptor);
-  }
+  if (*descriptor != '\0') loaded = std::make_unique<FontSet>(descriptor);
 }

@@ -23,9 +23,7 @@ std::string Lower(std::string_view text) {
 std::string_view Trimmed(std::string_view text) {
   constexpr std::string_view blanks = " \t\r\n";
   const auto first = text.find_first_not_of(blanks);
-  if (first == std::string_view::npos) {
-    return {};
-  }
+  if (first == std::string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
@@ -33,9 +31,7 @@ std::string_view Trimmed(std::string_view text) {
 std::string TakeWord(std::string_view& line) {
   line = Trimmed(line);
   const bool quoted = !line.empty() && line.front() == '"';
-  if (quoted) {
-    line.remove_prefix(1);
-  }
+  if (quoted) line.remove_prefix(1);
   const auto end = std::min(quoted ? line.find('"') : line.find_first_of(" \t"), line.size());
   std::string word(line.substr(0, end));
   line.remove_prefix(std::min(end + 1, line.size()));
@@ -51,9 +47,7 @@ std::vector<std::string> FoldersOf(const std::string& root) {
   std::error_code error;
   for (std::filesystem::directory_iterator entry(root, error), end; !error && entry != end;
        entry.increment(error)) {
-    if (entry->is_directory(error)) {
-      folders.push_back(entry->path().string());
-    }
+    if (entry->is_directory(error)) folders.push_back(entry->path().string());
   }
   std::sort(folders.begin(), folders.end(), [](const std::string& a, const std::string& b) {
     return std::pair(!a.ends_with("/misc"), a) < std::pair(!b.ends_with("/misc"), b);
@@ -98,9 +92,7 @@ FontCatalogue& FontCatalogue::Get() {
 }
 
 FontCatalogue::FontCatalogue(const std::string& root) {
-  for (const std::string& folder : FoldersOf(root)) {
-    ReadFolder(folder);
-  }
+  for (const std::string& folder : FoldersOf(root)) ReadFolder(folder);
 }
 
 void FontCatalogue::ReadFolder(const std::string& folder) {
@@ -126,24 +118,18 @@ void FontCatalogue::ReadFolder(const std::string& folder) {
     }
   }
   std::stable_sort(entries_.begin() + first, entries_.end(),
-                   [](const Entry& a, const Entry& b) { return a.name < b.name; });
+                   [](const Entry& a, const Entry& b) { return a.Name < b.Name; });
 }
 
 std::string FontCatalogue::Search(const std::string& pattern, int& aliasesLeft) const {
   for (const Entry& entry : entries_) {
-    if (!MatchesPattern(pattern, entry.name)) {
-      continue;
-    }
-    if (!entry.alias) {
-      return entry.target;
-    }
+    if (!MatchesPattern(pattern, entry.Name)) continue;
+    if (!entry.Alias) return entry.Target;
     // An alias may lead to nothing or in a circle; then the next match counts.
     if (aliasesLeft > 0) {
       --aliasesLeft;
-      std::string file = Search(entry.target, aliasesLeft);
-      if (!file.empty()) {
-        return file;
-      }
+      std::string file = Search(entry.Target, aliasesLeft);
+      if (!file.empty()) return file;
     }
   }
   return {};
@@ -162,9 +148,7 @@ std::string FontCatalogue::FindFile(const std::string& pattern) {
 std::string FontCatalogue::ResolveAlias(const std::string& name) const {
   const std::string lower = Lower(name);
   for (const Entry& entry : entries_) {
-    if (entry.alias && entry.name == lower) {
-      return entry.target;
-    }
+    if (entry.Alias && entry.Name == lower) return entry.Target;
   }
   return name;
 }

@@ -22,9 +22,9 @@ class FontCatalogue {
 
  private:
   struct Entry {
-    std::string name;    // lower case
-    std::string target;  // a file, or for an alias a name or pattern
-    bool alias;
+    std::string Name;    // lower case
+    std::string Target;  // a file, or for an alias a name or pattern
+    bool Alias;
   };
   void ReadFolder(const std::string& folder);
   std::string Search(const std::string& pattern, int& aliasesLeft) const;

@@ -65,12 +65,8 @@ bool IsFull(const std::vector<std::string>& fields) {
 std::shared_ptr<GlyphSource> OpenFirst(const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     const std::string file = FontCatalogue::Get().FindFile(name);
-    if (file.empty()) {
-      continue;
-    }
-    if (auto font = OpenBitmapFont(file)) {
-      return font;
-    }
+    if (file.empty()) continue;
+    if (auto font = OpenBitmapFont(file)) return font;
   }
   return nullptr;
 }
@@ -80,9 +76,7 @@ using NameMaker = std::vector<std::string> (*)(const std::string&, const std::st
 std::shared_ptr<GlyphSource> OpenBitmap(const std::string& descriptor, Charset charset,
                                         NameMaker makeNames) {
   for (const std::string& name : CharsetNames(charset)) {
-    if (auto font = OpenFirst(makeNames(descriptor, name))) {
-      return font;
-    }
+    if (auto font = OpenFirst(makeNames(descriptor, name))) return font;
   }
   return nullptr;
 }
@@ -112,9 +106,7 @@ std::vector<std::string> ExactNames(const std::string& descriptor, const std::st
 
 std::vector<std::string> RelatedNames(const std::string& descriptor, const std::string& charset) {
   const std::vector<std::string> fields = Split(descriptor);
-  if (!IsFull(fields) || (fields[Pixels] == Any && fields[Points] == Any)) {
-    return {};
-  }
+  if (!IsFull(fields) || (fields[Pixels] == Any && fields[Points] == Any)) return {};
   std::vector<std::string> free(Registry, Any);
   free[0].clear();
   free[Foundry] = fields[Foundry];
@@ -142,15 +134,9 @@ bool FontSet::NamesBitmapFont() {
 
 GlyphSource& FontSet::Source(Charset charset) {
   std::shared_ptr<GlyphSource>& source = sources_[static_cast<std::size_t>(charset)];
-  if (!source) {
-    source = OpenBitmap(Resolved(), charset, ExactNames);
-  }
-  if (!source) {
-    source = OpenBitmap(Resolved(), charset, RelatedNames);
-  }
-  if (!source) {
-    source = OpenOutlineFont(StyleOf(Resolved()), charset);
-  }
+  if (!source) source = OpenBitmap(Resolved(), charset, ExactNames);
+  if (!source) source = OpenBitmap(Resolved(), charset, RelatedNames);
+  if (!source) source = OpenOutlineFont(StyleOf(Resolved()), charset);
   return *source;
 }
 
@@ -165,7 +151,7 @@ void FontSet::VisitGlyphs(std::string_view euc, Visit visit) {
   const auto place = [&](Charset charset, guint code) {
     const Glyph& glyph = Source(charset).Find(code);
     visit(glyph, x);
-    x += glyph.advance;
+    x += glyph.Advance;
   };
   for (std::size_t i = 0; i < euc.size();) {
     const guint lead = byte(i);
@@ -193,15 +179,15 @@ TextExtents FontSet::Measure(std::string_view euc) {
   VisitGlyphs(euc, [&](const Glyph& glyph, gint64 at) {
     const gint x = static_cast<gint>(at);
     if (first) {
-      extents = {glyph.left, glyph.right, glyph.ascent, glyph.descent, glyph.advance};
+      extents = {glyph.Left, glyph.Right, glyph.Ascent, glyph.Descent, glyph.Advance};
       first = false;
       return;
     }
-    extents.left = std::min(extents.left, x + glyph.left);
-    extents.right = std::max(extents.right, x + glyph.right);
-    extents.ascent = std::max(extents.ascent, glyph.ascent);
-    extents.descent = std::max(extents.descent, glyph.descent);
-    extents.width = x + glyph.advance;
+    extents.Left = std::min(extents.Left, x + glyph.Left);
+    extents.Right = std::max(extents.Right, x + glyph.Right);
+    extents.Ascent = std::max(extents.Ascent, glyph.Ascent);
+    extents.Descent = std::max(extents.Descent, glyph.Descent);
+    extents.Width = x + glyph.Advance;
   });
   return extents;
 }
@@ -209,10 +195,10 @@ TextExtents FontSet::Measure(std::string_view euc) {
 void FontSet::Draw(Drawable& drawable, gint64 x, gint64 baseline, guint32 rgb,
                    std::string_view euc) {
   VisitGlyphs(euc, [&](const Glyph& glyph, gint64 at) {
-    for (const GlyphRun& run : glyph.runs) {
+    for (const GlyphRun& run : glyph.Runs) {
       const gint64 left = x + at + run.x;
       const gint64 top = baseline + run.y;
-      FillBox(drawable, {left, top, left + run.length, top + 1}, rgb);
+      FillBox(drawable, {left, top, left + run.Length, top + 1}, rgb);
     }
   });
 }

@@ -13,11 +13,11 @@
 
 // Extents of a line of text. Ink bearings count from the text's origin on the baseline.
 struct TextExtents {
-  gint left = 0;
-  gint right = 0;
-  gint ascent = 0;
-  gint descent = 0;
-  gint width = 0;  // sum of the advances
+  gint Left = 0;
+  gint Right = 0;
+  gint Ascent = 0;
+  gint Descent = 0;
+  gint Width = 0;  // sum of the advances
 };
 
 class FontSet {

@@ -1,4 +1,5 @@
 #include "render/FontTable.h"
+
 #include "support/Profile.h"
 #include "support/ProfileFile.h"
 #include "support/ProfileText.h"
@@ -31,15 +32,9 @@ void ReadFont(std::string_view profile, gint font) {
 }  // namespace
 
 void FontDataInit(gint mode) {
-  if (mode != 0) {
-    Language = ProfileReadInt1("", "VARNIXPACK", "LANGUAGE");
-  }
-  if (Language < 0 || Language > 2) {
-    Language = 0;
-  }
+  if (mode != 0) Language = ProfileReadInt1("", "VARNIXPACK", "LANGUAGE");
+  if (Language < 0 || Language > 2) Language = 0;
   const std::string profile = LoadProfile(ProfilePath("")).value_or("");
-  for (gint font = 0; font < FontCount; ++font) {
-    ReadFont(profile, font);
-  }
+  for (gint font = 0; font < FontCount; ++font) ReadFont(profile, font);
   SetDrawFont();
 }

@@ -9,17 +9,17 @@
 struct GlyphRun {
   gint16 x;
   gint16 y;
-  gint16 length;
+  gint16 Length;
 };
 
 // Bearings count from the origin: left to the first, right to behind the last column.
 struct Glyph {
-  gint left = 0;
-  gint right = 0;
-  gint ascent = 0;
-  gint descent = 0;
-  gint advance = 0;
-  std::vector<GlyphRun> runs;
+  gint Left = 0;
+  gint Right = 0;
+  gint Ascent = 0;
+  gint Descent = 0;
+  gint Advance = 0;
+  std::vector<GlyphRun> Runs;
 };
 
 // The characters of one charset in one font.

@@ -49,33 +49,29 @@ class OutlineFont : public GlyphSource {
     cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_FULL);
     cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_ON);
     pango_cairo_context_set_font_options(context_.get(), options.get());
-    const bool anyFamily = style.family.empty() || style.family == "*";
-    const std::string family = anyFamily ? "monospace" : style.family + ",monospace";
+    const bool anyFamily = style.Family.empty() || style.Family == "*";
+    const std::string family = anyFamily ? "monospace" : style.Family + ",monospace";
     const Held<PangoFontDescription> font(pango_font_description_new());
     pango_font_description_set_family(font.get(), family.c_str());
     pango_font_description_set_weight(font.get(),
-                                      style.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
+                                      style.Bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(font.get(),
-                                     style.slanted ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
+                                     style.Slanted ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
     pango_font_description_set_absolute_size(
-        font.get(), std::clamp(style.pixels, 1, MaxPixels) * double{PANGO_SCALE});
+        font.get(), std::clamp(style.Pixels, 1, MaxPixels) * double{PANGO_SCALE});
     pango_layout_set_font_description(layout_.get(), font.get());
   }
 
   const Glyph& Find(guint code) override {
     const auto [place, isNew] = glyphs_.try_emplace(code);
-    if (isNew) {
-      place->second = Load(code);
-    }
+    if (isNew) place->second = Load(code);
     return place->second;
   }
 
  private:
   Glyph Load(guint code) const {
     const auto text = Utf8FromEuc(EucBytes(charset_, code));
-    if (!text || text->empty() || static_cast<guchar>(text->front()) < 0x20) {
-      return {};
-    }
+    if (!text || text->empty() || static_cast<guchar>(text->front()) < 0x20) return {};
     pango_layout_set_text(layout_.get(), text->data(), static_cast<int>(text->size()));
     PangoRectangle ink, logical;
     pango_layout_get_pixel_extents(layout_.get(), &ink, &logical);
@@ -96,15 +92,13 @@ class OutlineFont : public GlyphSource {
     pango_cairo_show_layout(cairo.get(), layout_.get());
     cairo_surface_flush(surface.get());
     const guchar* data = cairo_image_surface_get_data(surface.get());
-    if (data == nullptr) {
-      return;
-    }
+    if (data == nullptr) return;
     const int stride = cairo_image_surface_get_stride(surface.get());
     for (int y = 0; y < ink.height; ++y) {
       const guchar* row = data + static_cast<std::ptrdiff_t>(y) * stride;
       for (int x = 0; x < ink.width; ++x) {
         if (row[x] >= 0x80) {
-          glyph.runs.push_back(
+          glyph.Runs.push_back(
               {static_cast<gint16>(ink.x + x), static_cast<gint16>(ink.y + y - baseline), 1});
         }
       }

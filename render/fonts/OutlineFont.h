@@ -7,10 +7,10 @@
 #include "render/fonts/Glyph.h"
 
 struct OutlineFontStyle {
-  std::string family;  // "" or "*" = any
-  bool bold = false;
-  bool slanted = false;
-  gint pixels = 0;
+  std::string Family;  // "" or "*" = any
+  bool Bold = false;
+  bool Slanted = false;
+  gint Pixels = 0;
 };
 
 // Which charset the codes are of.

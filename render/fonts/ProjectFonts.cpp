@@ -4,7 +4,5 @@
 #include "support/Resource.h"
 
 void SetDrawFont() {
-  for (gint font = 0; font < FontCount; ++font) {
-    LoadDrawFont(font, FontName[font]);
-  }
+  for (gint font = 0; font < FontCount; ++font) LoadDrawFont(font, FontName[font]);
 }

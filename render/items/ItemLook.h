@@ -17,6 +17,7 @@ bool IsOddSystem();
 inline gint OptionalColour(gint enabled, gint colour) {
   return enabled != 0 ? colour : -1;
 }
+
 // The item's text in the language shown.
 std::string ItemText(const PTRNDATA& item);
 

@@ -25,9 +25,7 @@ void InitDrawData() {
   DrawColr[ColourWhite] = ColourOf(65535, 65535, 65535);
   DrawColr[ColourBlack] = ColourOf(0, 0, 0);
   DrawColr[ColourRed] = ColourOf(65535, 0, 0);
-  for (gint i = 0; i < FontCount; ++i) {
-    FontName[i][0] = FontList[i][0] = '\0';
-  }
+  for (gint i = 0; i < FontCount; ++i) FontName[i][0] = FontList[i][0] = '\0';
   SetDrawFont();
   ForgetSmallFont();
   CusrColr[0] = ProfileColour("CURSOR_FG");

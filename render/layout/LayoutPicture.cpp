@@ -1,4 +1,5 @@
 #include "render/LayoutPicture.h"
+
 #include "layout/Store.h"
 #include "render/pictures/PictureFiles.h"
 

@@ -79,9 +79,7 @@ PaintedLayout::Clock PaintedLayout::PresentClock(const Drawable& picture) {
 std::optional<std::vector<DrawnBox>> PaintedLayout::ChangedBoxes(const Drawable& picture,
                                                                  const std::string& look,
                                                                  const Clock& clock) const {
-  if (!painted_ || look != look_ || pictures_.Changed()) {
-    return std::nullopt;
-  }
+  if (!painted_ || look != look_ || pictures_.Changed()) return std::nullopt;
   // A commit changes one item, appends some or takes some out: the others stand before and behind.
   const auto oldCount = items_.size();
   const auto newCount = static_cast<std::size_t>(GetPtrnCount());
@@ -97,9 +95,7 @@ std::optional<std::vector<DrawnBox>> PaintedLayout::ChangedBoxes(const Drawable&
     ++behind;
   }
   const std::size_t changed = oldCount + newCount - 2 * (before + behind);
-  if (changed == 0 || changed > MaxChanged) {
-    return std::nullopt;
-  }
+  if (changed == 0 || changed > MaxChanged) return std::nullopt;
   DrawnBox oldBox, newBox;
   for (std::size_t no = before; no < oldCount - behind; ++no) {
     PTRNDATA item = items_[no];

@@ -22,9 +22,7 @@ void SetXpmColr(const gchar** xpm, gint no) {
   // configured second colour leaves "." without a definition.
   static constexpr gchar characters[ColourLines] = {' ', ',', 'X'};
   static gchar lines[3][ColourLines][20];
-  if (no < 1 || no > 3) {
-    return;
-  }
+  if (no < 1 || no > 3) return;
   gchar colours[ColourLines][100];
   ProfileRead2("", "COLOR", "XPM_COLR", no, "sss", colours[0], colours[1], colours[2]);
   for (gint i = 0; i < ColourLines; ++i) {
@@ -43,12 +41,8 @@ void MakeCursor(const gchar* const* xpm, guint8* data, guint8* mask) {
     const gchar* row = xpm[1 + ColourLines + y];
     for (gint x = 0; x < CursorSide && row[x] != '\0'; ++x) {
       const gint byte = 4 * y + x / 8;
-      if (row[x] != ' ') {
-        mask[byte] |= ByteMask[x % 8];
-      }
-      if (row[x] == 'X') {
-        data[byte] |= ByteMask[x % 8];
-      }
+      if (row[x] != ' ') mask[byte] |= ByteMask[x % 8];
+      if (row[x] == 'X') data[byte] |= ByteMask[x % 8];
     }
   }
 }
@@ -59,12 +53,8 @@ void XPM_DataInit() {
   // Kept: XPM_DownArrow1 stands in place of XPM_DownArrow2, too, which keeps its built-in colours.
   const gchar** const arrows[] = {XPM_LeftArrow1, XPM_LeftArrow2, XPM_RightArrow1, XPM_RightArrow2,
                                   XPM_UpArrow1,   XPM_UpArrow2,   XPM_DownArrow1,  XPM_DownArrow1};
-  for (const gchar** arrow : arrows) {
-    SetXpmColr(arrow, 3);
-  }
+  for (const gchar** arrow : arrows) SetXpmColr(arrow, 3);
   const gchar* const* const cursors[] = {XPM_Cursor1, XPM_Cursor2, XPM_Cursor3, XPM_Cursor4,
                                          XPM_Cursor5, XPM_Cursor6, XPM_Cursor7, XPM_Cursor8};
-  for (gint i = 0; i < 8; ++i) {
-    MakeCursor(cursors[i], CursorData[i], CursorMask[i]);
-  }
+  for (gint i = 0; i < 8; ++i) MakeCursor(cursors[i], CursorData[i], CursorMask[i]);
 }

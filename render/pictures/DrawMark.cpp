@@ -16,21 +16,21 @@ void SetColourLine(gchar (&line)[66], gchar character, guint32 rgb) {
 // The number of a mark's present shape.
 guint64 SourceOf(gint mark) {
   struct KnownShape {
-    gchar lines[67][66];  // colours left blank
-    guint64 source;
+    gchar Lines[67][66];  // colours left blank
+    guint64 Source;
   };
   static std::unique_ptr<KnownShape> shapes[MarkCheckOn + 1];
   const auto& lines = Mark_XPM[mark].data;
   constexpr std::size_t first = 1 + ColourLines;
   std::unique_ptr<KnownShape>& known = shapes[mark];
-  if (known && std::memcmp(known->lines[0], lines[0], sizeof lines[0]) == 0 &&
-      std::memcmp(known->lines[first], lines[first], sizeof lines - first * sizeof lines[0]) == 0) {
-    return known->source;
+  if (known && std::memcmp(known->Lines[0], lines[0], sizeof lines[0]) == 0 &&
+      std::memcmp(known->Lines[first], lines[first], sizeof lines - first * sizeof lines[0]) == 0) {
+    return known->Source;
   }
   known = std::make_unique<KnownShape>();
-  std::memcpy(known->lines, lines, sizeof lines);
-  known->source = NewPictureSource();
-  return known->source;
+  std::memcpy(known->Lines, lines, sizeof lines);
+  known->Source = NewPictureSource();
+  return known->Source;
 }
 
 PixbufPtr MarkPicture(gint mark, guint32 front, gint64 back) {
@@ -44,7 +44,7 @@ PixbufPtr MarkPicture(gint mark, guint32 front, gint64 back) {
 
 }  // namespace
 
-void DrawMark(Drawable* drawable, DrawGc*, gint x, gint y, gint width, gint height, gint fg,
+void DrawMark(Drawable* drawable, DrawGc* /*gc*/, gint x, gint y, gint width, gint height, gint fg,
               gint bg, gint mark) {
   const bool transparent = bg < 0;
   const PlaneBox box{x, y, gint64{x} + width, gint64{y} + height};

@@ -11,12 +11,12 @@ constexpr std::size_t MaxKeptPixels = std::size_t{1} << 24;
 constexpr std::size_t MaxKept = 4096;
 
 struct SizedKey {
-  PictureKey picture;
-  gint64 width;
-  gint64 height;
+  PictureKey Picture;
+  gint64 Width;
+  gint64 Height;
 
   bool operator<(const SizedKey& other) const {
-    return std::tie(picture, width, height) < std::tie(other.picture, other.width, other.height);
+    return std::tie(Picture, Width, Height) < std::tie(other.Picture, other.Width, other.Height);
   }
 };
 
@@ -45,9 +45,7 @@ const ScaledPicture* FindKept(const PictureKey& key, gint64 width, gint64 height
 
 const ScaledPicture* Keep(const PictureKey& key, gint64 width, gint64 height,
                           const GdkPixbuf* picture, bool blend) {
-  if (height > MaxPixels / width) {
-    return nullptr;
-  }
+  if (height > MaxPixels / width) return nullptr;
   try {
     const PlaneBox whole{0, 0, width, height};
     ScaledPicture scaled(picture, whole, whole, blend);

@@ -9,12 +9,12 @@
 // text) has a number of its own, so nothing needs to be dropped when the source changes: what was
 // kept of its older state is never asked for again.
 struct PictureKey {
-  guint64 source;
-  gint64 front;  // colours put into the picture; -1 = none
-  gint64 back;
+  guint64 Source;
+  gint64 Front;  // colours put into the picture; -1 = none
+  gint64 Back;
 
   bool operator<(const PictureKey& other) const {
-    return std::tie(source, front, back) < std::tie(other.source, other.front, other.back);
+    return std::tie(Source, Front, Back) < std::tie(other.Source, other.Front, other.Back);
   }
 };
 
@@ -32,9 +32,7 @@ template <typename Make>
 void PaintKept(Drawable& drawable, const PlaneBox& box, const PictureKey& key, bool blend,
                Make make) {
   const PlaneBox part = box.Clip(BoxOf(drawable));
-  if (part.Empty()) {
-    return;
-  }
+  if (part.Empty()) return;
   const gint64 width = box.x2 - box.x1;
   const gint64 height = box.y2 - box.y1;
   const ScaledPicture* kept = FindKept(key, width, height);

@@ -34,9 +34,7 @@ void SetDrawMark() {
     const guint8* byte = MarkData[i].mark;
     for (gint y = 0; y < size.cy; ++y) {
       gchar* row = Mark_XPM[i].data[MarkHeaderLines + y];
-      for (gint x = 0; x < size.cx; x += 8) {
-        std::memcpy(row + x, bytes[*byte++].data(), 8);
-      }
+      for (gint x = 0; x < size.cx; x += 8) std::memcpy(row + x, bytes[*byte++].data(), 8);
       row[size.cx] = '\0';
     }
   }

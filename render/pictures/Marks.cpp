@@ -1,6 +1,7 @@
+#include "render/Marks.h"
+
 #include <algorithm>
 
-#include "render/Marks.h"
 #include "render/Pictures.h"
 
 MARK_XPM Mark_XPM[MarkCheckOn + 1];

@@ -14,7 +14,5 @@ void LoadColrFile() {
 
 void SaveColrFile() {
   SetDrawColr();
-  if (Palette.Save()) {
-    KeepSavedPalette();
-  }
+  if (Palette.Save()) KeepSavedPalette();
 }

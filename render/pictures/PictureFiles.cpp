@@ -15,11 +15,11 @@ constexpr gint64 MaxKeptBytes = gint64{256} << 20;
 constexpr std::size_t MaxKeptFiles = 64;
 
 struct KeptPicture {
-  std::string path;
-  FileState state;
-  PixbufPtr picture;  // null: the file holds none
-  gint64 bytes;
-  guint64 source;
+  std::string Path;
+  FileState State;
+  PixbufPtr Picture;  // null: the file holds none
+  gint64 Bytes;
+  guint64 Source;
 };
 
 PixbufPtr ReadPicture(const std::string& path) {
@@ -39,7 +39,7 @@ void DropOldest() {
   gint64 bytes = 0;
   std::size_t files = 0;
   for (auto entry = kept.begin(); entry != kept.end();) {
-    bytes += entry->bytes;
+    bytes += entry->Bytes;
     ++files;
     const bool drop = files > 1 && (files > MaxKeptFiles || bytes > MaxKeptBytes);
     entry = drop ? kept.erase(entry) : std::next(entry);
@@ -50,25 +50,19 @@ void DropOldest() {
 
 std::optional<FileState> PictureFileState(const std::string& path) {
   struct stat info = {};
-  if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) {
-    return std::nullopt;
-  }
+  if (stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode)) return std::nullopt;
   return FileState{info.st_dev, info.st_ino, info.st_size, info.st_mtim.tv_sec,
                    info.st_mtim.tv_nsec};
 }
 
 FilePicture PictureFile(const std::string& path) {
   const std::optional<FileState> state = PictureFileState(path);
-  if (!state) {
-    return {nullptr, 0, state};
-  }
+  if (!state) return {nullptr, 0, state};
   for (auto entry = kept.begin(); entry != kept.end(); ++entry) {
-    if (entry->path != path) {
-      continue;
-    }
-    if (entry->state == state) {
+    if (entry->Path != path) continue;
+    if (entry->State == state) {
       kept.splice(kept.begin(), kept, entry);
-      return {entry->picture.get(), entry->source, state};
+      return {entry->Picture.get(), entry->Source, state};
     }
     kept.erase(entry);
     break;
@@ -77,5 +71,5 @@ FilePicture PictureFile(const std::string& path) {
   const gint64 bytes = picture ? static_cast<gint64>(gdk_pixbuf_get_byte_length(picture.get())) : 0;
   kept.push_front({path, *state, std::move(picture), bytes, NewPictureSource()});
   DropOldest();
-  return {kept.front().picture.get(), kept.front().source, state};
+  return {kept.front().Picture.get(), kept.front().Source, state};
 }

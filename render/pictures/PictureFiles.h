@@ -7,9 +7,9 @@
 #include "render/Surface.h"
 
 struct FilePicture {
-  GdkPixbuf* picture;              // null: the file cannot be read or holds none
-  guint64 source;                  // number of the file's state
-  std::optional<FileState> state;  // none: there is no such file
+  GdkPixbuf* Picture;              // null: the file cannot be read or holds none
+  guint64 Source;                  // number of the file's state
+  std::optional<FileState> State;  // none: there is no such file
 };
 
 // The present state of a regular file, none when there is no such file.

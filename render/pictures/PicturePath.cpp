@@ -16,16 +16,10 @@ std::string RealPath(const std::string& path) {
 }
 
 std::string LookUp(const std::string& folder, const std::string& name) {
-  if (name.empty() || name.front() == '/') {
-    return "";
-  }
+  if (name.empty() || name.front() == '/') return "";
   std::string inside = RealPath(folder.empty() ? "." : folder);
-  if (inside.empty()) {
-    return "";
-  }
-  if (inside.back() != '/') {
-    inside += '/';
-  }
+  if (inside.empty()) return "";
+  if (inside.back() != '/') inside += '/';
   // Without links, so that what is opened is what was looked at.
   const std::string path = RealPath(JoinPath(folder, name, ""));
   return path.starts_with(inside) ? path : "";
@@ -46,9 +40,7 @@ KeptPicturePaths::~KeptPicturePaths() {
 }
 
 std::string PicturePathInside(const std::string& folder, const std::string& name) {
-  if (keepers == 0) {
-    return LookUp(folder, name);
-  }
+  if (keepers == 0) return LookUp(folder, name);
   const auto [entry, isNew] = kept.try_emplace({folder, name});
   if (isNew) entry->second = LookUp(folder, name);
   return entry->second;

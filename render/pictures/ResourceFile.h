@@ -23,8 +23,9 @@ class ResourceFile {
   // a folder there is no project to write to, and a new project's table is none of the open one's.
   // False when the file does not hold the table now.
   bool Save() const {
-    if (ProjPath[0] == '\0' || ResourcesAreNewProjects() || (unread_ == Path() && IsBlank()))
+    if (ProjPath[0] == '\0' || ResourcesAreNewProjects() || (unread_ == Path() && IsBlank())) {
       return false;
+    }
     return FileWrite(ProjPath, name_, "", &table_, Size, 0) != 0;
   }
 

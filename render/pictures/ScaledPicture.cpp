@@ -30,9 +30,7 @@ guint32 Blended(guint32 below, guint32 above) {
 ScaledPicture::ScaledPicture(const GdkPixbuf* picture, const PlaneBox& box, const PlaneBox& part,
                              bool blend)
     : part_(part) {
-  if (picture == nullptr || part.Empty()) {
-    return;
-  }
+  if (picture == nullptr || part.Empty()) return;
   try {
     if (box.x2 - box.x1 == gdk_pixbuf_get_width(picture) &&
         box.y2 - box.y1 == gdk_pixbuf_get_height(picture)) {
@@ -82,12 +80,8 @@ void ScaledPicture::FindRuns() {
     for (gint32 x = 0; x < width;) {
       const gint32 start = x;
       const Kind kind = kindOf(row[x]);
-      while (x < width && kindOf(row[x]) == kind) {
-        ++x;
-      }
-      if (kind != Hidden) {
-        runs_.push_back({start, y, x - start, kind == Mixture});
-      }
+      while (x < width && kindOf(row[x]) == kind) ++x;
+      if (kind != Hidden) runs_.push_back({start, y, x - start, kind == Mixture});
     }
   }
 }
@@ -100,19 +94,15 @@ void ScaledPicture::PaintAt(Drawable& drawable, gint64 x, gint64 y) const {
   const gint64 width = part_.x2 - part_.x1;
   const PlaneBox clip = BoxOf(drawable);
   const PlaneBox shown = PlaneBox{x, y, x + width, y + part_.y2 - part_.y1}.Clip(clip);
-  if (shown.Empty() || !TakesPixels(drawable, shown)) {
-    return;
-  }
+  if (shown.Empty() || !TakesPixels(drawable, shown)) return;
   for (const Run& run : runs_) {
     const gint64 row = y + run.y;
     const gint64 begin = std::max(x + run.x, clip.x1);
-    const gint64 end = std::min(x + run.x + run.length, clip.x2);
-    if (row < clip.y1 || row >= clip.y2 || begin >= end) {
-      continue;
-    }
+    const gint64 end = std::min(x + run.x + run.Length, clip.x2);
+    if (row < clip.y1 || row >= clip.y2 || begin >= end) continue;
     const guint32* in = pixels_.data() + run.y * width + (begin - x);
     guint32* out = PixelAt(drawable, begin, row);
-    if (run.mixed) {
+    if (run.Mixed) {
       std::transform(out, out + (end - begin), in, out, Blended);
     } else {
       std::copy_n(in, end - begin, out);

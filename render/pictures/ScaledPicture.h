@@ -23,8 +23,8 @@ class ScaledPicture {
   struct Run {
     gint32 x;
     gint32 y;
-    gint32 length;
-    bool mixed;  // with what is below
+    gint32 Length;
+    bool Mixed;  // with what is below
   };
   // Takes the part of the picture that begins at (left, top).
   void Take(const GdkPixbuf* picture, gint64 left, gint64 top, bool blend);

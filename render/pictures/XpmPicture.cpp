@@ -13,23 +13,19 @@ constexpr gint MaxSide = 256;
 constexpr gint MaxColours = 16;
 
 struct Rgb {
-  guchar red = 0;
-  guchar green = 0;
-  guchar blue = 0;
+  guchar Red = 0;
+  guchar Green = 0;
+  guchar Blue = 0;
 };
 
 Rgb ParseColour(std::string_view line) {
   const auto sharp = line.find('#');
-  if (sharp == std::string_view::npos || line.size() - sharp < 7) {
-    return {};
-  }
+  if (sharp == std::string_view::npos || line.size() - sharp < 7) return {};
   std::array<guchar, 3> channels{};
   for (std::size_t i = 0; i < 3; ++i) {
     const gint high = g_ascii_xdigit_value(line[sharp + 1 + 2 * i]);
     const gint low = g_ascii_xdigit_value(line[sharp + 2 + 2 * i]);
-    if (high < 0 || low < 0) {
-      return {};
-    }
+    if (high < 0 || low < 0) return {};
     channels[i] = static_cast<guchar>(high << 4 | low);
   }
   return {channels[0], channels[1], channels[2]};
@@ -41,27 +37,25 @@ ColourTable ReadColours(const gchar* const* lines, gint count) {
   ColourTable table;
   table.fill(ParseColour(lines[0]));
   for (gint i = count - 1; i >= 0; --i) {
-    if (lines[i][0] != '\0') {
-      table[static_cast<guchar>(lines[i][0])] = ParseColour(lines[i]);
-    }
+    if (lines[i][0] != '\0') table[static_cast<guchar>(lines[i][0])] = ParseColour(lines[i]);
   }
   return table;
 }
 
 struct Header {
-  gint width = 0;
-  gint height = 0;
-  gint colours = 0;
+  gint Width = 0;
+  gint Height = 0;
+  gint Colours = 0;
 };
 
 std::optional<Header> ReadHeader(const gchar* const* xpm) {
   Header header;
   gint characters = 0;
   if (xpm == nullptr || xpm[0] == nullptr ||
-      std::sscanf(xpm[0], "%d %d %d %d", &header.width, &header.height, &header.colours,
+      std::sscanf(xpm[0], "%d %d %d %d", &header.Width, &header.Height, &header.Colours,
                   &characters) != 4 ||
-      header.width < 1 || header.height < 1 || header.width > MaxSide || header.height > MaxSide ||
-      header.colours < 1 || header.colours > MaxColours || characters != 1) {
+      header.Width < 1 || header.Height < 1 || header.Width > MaxSide || header.Height > MaxSide ||
+      header.Colours < 1 || header.Colours > MaxColours || characters != 1) {
     return std::nullopt;
   }
   return header;
@@ -71,19 +65,15 @@ std::optional<Header> ReadHeader(const gchar* const* xpm) {
 
 gint XpmLineCount(const gchar* const* xpm) {
   const std::optional<Header> header = ReadHeader(xpm);
-  return header ? 1 + header->colours + header->height : 0;
+  return header ? 1 + header->Colours + header->Height : 0;
 }
 
 PixbufPtr PixbufFromXpm(const gchar* const* xpm) {
   const std::optional<Header> header = ReadHeader(xpm);
-  if (!header) {
-    return nullptr;
-  }
+  if (!header) return nullptr;
   const auto [width, height, colours] = *header;
   PixbufPtr pixbuf(gdk_pixbuf_new(GDK_COLORSPACE_RGB, FALSE, 8, width, height));
-  if (!pixbuf) {
-    return nullptr;
-  }
+  if (!pixbuf) return nullptr;
   const ColourTable table = ReadColours(xpm + 1, colours);
   for (gint y = 0; y < height; ++y) {
     const std::string_view row = xpm[1 + colours + y];
@@ -91,9 +81,9 @@ PixbufPtr PixbufFromXpm(const gchar* const* xpm) {
                   static_cast<std::ptrdiff_t>(y) * gdk_pixbuf_get_rowstride(pixbuf.get());
     for (std::size_t x = 0; x < static_cast<std::size_t>(width); ++x) {
       const Rgb& rgb = table[x < row.size() ? static_cast<guchar>(row[x]) : 0];
-      *out++ = rgb.red;
-      *out++ = rgb.green;
-      *out++ = rgb.blue;
+      *out++ = rgb.Red;
+      *out++ = rgb.Green;
+      *out++ = rgb.Blue;
     }
   }
   return pixbuf;

@@ -37,12 +37,10 @@ void DrawRect(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2
     gc->Foreground = DrawColr[fill].pixel;
     DrawRect1(drawable, gc, 1, x1, y1, x2, y2);
   }
-  if (width <= 0 || !ColourExists(line)) {
-    return;
-  }
+  if (width <= 0 || !ColourExists(line)) return;
   gc->Foreground = DrawColr[line].pixel;
   const OffsetRange insets = OutlineInsets(width, position);
-  for (gint64 inset = insets.low; inset <= insets.high; ++inset) {
+  for (gint64 inset = insets.Low; inset <= insets.High; ++inset) {
     // The corners are moved as given: with swapped corners an inset grows the box.
     StrokeBox(*drawable, *gc, Normalised(x1 + inset, y1 + inset, x2 - inset, y2 - inset));
   }

@@ -5,20 +5,18 @@
 void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg, gint bg,
               const gchar* text) {
   FontSet* fonts = DrawFontOf(font);
-  if (fonts == nullptr || text == nullptr || text[0] == '\0') {
-    return;
-  }
+  if (fonts == nullptr || text == nullptr || text[0] == '\0') return;
   const TextExtents extents = fonts->Measure(text);
   const gint height = LineHeightOf(font);
   if (ColourExists(bg)) {
     gc->Foreground = DrawColr[bg].pixel;
-    FillPixels(drawable, x, y, extents.width, height, gc->Foreground);
+    FillPixels(drawable, x, y, extents.Width, height, gc->Foreground);
   }
   if (ColourExists(fg)) {
     gc->Foreground = DrawColr[fg].pixel;
-    const gint64 baseline = gint64{y} + (extents.ascent + height - extents.descent) / 2;
-    const PlaneBox ink{gint64{x} + extents.left, baseline - extents.ascent,
-                       gint64{x} + extents.right, baseline + extents.descent};
+    const gint64 baseline = gint64{y} + (extents.Ascent + height - extents.Descent) / 2;
+    const PlaneBox ink{gint64{x} + extents.Left, baseline - extents.Ascent,
+                       gint64{x} + extents.Right, baseline + extents.Descent};
     if (!ink.Clip(BoxOf(*drawable)).Empty()) {
       fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
     }
@@ -28,20 +26,16 @@ void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg
 void DrawTextOnBaseline(Drawable* drawable, DrawGc* gc, gint x, gint baseline, gint font, gint fg,
                         const gchar* text) {
   FontSet* fonts = DrawFontOf(font);
-  if (fonts == nullptr || text == nullptr || !ColourExists(fg)) {
-    return;
-  }
+  if (fonts == nullptr || text == nullptr || !ColourExists(fg)) return;
   gc->Foreground = DrawColr[fg].pixel;
   fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
 }
 
 SIZE GetTextSize(gint font, const gchar* text) {
   FontSet* fonts = DrawFontOf(font);
-  if (fonts == nullptr || text == nullptr || text[0] == '\0') {
-    return {0, 0};
-  }
+  if (fonts == nullptr || text == nullptr || text[0] == '\0') return {0, 0};
   const TextExtents extents = fonts->Measure(text);
   // Both bearings are added, so the ink's distance from the origin counts twice; hit tests rely on
   // it.
-  return {extents.left + extents.right, extents.ascent + extents.descent};
+  return {extents.Left + extents.Right, extents.Ascent + extents.Descent};
 }

@@ -5,7 +5,7 @@
 namespace {
 
 void FillRow(Drawable& drawable, guint32 rgb, gint64 y, const Span& row) {
-  FillBox(drawable, {row.first, y, row.last + 1, y + 1}, rgb);
+  FillBox(drawable, {row.First, y, row.Last + 1, y + 1}, rgb);
 }
 
 // The part of an outline's box that the surface has.
@@ -15,30 +15,24 @@ PlaneBox PartOf(const Drawable& drawable, const PlaneBox& outline) {
 
 void FillEllipse(Drawable& drawable, guint32 rgb, const PlaneBox& box) {
   const PlaneBox part = box.Clip(BoxOf(drawable));
-  if (part.Empty()) {
-    return;
-  }
+  if (part.Empty()) return;
   for (gint64 y = part.y1; y < part.y2; ++y) FillRow(drawable, rgb, y, FilledRow(box, y));
 }
 
 // All that lies within an outline.
 void FillInside(Drawable& drawable, guint32 rgb, const PlaneBox& outline) {
   const PlaneBox part = PartOf(drawable, outline);
-  if (part.Empty()) {
-    return;
-  }
+  if (part.Empty()) return;
   OutlineRows rows(outline);
   for (gint64 y = part.y1; y < part.y2; ++y) FillRow(drawable, rgb, y, rows.Inside(y));
 }
 
 // Whether the surface lies wholly inside the curve, so that no pixel of it shows.
 bool Encloses(const PlaneBox& box, const PlaneBox& clip) {
-  if (clip.y1 <= box.y1 || clip.y2 > box.y2) {
-    return false;
-  }
+  if (clip.y1 <= box.y1 || clip.y2 > box.y2) return false;
   const auto holds = [&](gint64 y) {
     const Span row = EnclosedRow(box, y);
-    return row.first < clip.x1 && row.last >= clip.x2;
+    return row.First < clip.x1 && row.Last >= clip.x2;
   };
   return holds(clip.y1 - 1) && holds(clip.y2);
 }
@@ -46,9 +40,7 @@ bool Encloses(const PlaneBox& box, const PlaneBox& clip) {
 // The outline of a box, one pixel wide.
 void PaintOutline(Drawable& drawable, guint32 rgb, const PlaneBox& box) {
   const PlaneBox part = PartOf(drawable, box);
-  if (part.Empty() || Encloses(box, BoxOf(drawable))) {
-    return;
-  }
+  if (part.Empty() || Encloses(box, BoxOf(drawable))) return;
   OutlineRows rows(box);
   for (gint64 y = part.y1; y < part.y2; ++y) {
     const Span row = rows.Enclosed(y);
@@ -56,8 +48,8 @@ void PaintOutline(Drawable& drawable, guint32 rgb, const PlaneBox& box) {
     if (hole.Empty()) {
       FillRow(drawable, rgb, y, row);
     } else {
-      FillRow(drawable, rgb, y, {row.first, hole.first - 1});
-      FillRow(drawable, rgb, y, {hole.last + 1, row.last});
+      FillRow(drawable, rgb, y, {row.First, hole.First - 1});
+      FillRow(drawable, rgb, y, {hole.Last + 1, row.Last});
     }
   }
 }
@@ -93,7 +85,7 @@ void DrawCrcl(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2
     FillEllipse(*drawable, gc->Foreground, filled);
     // Outlines beyond the box leave dots free between each other and the box; the ground does not
     // show there either. What an outline encloses holds all within it.
-    for (gint64 inset = insets.low; inset <= insets.high; ++inset) {
+    for (gint64 inset = insets.Low; inset <= insets.High; ++inset) {
       if (const PlaneBox box = outlineAt(inset); Exceeds(box, filled)) {
         FillInside(*drawable, gc->Foreground, box);
         filled = box;
@@ -102,7 +94,7 @@ void DrawCrcl(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2
   }
   if (outlined) {
     gc->Foreground = DrawColr[line].pixel;
-    for (gint64 inset = insets.low; inset <= insets.high; ++inset) {
+    for (gint64 inset = insets.Low; inset <= insets.High; ++inset) {
       PaintOutline(*drawable, gc->Foreground, outlineAt(inset));
     }
   }

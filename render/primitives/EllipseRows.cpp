@@ -51,27 +51,21 @@ Span EnclosedRow(const PlaneBox& box, gint64 y) {
   const double dy = std::abs(static_cast<double>(y - box.y1) - b);
   // The curve is rounded to the nearest pixel along the row or along the column.
   double half = b > 0 ? HalfChord(a, dy / b) + 0.5 : a;
-  if (dy >= 0.5) {
-    half = std::max(half, HalfChord(a, (dy - 0.5) / b));
-  }
+  if (dy >= 0.5) half = std::max(half, HalfChord(a, (dy - 0.5) / b));
   const auto margin = static_cast<gint64>(std::ceil(a - std::min(half, a)));
   return {box.x1 + margin, box.x2 - margin};
 }
 
 Span OutlineRows::Enclosed(gint64 y) {
   KnownRow& known = known_[y & 1];
-  if (known.y != y) {
-    known = {y, EnclosedRow(box_, y)};
-  }
-  return known.span;
+  if (known.y != y) known = {y, EnclosedRow(box_, y)};
+  return known.Extent;
 }
 
 Span OutlineRows::Inside(gint64 y) {
-  if (y <= box_.y1 || y >= box_.y2) {
-    return {0, -1};
-  }
+  if (y <= box_.y1 || y >= box_.y2) return {0, -1};
   const Span row = Enclosed(y);
   // The neighbour row away from the middle is never the longer one.
   const Span next = Enclosed(y - box_.y1 <= box_.y2 - y ? y - 1 : y + 1);
-  return {std::max(row.first + 1, next.first), std::min(row.last - 1, next.last)};
+  return {std::max(row.First + 1, next.First), std::min(row.Last - 1, next.Last)};
 }

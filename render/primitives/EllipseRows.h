@@ -6,10 +6,10 @@
 
 // Pixels of one row, both ends included; empty when first > last.
 struct Span {
-  gint64 first;
-  gint64 last;
+  gint64 First;
+  gint64 Last;
 
-  bool Empty() const { return first > last; }
+  bool Empty() const { return First > Last; }
 };
 
 // The pixels of row y (y1 <= y < y2) that the filled ellipse in a box with an area takes: those
@@ -34,7 +34,7 @@ class OutlineRows {
  private:
   struct KnownRow {
     gint64 y = G_MININT64;
-    Span span{};
+    Span Extent{};
   };
   PlaneBox box_;
   KnownRow known_[2];  // a row is asked for by itself and by its neighbour

@@ -29,15 +29,13 @@ class DashPattern {
 
 // Pixel numbers first..last of a line that the interval low..high-1 of its longer axis shows.
 struct IndexRange {
-  gint64 first;
-  gint64 last;
+  gint64 First;
+  gint64 Last;
 };
 
 IndexRange VisibleIndexes(gint64 from, gint64 to, gint64 low, gint64 high) {
   const gint64 length = std::abs(to - from);
-  if (from <= to) {
-    return {std::max<gint64>(low - from, 0), std::min(high - 1 - from, length)};
-  }
+  if (from <= to) return {std::max<gint64>(low - from, 0), std::min(high - 1 - from, length)};
   return {std::max<gint64>(from - (high - 1), 0), std::min(from - low, length)};
 }
 
@@ -47,8 +45,8 @@ void StrokeStraight(Drawable& drawable, const DrawGc& gc, const LineEnds& line, 
   const bool upright = line.Vertical();
   const gint64 from = upright ? line.y1 : line.x1;
   const gint64 to = upright ? line.y2 : line.x2;
-  const gint64 low = (upright ? line.x1 : line.y1) + copies.low;
-  const gint64 high = (upright ? line.x1 : line.y1) + copies.high + 1;
+  const gint64 low = (upright ? line.x1 : line.y1) + copies.Low;
+  const gint64 high = (upright ? line.x1 : line.y1) + copies.High + 1;
   const auto [first, last] =
       VisibleIndexes(from, to, upright ? clip.y1 : clip.x1, upright ? clip.y2 : clip.x2);
   const gint64 step = from <= to ? 1 : -1;
@@ -59,16 +57,12 @@ void StrokeStraight(Drawable& drawable, const DrawGc& gc, const LineEnds& line, 
             gc.Foreground);
   };
   if (dashes.Solid()) {
-    if (first <= last) {
-      paint(first, last);
-    }
+    if (first <= last) paint(first, last);
     return;
   }
   for (gint64 i = first; i <= last;) {
     const gint64 place = dashes.Place(i);
-    if (place < dashes.OnLength()) {
-      paint(i, std::min(i + dashes.OnLength() - place - 1, last));
-    }
+    if (place < dashes.OnLength()) paint(i, std::min(i + dashes.OnLength() - place - 1, last));
     i += dashes.Period() - place;
   }
 }
@@ -96,8 +90,8 @@ void StrokeSlanted(Drawable& drawable, const DrawGc& gc, const LineEnds& line, O
   for (gint64 i = first; i <= last; ++i) {
     if (dashes.On(i)) {
       const gint64 along = from + step * i;
-      const gint64 low = side + copies.low;
-      const gint64 high = side + copies.high + 1;
+      const gint64 low = side + copies.Low;
+      const gint64 high = side + copies.High + 1;
       FillBox(drawable,
               flat ? PlaneBox{along, low, along + 1, high} : PlaneBox{low, along, high, along + 1},
               gc.Foreground);

@@ -8,9 +8,7 @@ const gint8 dash2[] = {4, 2};
 
 // Offsets of the copies of a vertical or horizontal line: centred 0, -1, +1, -2, +2, ...
 OffsetRange StraightOffsets(gint64 width, gint position) {
-  if (position == 0) {
-    return {-(width / 2), (width - 1) / 2};
-  }
+  if (position == 0) return {-(width / 2), (width - 1) / 2};
   return position == 1 ? OffsetRange{-width, -1} : OffsetRange{0, width - 1};
 }
 
@@ -25,9 +23,7 @@ OffsetRange SlantedOffsets(gint64 width) {
 
 void DrawLine(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint style,
               gint width, gint position, gint colour) {
-  if (!ColourExists(colour) || width <= 0) {
-    return;
-  }
+  if (!ColourExists(colour) || width <= 0) return;
   gc->Foreground = DrawColr[colour].pixel;
   gc->Dashes = style == 0 ? nullptr : style == 1 ? dash1 : dash2;
   const LineEnds line{x1, y1, x2, y2};

@@ -37,9 +37,7 @@ inline guint32* PixelAt(Drawable& drawable, gint64 x, gint64 y) {
 // False on a surface that only notes where it is painted on: then `part`, which lies on it, is
 // noted.
 inline bool TakesPixels(Drawable& drawable, const PlaneBox& part) {
-  if (drawable.Drawn() == nullptr) {
-    return true;
-  }
+  if (drawable.Drawn() == nullptr) return true;
   drawable.Drawn()->Add({static_cast<gint>(part.x1), static_cast<gint>(part.y1),
                          static_cast<gint>(part.x2), static_cast<gint>(part.y2)});
   return false;
@@ -47,9 +45,7 @@ inline bool TakesPixels(Drawable& drawable, const PlaneBox& part) {
 
 inline void FillBox(Drawable& drawable, const PlaneBox& box, guint32 rgb) {
   const PlaneBox part = box.Clip(BoxOf(drawable));
-  if (part.Empty() || !TakesPixels(drawable, part)) {
-    return;
-  }
+  if (part.Empty() || !TakesPixels(drawable, part)) return;
   const guint32 pixel = 0xff000000 | rgb;
   for (gint64 y = part.y1; y < part.y2; ++y) {
     std::fill_n(PixelAt(drawable, part.x1, y), part.x2 - part.x1, pixel);
@@ -58,6 +54,6 @@ inline void FillBox(Drawable& drawable, const PlaneBox& box, guint32 rgb) {
 
 // Copies of a figure at every offset from `low` to `high`.
 struct OffsetRange {
-  gint64 low;
-  gint64 high;
+  gint64 Low;
+  gint64 High;
 };

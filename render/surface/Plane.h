@@ -13,9 +13,11 @@ constexpr gint WidthBound = 9999;
 inline gint OnPlane(gint position) {
   return std::clamp(position, -PlaneBound, PlaneBound);
 }
+
 inline POINT OnPlane(const POINT& point) {
   return {OnPlane(point.x), OnPlane(point.y)};
 }
+
 inline gint BoundedWidth(gint width) {
   return std::min(width, WidthBound);
 }
@@ -43,6 +45,7 @@ inline ItemBox ItemBoxOf(const PTRNDATA& item) {
   const POINT second = OnPlane(POINT{item.Point2});
   return {first.x, first.y, second.x, second.y};
 }
+
 inline ItemBox Zoomed(const ItemBox& box, gint zoom) {
   return {Zoomed(box.X1, zoom), Zoomed(box.Y1, zoom), Zoomed(box.X2, zoom), Zoomed(box.Y2, zoom)};
 }

@@ -19,16 +19,12 @@ class PartScaler {
 
   bool FillPlain(const PlaneBox& cell, const PlaneBox& source) {
     const guchar* colour = OnlyColour(source);
-    if (colour == nullptr) {
-      return false;
-    }
+    if (colour == nullptr) return false;
     const gint stride = gdk_pixbuf_get_rowstride(scaled_);
     guchar* first = gdk_pixbuf_get_pixels(scaled_) + (cell.y1 - part_.y1) * stride +
                     (cell.x1 - part_.x1) * channels_;
     const gint64 length = (cell.x2 - cell.x1) * channels_;
-    for (gint64 i = 0; i < length; i += channels_) {
-      std::memcpy(first + i, colour, Bytes(channels_));
-    }
+    for (gint64 i = 0; i < length; i += channels_) std::memcpy(first + i, colour, Bytes(channels_));
     for (gint64 y = 1; y < cell.y2 - cell.y1; ++y) {
       std::memcpy(first + y * stride, first, Bytes(length));
     }
@@ -48,9 +44,7 @@ class PartScaler {
     const gint stride = gdk_pixbuf_get_rowstride(picture_);
     const guchar* first =
         gdk_pixbuf_read_pixels(picture_) + source.y1 * stride + source.x1 * channels_;
-    if (channels_ == 4 && first[3] != 255) {
-      return nullptr;
-    }
+    if (channels_ == 4 && first[3] != 255) return nullptr;
     const gint64 others = (source.x2 - source.x1 - 1) * channels_;
     const guchar* row = first;
     for (gint64 y = source.y1; y < source.y2; ++y, row += stride) {
@@ -75,9 +69,7 @@ PixbufPtr ScaledPart(const GdkPixbuf* picture, const PlaneBox& box, const PlaneB
   PixbufPtr scaled(gdk_pixbuf_new(GDK_COLORSPACE_RGB, gdk_pixbuf_get_has_alpha(picture), 8,
                                   static_cast<int>(part.x2 - part.x1),
                                   static_cast<int>(part.y2 - part.y1)));
-  if (!scaled) {
-    return scaled;
-  }
+  if (!scaled) return scaled;
   const gint width = gdk_pixbuf_get_width(picture);
   const gint height = gdk_pixbuf_get_height(picture);
   const Scaling scaling{width, height, static_cast<double>(box.x2 - box.x1) / width,

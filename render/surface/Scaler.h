@@ -21,8 +21,8 @@ inline void TakeRgbRow(const guchar* in, gint64 count, guint32* out) {
 
 // A picture and the factors that it is scaled by.
 struct Scaling {
-  gint64 width;
-  gint64 height;
+  gint64 Width;
+  gint64 Height;
   double x;
   double y;
 };
@@ -39,8 +39,8 @@ inline OffsetRange SourceOf(gint64 begin, gint64 end, double scale) {
 inline PlaneBox SourceOf(const PlaneBox& box, const Scaling& scaling) {
   const OffsetRange columns = SourceOf(box.x1, box.x2, scaling.x);
   const OffsetRange rows = SourceOf(box.y1, box.y2, scaling.y);
-  return PlaneBox{columns.low, rows.low, columns.high, rows.high}.Clip(
-      {0, 0, scaling.width, scaling.height});
+  return PlaneBox{columns.Low, rows.Low, columns.High, rows.High}.Clip(
+      {0, 0, scaling.Width, scaling.Height});
 }
 
 // Divides a part of a scaled picture into what is of one colour and what needs the scaler.
@@ -57,12 +57,12 @@ void ScaleInCells(const PlaneBox& part, const Scaling& scaling, Work& work) {
   std::vector<OffsetRange> columns;  // for the scaler, from row `begin` on
   gint64 begin = part.y1;
   const auto scaleTo = [&](gint64 end) {
-    for (const OffsetRange& range : columns) work.Scale({range.low, begin, range.high, end});
+    for (const OffsetRange& range : columns) work.Scale({range.Low, begin, range.High, end});
   };
   const auto sameColumns = [&](const std::vector<OffsetRange>& next) {
     return std::equal(next.begin(), next.end(), columns.begin(), columns.end(),
                       [](const OffsetRange& a, const OffsetRange& b) {
-                        return a.low == b.low && a.high == b.high;
+                        return a.Low == b.Low && a.High == b.High;
                       });
   };
   for (gint64 y = part.y1; y < part.y2; y += cellHeight) {
@@ -71,8 +71,8 @@ void ScaleInCells(const PlaneBox& part, const Scaling& scaling, Work& work) {
       const PlaneBox cell =
           PlaneBox{x, y, x + cellWidth, y + cellHeight}.Clip({part.x1, part.y1, part.x2, part.y2});
       if (work.FillPlain(cell, SourceOf(cell, scaling))) continue;
-      if (!next.empty() && next.back().high == x) {
-        next.back().high = cell.x2;
+      if (!next.empty() && next.back().High == x) {
+        next.back().High = cell.x2;
       } else {
         next.push_back({x, cell.x2});
       }

@@ -17,16 +17,14 @@ constexpr guint32 Opaque = 0xff000000;
 // A view of the canvas is made anew for every expose: the memory of the last surface waits for the
 // next one, because memory that is fresh from the system costs more than painting on it.
 struct Pixels {
-  guint32* memory = nullptr;
-  guint64 count = 0;
+  guint32* Memory = nullptr;
+  guint64 Count = 0;
 };
 Pixels Spare;
 constexpr guint64 MaxSpare = guint64{1} << 22;  // 16 MB
 
 Pixels TakePixels(guint64 count) {
-  if (Spare.count >= count && Spare.count / 2 <= count) {
-    return std::exchange(Spare, {});
-  }
+  if (Spare.Count >= count && Spare.Count / 2 <= count) return std::exchange(Spare, {});
   try {
     return {static_cast<guint32*>(TakeBareMemory(count * sizeof(guint32))), count};
   } catch (const std::bad_alloc&) {
@@ -35,10 +33,8 @@ Pixels TakePixels(guint64 count) {
 }
 
 void GivePixels(Pixels pixels) {
-  if (pixels.count > Spare.count && pixels.count <= MaxSpare) {
-    std::swap(pixels, Spare);
-  }
-  GiveBareMemory(pixels.memory);
+  if (pixels.Count > Spare.Count && pixels.Count <= MaxSpare) std::swap(pixels, Spare);
+  GiveBareMemory(pixels.Memory);
 }
 
 }  // namespace
@@ -57,8 +53,8 @@ Drawable::Drawable(gint width, gint height, gint x, gint y)
   const guint64 count = static_cast<guint64>(width_) * static_cast<guint64>(height_);
   if (count <= MaxPixels) {
     const Pixels pixels = TakePixels(count);
-    pixels_ = pixels.memory;
-    capacity_ = pixels.count;
+    pixels_ = pixels.Memory;
+    capacity_ = pixels.Count;
   }
   if (pixels_ == nullptr) {
     width_ = height_ = 0;
@@ -85,20 +81,14 @@ Drawable::Drawable(gint width, gint height, DrawnBox* drawn)
     : x_(0), y_(0), width_(width), height_(height), drawn_(drawn) {}
 
 Drawable::~Drawable() {
-  if (cairo_ != nullptr) {
-    cairo_surface_destroy(cairo_);
-  }
-  if (capacity_ != 0) {
-    GivePixels({pixels_, capacity_});
-  }
+  if (cairo_ != nullptr) cairo_surface_destroy(cairo_);
+  if (capacity_ != 0) GivePixels({pixels_, capacity_});
 }
 
 guint32 Drawable::At(gint x, gint y) const {
   const gint64 column = gint64{x} - x_;
   const gint64 row = gint64{y} - y_;
-  if (column < 0 || row < 0 || column >= width_ || row >= height_) {
-    return 0;
-  }
+  if (column < 0 || row < 0 || column >= width_ || row >= height_) return 0;
   return Row(static_cast<gint>(row))[column] & 0xffffff;
 }
 

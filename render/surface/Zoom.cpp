@@ -61,9 +61,7 @@ class ZoomScaler {
       const guint32* row = picture_.Row(static_cast<gint>(y));
       guint32 others = 0;
       for (gint64 x = source.x1; x < source.x2; ++x) others |= row[x] ^ colour;
-      if (others != 0) {
-        return false;
-      }
+      if (others != 0) return false;
     }
     FillBox(target_, cell, colour);
     return true;
@@ -98,21 +96,15 @@ void PixbufRelease::operator()(GdkPixbuf* pixbuf) const {
 }
 
 PixbufPtr PixbufFromSurface(const Drawable& surface) {
-  if (!surface.Valid()) {
-    return nullptr;
-  }
+  if (!surface.Valid()) return nullptr;
   PixbufPtr image = NewImage(surface.Width(), surface.Height());
-  if (image) {
-    CopyToImage(image.get(), surface, {0, 0, surface.Width(), surface.Height()});
-  }
+  if (image) CopyToImage(image.get(), surface, {0, 0, surface.Width(), surface.Height()});
   return image;
 }
 
 void PaintZoomed(Drawable& target, const Drawable& picture, gint width, gint height) {
   const PlaneBox part = PlaneBox{0, 0, width, height}.Clip(BoxOf(target));
-  if (!picture.Valid() || part.Empty()) {
-    return;
-  }
+  if (!picture.Valid() || part.Empty()) return;
   if (width == picture.Width() && height == picture.Height()) {
     CopyPart(target, picture, part);
   } else {

@@ -10,22 +10,16 @@ class Bytes {
  public:
   Bytes& Int(std::int32_t value) {
     const auto bits = static_cast<std::uint32_t>(value);
-    for (int shift = 0; shift < 32; shift += 8) {
-      bytes_ += static_cast<char>(bits >> shift & 0xFF);
-    }
+    for (int shift = 0; shift < 32; shift += 8) bytes_ += static_cast<char>(bits >> shift & 0xFF);
     return *this;
   }
   Bytes& Ints(std::initializer_list<std::int32_t> values) {
-    for (const std::int32_t value : values) {
-      Int(value);
-    }
+    for (const std::int32_t value : values) Int(value);
     return *this;
   }
   // first, first + 1, ... `count` numbers.
   Bytes& Run(std::int32_t first, int count) {
-    for (int i = 0; i < count; ++i) {
-      Int(first + i);
-    }
+    for (int i = 0; i < count; ++i) Int(first + i);
     return *this;
   }
   Bytes& Zeros(std::size_t count) {

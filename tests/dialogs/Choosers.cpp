@@ -10,10 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "support/Text.h"
-#include "window/Widgets.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 
@@ -29,15 +29,19 @@ GtkWidget* ListNo(GtkWidget* dialog, gint number) {
   return FindWidget(
       dialog, [&number](GtkWidget* widget) { return GTK_IS_TREE_VIEW(widget) && number-- == 0; });
 }
+
 GtkWidget* TreeOf(GtkWidget* dialog) {
   return ListNo(dialog, 0);
 }
+
 GtkWidget* FilesOf(GtkWidget* dialog) {
   return ListNo(dialog, 1);
 }
+
 GtkWidget* EntryOf(GtkWidget* dialog) {
   return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });
 }
+
 bool CanChoose(GtkWidget* dialog) {
   return gtk_widget_get_sensitive(FindLabel(dialog, " 選択 ")) != FALSE;
 }
@@ -65,8 +69,9 @@ std::vector<std::string> TextsBelow(GtkWidget* tree, const std::string& parent) 
   if (!gtk_tree_model_get_iter_from_string(model, &above, parent.c_str())) return texts;
   GtkTreeIter row;
   for (gboolean more = gtk_tree_model_iter_children(model, &row, &above); more;
-       more = gtk_tree_model_iter_next(model, &row))
+       more = gtk_tree_model_iter_next(model, &row)) {
     texts.push_back(RowText(model, &row));
+  }
   return texts;
 }
 
@@ -168,8 +173,9 @@ TEST_F(Choosers, TheTreeBeginsAtTheHomeFolder) {
 TEST_F(Choosers, FoldersStandInTheOrderOfTheSystem) {
   for (const gchar* name : {"zeta", "alpha", "mike", "bravo"}) MakeFolder(name);
   std::vector<std::string> order;
-  for (const auto& entry : fs::directory_iterator(Home.Path()))
+  for (const auto& entry : fs::directory_iterator(Home.Path())) {
     order.push_back(entry.path().filename().string());
+  }
   Folder([&order](GtkWidget* dialog) {
     EXPECT_EQ(TextsBelow(TreeOf(dialog), "0"), order);
     CloseByManager(dialog);
@@ -653,9 +659,10 @@ TEST_F(Choosers, AProjectsNameIsAsLongAsItsField) {
 }
 
 TEST_F(Choosers, PicturesAreListedWhole) {
-  for (const gchar* name :
-       {"a.bmp", "b.BMP", "c.jpg", "d.JPG", "e.png", "f.PNG", "g.Png", "h.txt", ".i.png", "k.ptn"})
+  for (const gchar* name : {"a.bmp", "b.BMP", "c.jpg", "d.JPG", "e.png", "f.PNG", "g.Png", "h.txt",
+                            ".i.png", "k.ptn"}) {
     Home.Write(std::string("files/") + name, "x");
+  }
   MakeFolder("files/folder.png");
   EXPECT_EQ(File(2,
                  [](GtkWidget* dialog) {
@@ -697,12 +704,13 @@ TEST_F(Choosers, ProjectsAreListedByName) {
 
 TEST_F(Choosers, OtherKindsListNothing) {
   Home.Write("files/one.ptn", "x");
-  for (const gint type : {-1, 3, 99})
+  for (const gint type : {-1, 3, 99}) {
     File(type, [](GtkWidget* dialog) {
       SelectFolder(dialog, {"files"});
       EXPECT_THAT(RowTexts(FilesOf(dialog)), IsEmpty());
       CloseByManager(dialog);
     });
+  }
 }
 
 TEST_F(Choosers, AnotherFolderForgetsTheFile) {
@@ -727,7 +735,7 @@ TEST_F(Choosers, AnotherFolderForgetsTheFile) {
 TEST_F(Choosers, ASelectedFileThatIsNotConfirmedIsNoAnswer) {
   Home.Write("one/a.png", "x");
   for (const std::function<void(GtkWidget*)>& leave :
-       {PressButton(" 取消 "), std::function<void(GtkWidget*)>(CloseByManager)})
+       {PressButton(" 取消 "), std::function<void(GtkWidget*)>(CloseByManager)}) {
     EXPECT_EQ(File(2,
                    [&leave](GtkWidget* dialog) {
                      SelectFolder(dialog, {"one"});
@@ -735,6 +743,7 @@ TEST_F(Choosers, ASelectedFileThatIsNotConfirmedIsNoAnswer) {
                      leave(dialog);
                    }),
               "");
+  }
 }
 
 TEST_F(Choosers, FilesInTheHomeFolderAreNotOffered) {

@@ -3,11 +3,11 @@
 
 #include <string>
 
-#include "dialogs/Controls.h"
 #include "dialogs/Kit.h"
 #include "dialogs/frame/DialogWindow.h"
 #include "dialogs/kit/Cells.h"
-#include "window/Widgets.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 
@@ -42,8 +42,9 @@ class Composing : public testing::Test {
   }
   // Begins "あ" by its number, as the toolkit's own method takes it while both keys are held.
   void ComposeA() {
-    for (const guint key : {GDK_KEY_U, GDK_KEY_3, GDK_KEY_0, GDK_KEY_4, GDK_KEY_2})
+    for (const guint key : {GDK_KEY_U, GDK_KEY_3, GDK_KEY_0, GDK_KEY_4, GDK_KEY_2}) {
       PressKey(Window, key, Held);
+    }
   }
 
   gchar Field[Limit + 2] = {};

@@ -1,11 +1,12 @@
-#include "dialogs/Controls.h"
+#include "tests/dialogs/Controls.h"
 
 #include <gtest/gtest.h>
+
 #include <algorithm>
 #include <memory>
 
 #include "render/Surface.h"
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 
@@ -27,8 +28,9 @@ GdkWindow* EventWindow(GdkWindow* root, GtkWidget* widget) {
   gpointer owner = nullptr;
   gdk_window_get_user_data(root, &owner);
   if (owner == widget) return root;
-  for (GList* link = gdk_window_peek_children(root); link != nullptr; link = link->next)
+  for (GList* link = gdk_window_peek_children(root); link != nullptr; link = link->next) {
     if (GdkWindow* found = EventWindow(GDK_WINDOW(link->data), widget)) return found;
+  }
   return nullptr;
 }
 
@@ -49,8 +51,9 @@ void SendMouse(GtkWidget* area, GdkEventType type, guint button, guint held, gin
 std::vector<GtkWidget*> ChildrenOf(GtkWidget* grid) {
   std::vector<GtkWidget*> children;
   GList* list = gtk_container_get_children(GTK_CONTAINER(grid));
-  for (GList* link = list; link != nullptr; link = link->next)
+  for (GList* link = list; link != nullptr; link = link->next) {
     children.push_back(GTK_WIDGET(link->data));
+  }
   g_list_free(list);
   // A grid tells its children newest first.
   std::reverse(children.begin(), children.end());
@@ -119,10 +122,12 @@ std::vector<GtkWidget*> ControlsAt(GtkWidget* grid, gint line, gint culm) {
 }
 
 GtkWidget* ControlAt(GtkWidget* grid, gint line, gint culm, GType kind) {
-  for (GtkWidget* child : ControlsAt(grid, line, culm))
-    if (GtkWidget* found =
-            FindWidget(child, [kind](GtkWidget* widget) { return IsKind(widget, kind) != FALSE; }))
+  for (GtkWidget* child : ControlsAt(grid, line, culm)) {
+    if (GtkWidget* found = FindWidget(
+            child, [kind](GtkWidget* widget) { return IsKind(widget, kind) != FALSE; })) {
       return found;
+    }
+  }
   return nullptr;
 }
 
@@ -249,8 +254,9 @@ std::vector<std::string> RowTexts(GtkWidget* list) {
   GtkTreeModel* model = gtk_tree_view_get_model(GTK_TREE_VIEW(list));
   GtkTreeIter row;
   for (gboolean more = gtk_tree_model_get_iter_first(model, &row); more;
-       more = gtk_tree_model_iter_next(model, &row))
+       more = gtk_tree_model_iter_next(model, &row)) {
     texts.push_back(RowText(model, &row));
+  }
   return texts;
 }
 

@@ -3,10 +3,10 @@
 
 #include <functional>
 
-#include "dialogs/Controls.h"
 #include "layout/CopyDialogs.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 

@@ -8,12 +8,12 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -99,6 +99,7 @@ void UseMarkPicker(GtkWidget* settings) {
 bool ColourIsOrange() {
   return ColrData[37].red == Orange.red;
 }
+
 bool MarkIsSet() {
   return MarkData[7].mark[0] == 1;
 }

@@ -4,10 +4,10 @@
 #include <cstring>
 #include <string>
 
-#include "dialogs/Controls.h"
-#include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
 #include "dialogs/kit/Cells.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/GridWindow.h"
 
 namespace {
 

@@ -1,14 +1,15 @@
-#include "dialogs/Fields.h"
+#include "tests/dialogs/Fields.h"
 
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
 #include <cstring>
 
-#include "dialogs/Controls.h"
-#include "window/Widgets.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 GType TypeOf(FieldKind kind) {
   switch (kind) {
     case FieldKind::Number:
@@ -62,29 +63,36 @@ std::vector<char> Expected(const Field& field, const void* record, gsize size) {
   const auto at = [&](const void* place) {
     return bytes.data() + (static_cast<const char*>(place) - begin);
   };
-  if (field.Kind == FieldKind::Text)
+  if (field.Kind == FieldKind::Text) {
     g_strlcpy(at(field.Text), StoredText, std::strlen(StoredText) + 1);
-  else
+  } else {
     std::memcpy(at(field.Bound), &field.Value, sizeof field.Value);
+  }
   return bytes;
 }
+
 }  // namespace
 
 Field NumberField(gint line, gint column, gint* bound, gint value) {
   return {FieldKind::Number, line, column, bound, value};
 }
+
 Field CheckField(gint line, gint column, gint* bound) {
   return {FieldKind::Check, line, column, bound, 1};
 }
+
 Field RadioField(gint line, gint column, gint* bound, gint value) {
   return {FieldKind::Radio, line, column, bound, value};
 }
+
 Field ChoiceField(gint line, gint column, gint* bound, gint value) {
   return {FieldKind::Choice, line, column, bound, value};
 }
+
 Field ColourField(gint line, gint column, gint* bound, gint value) {
   return {FieldKind::Colour, line, column, bound, value};
 }
+
 Field TextField(gint line, gint column, gchar* text) {
   return {FieldKind::Text, line, column, nullptr, 0, text};
 }

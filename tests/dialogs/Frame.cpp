@@ -3,11 +3,11 @@
 
 #include <functional>
 
-#include "dialogs/Controls.h"
 #include "dialogs/Kit.h"
 #include "dialogs/frame/TableDialog.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 

@@ -5,12 +5,12 @@
 
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 

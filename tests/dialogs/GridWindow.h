@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 class GridWindow {
  public:

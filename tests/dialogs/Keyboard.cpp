@@ -9,16 +9,16 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "dialogs/kit/RecentColours.h"
 #include "layout/Screen.h"
-#include "window/LowScreen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/LowScreen.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -259,7 +259,7 @@ TEST_F(Keyboard, TheSettingsOfALayoutBeginAtItsTitle) {
 // TOP stands beside the point, above all that makes the item.
 TEST_F(Keyboard, APanelBeginsAtTheFirstFieldAfterTop) {
   constexpr gint FirstLines[] = {2, 2, 2, 2, 2, 1, 1, 1, 2, 1, 1, 2, 2, 2, 2};
-  for (gint language = 0; language < 3; language++)
+  for (gint language = 0; language < 3; language++) {
     for (gint type = 1; type <= 15; type++) {
       SCOPED_TRACE(testing::Message() << "type " << type << ", language " << language);
       Language = language;
@@ -272,6 +272,7 @@ TEST_F(Keyboard, APanelBeginsAtTheFirstFieldAfterTop) {
       EXPECT_EQ(place.Line, FirstLines[type - 1]);
       EXPECT_EQ(place.Culm1, 1);
     }
+  }
 }
 
 TEST_F(Keyboard, F6GoesToThePanelsFirstField) {

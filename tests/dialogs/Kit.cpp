@@ -3,14 +3,15 @@
 
 #include <gtest/gtest.h>
 
-#include "dialogs/Controls.h"
-#include "dialogs/GridWindow.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/GridWindow.h"
 
 namespace {
 
 void SetActive(GtkWidget* button, bool active) {
   gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(button), active);
 }
+
 bool IsActive(GtkWidget* button) {
   return gtk_toggle_button_get_active(GTK_TOGGLE_BUTTON(button)) != FALSE;
 }

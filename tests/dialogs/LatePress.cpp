@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "app/Menus.h"
-#include "dialogs/Controls.h"
 #include "dialogs/frame/DialogWindow.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 class LatePress : public WindowTest {
  protected:

@@ -8,12 +8,12 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/Bytes.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/Bytes.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -32,12 +32,15 @@ constexpr const gchar* OtherTitle = "レイアウト情報の設定［その他�
 GtkWidget* ListOf(GtkWidget* dialog) {
   return FindKind(dialog, GTK_TYPE_TREE_VIEW);
 }
+
 GtkWidget* EntryOf(GtkWidget* dialog) {
   return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });
 }
+
 bool IsSensitive(GtkWidget* dialog, const gchar* label) {
   return gtk_widget_get_sensitive(FindLabel(dialog, label)) != FALSE;
 }
+
 // A header with this number of incomplete items.
 std::string Header(gint incomplete) {
   return Bytes().Zeros(466 - 4).Int(incomplete).Str();
@@ -48,8 +51,9 @@ std::function<void(GtkWidget*)> Closing(const std::function<void(GtkWidget*)>& a
   return [act](GtkWidget* dialog) {
     act(dialog);
     for (const gchar* title :
-         {OpenTitle, UndefinedTitle, CloseTitle, ParentTitle, ChildTitle, OtherTitle})
+         {OpenTitle, UndefinedTitle, CloseTitle, ParentTitle, ChildTitle, OtherTitle}) {
       if (FindWindow(title) == dialog) CloseByManager(dialog);
+    }
   };
 }
 

@@ -7,14 +7,15 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
-#include "dialogs/Fields.h"
 #include "layout/LayoutCommands.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/Fields.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 constexpr const gchar* ParentTitle = "レイアウト情報の設定［親ウィンドウ］";
 constexpr const gchar* ChildTitle = "レイアウト情報の設定［子ウィンドウ］";
 constexpr const gchar* OtherTitle = "レイアウト情報の設定［その他］";
@@ -22,6 +23,7 @@ constexpr const gchar* OtherTitle = "レイアウト情報の設定［その他�
 gint* Parm1(gint no) {
   return EditHedr.Parm1 + no;
 }
+
 gint* Parm2(gint no) {
   return EditHedr.Parm2 + no;
 }
@@ -77,6 +79,7 @@ constexpr Page Pages[] = {
     {0, ParentTitle, ParentFields}, {1, ChildTitle, ChildFields}, {2, OtherTitle, OtherFields}};
 
 const std::function<void(GtkWidget*)> Leavings[] = {PressButton(" 取消 "), CloseByManager};
+
 }  // namespace
 
 class LayoutFields : public WindowTest {
@@ -126,15 +129,17 @@ TEST_F(LayoutFields, EachControlWritesItsFieldAlone) {
 }
 
 TEST_F(LayoutFields, NothingElseCanBeEdited) {
-  for (const Page& page : Pages)
+  for (const Page& page : Pages) {
     Edit(page, [&page](GtkWidget* dialog) {
       gint editable = 0;
-      for (const Field& field : page.Fields())
+      for (const Field& field : page.Fields()) {
         if (!(field.Kind == FieldKind::Radio && field.Value == 0)) editable++;
+      }
       // A group of radio buttons has one for the value 0.
       gint zeros = 0;
-      for (const Field& field : page.Fields())
+      for (const Field& field : page.Fields()) {
         if (field.Kind == FieldKind::Radio && field.Value == 0) zeros++;
+      }
       // The child's "中央" shares its field with the title position.
       const gint shared = page.Kind == 1 ? 1 : 0;
       EXPECT_EQ(CountOf(dialog, GTK_TYPE_ENTRY) + CountOf(dialog, GTK_TYPE_CHECK_BUTTON) +
@@ -142,6 +147,7 @@ TEST_F(LayoutFields, NothingElseCanBeEdited) {
                 editable + zeros + shared)
           << page.Title;
     });
+  }
 }
 
 TEST_F(LayoutFields, SetKeepsTheChanges) {
@@ -160,7 +166,7 @@ TEST_F(LayoutFields, SetKeepsTheChanges) {
 }
 
 TEST_F(LayoutFields, CancelAndCloseRestoreTheLayout) {
-  for (const Page& page : Pages)
+  for (const Page& page : Pages) {
     for (const auto& leave : Leavings) {
       PtrnHedr.Parm1[0] = page.Kind;
       const PTRNHEDR before = PtrnHedr;
@@ -172,6 +178,7 @@ TEST_F(LayoutFields, CancelAndCloseRestoreTheLayout) {
       EXPECT_EQ(PtrnFlag, 1);
       EXPECT_STREQ(PtrnName, "one");
     }
+  }
 }
 
 TEST_F(LayoutFields, TheTwoControlsOfTheTitlePositionShareTheirField) {
@@ -231,7 +238,7 @@ TEST_F(LayoutFields, BrowsingCopiesThePictureAndNamesIt) {
   g_setenv("HOME", folder.Path().c_str(), TRUE);
   SetBmapPath();
   CreateFolder(BmapPath);
-  for (const gint kind : {0, 1})
+  for (const gint kind : {0, 1}) {
     Edit(Pages[kind], [kind](GtkWidget* dialog) {
       {
         const DialogAnswer answer("画像ファイル選択", ChooseFirstFile);
@@ -241,6 +248,7 @@ TEST_F(LayoutFields, BrowsingCopiesThePictureAndNamesIt) {
       EXPECT_EQ(EntryText(ControlAt(FindGrid(dialog), kind == 0 ? 7 : 9, 1, GTK_TYPE_ENTRY)),
                 "sea.png");
     });
+  }
   EXPECT_EQ(Project.Read("Bitmap/sea.png"), "picture");
   g_setenv("HOME", home.c_str(), TRUE);
 }

@@ -9,15 +9,15 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
 #include "render/Surface.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -44,10 +44,13 @@ GtkWidget* EnlargedOf(GtkWidget* editor, gint width, gint height) {
 // The set pixels of a mark as "x,y x,y", row by row.
 std::string PixelsOf(gint number, const MARKDATA& mark) {
   std::string pixels;
-  for (gint y = 0; y < MarkDataSize[number / 50].cy; y++)
-    for (gint x = 0; x < MarkDataSize[number / 50].cx; x++)
-      if (MarkDataGet(number, &mark, x, y) != 0)
+  for (gint y = 0; y < MarkDataSize[number / 50].cy; y++) {
+    for (gint x = 0; x < MarkDataSize[number / 50].cx; x++) {
+      if (MarkDataGet(number, &mark, x, y) != 0) {
         pixels += (pixels.empty() ? "" : " ") + std::to_string(x) + "," + std::to_string(y);
+      }
+    }
+  }
   return pixels;
 }
 
@@ -456,8 +459,9 @@ TEST_F(Marks, TheActualSizeKeepsInStep) {
 
 // An item of mark 7, all of it set and then all but nothing.
 TEST_F(Marks, TheOpenLayoutShowsNewMarksAtOnce) {
-  for (gint y = 0; y < 32; y++)
+  for (gint y = 0; y < 32; y++) {
     for (gint x = 0; x < 16; x++) MarkDataSet(7, &MarkData[7], x, y, 1);
+  }
   SaveMarkFile();
   ShowLayout(320, 240, 2);
   PTRNDATA item{};

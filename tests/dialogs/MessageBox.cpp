@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "dialogs/Controls.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 
@@ -22,11 +22,12 @@ gint Ask(gint set, std::function<void(GtkWidget*)> act, const gchar* second = "ä
 }
 
 void Collect(GtkWidget* widget, gpointer labels) {
-  if (GTK_IS_BUTTON(widget))
+  if (GTK_IS_BUTTON(widget)) {
     static_cast<std::vector<std::string>*>(labels)->emplace_back(
         gtk_button_get_label(GTK_BUTTON(widget)));
-  else if (GTK_IS_CONTAINER(widget))
+  } else if (GTK_IS_CONTAINER(widget)) {
     gtk_container_foreach(GTK_CONTAINER(widget), Collect, labels);
+  }
 }
 
 std::vector<std::string> ButtonsOf(gint set) {

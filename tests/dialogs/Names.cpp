@@ -11,16 +11,16 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
 #include "dialogs/Choosers.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "layout/CopyDialogs.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -51,9 +51,11 @@ std::string NameOf(AtkObject* object) {
 
 void VisitTree(AtkObject* object, const std::function<void(AtkObject*)>& visit) {
   visit(object);
-  for (gint i = 0; i < atk_object_get_n_accessible_children(object); i++)
-    if (const AtkPtr child{atk_object_ref_accessible_child(object, i)})
+  for (gint i = 0; i < atk_object_get_n_accessible_children(object); i++) {
+    if (const AtkPtr child{atk_object_ref_accessible_child(object, i)}) {
       VisitTree(child.get(), visit);
+    }
+  }
 }
 
 // Names of what can be used below a widget, with the role of each that has none.
@@ -71,8 +73,9 @@ std::vector<std::string> NamesIn(GtkWidget* root) {
 
 std::vector<std::string> NamelessIn(GtkWidget* root) {
   std::vector<std::string> nameless;
-  for (const std::string& name : NamesIn(root))
+  for (const std::string& name : NamesIn(root)) {
     if (name.rfind("nameless ", 0) == 0) nameless.push_back(name);
+  }
   return nameless;
 }
 
@@ -101,13 +104,16 @@ std::set<GtkWidget*> TabStops(GtkWidget* window) {
 bool StopsAtGroup(GtkWidget* widget, const std::set<GtkWidget*>& stops) {
   if (GTK_IS_RADIO_BUTTON(widget)) {
     for (GSList* link = gtk_radio_button_get_group(GTK_RADIO_BUTTON(widget)); link != nullptr;
-         link = link->next)
+         link = link->next) {
       if (stops.count(GTK_WIDGET(link->data)) != 0) return true;
+    }
   }
-  for (GtkWidget* stop : stops)
+  for (GtkWidget* stop : stops) {
     if (stop != nullptr && GTK_IS_DRAWING_AREA(stop) && GTK_IS_DRAWING_AREA(widget) &&
-        gtk_widget_get_parent(stop) == gtk_widget_get_parent(widget))
+        gtk_widget_get_parent(stop) == gtk_widget_get_parent(widget)) {
       return true;
+    }
+  }
   return false;
 }
 
@@ -115,9 +121,10 @@ std::vector<std::string> UnreachedIn(GtkWidget* window) {
   const std::set<GtkWidget*> stops = TabStops(window);
   std::vector<std::string> unreached;
   FindWidget(window, [&](GtkWidget* widget) {
-    if (IsReachable(widget) && stops.count(widget) == 0 && !StopsAtGroup(widget, stops))
+    if (IsReachable(widget) && stops.count(widget) == 0 && !StopsAtGroup(widget, stops)) {
       unreached.push_back(std::string(G_OBJECT_TYPE_NAME(widget)) + " " +
                           NameOf(gtk_widget_get_accessible(widget)));
+    }
     return false;
   });
   return unreached;
@@ -155,10 +162,11 @@ class Names : public WindowTest {
     const DialogAnswer answer(title, [title](GtkWidget* dialog) {
       SCOPED_TRACE(title);
       ExpectUsable(dialog);
-      if (GTK_IS_DIALOG(dialog))
+      if (GTK_IS_DIALOG(dialog)) {
         gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_CANCEL);
-      else
+      } else {
         CloseByManager(dialog);
+      }
     });
     open();
   }
@@ -167,7 +175,7 @@ class Names : public WindowTest {
 };
 
 TEST_F(Names, EveryToolBoxPage) {
-  for (gint type = 1; type <= 15; type++)
+  for (gint type = 1; type <= 15; type++) {
     for (const gint more : {0, 1}) {
       ProjData.Parm1[1] = Language = 2 * more;
       ProjData.Parm1[2] = more;
@@ -177,6 +185,7 @@ TEST_F(Names, EveryToolBoxPage) {
       ASSERT_TRUE(WaitFor([] { return gtk_widget_get_mapped(ToolBox) != FALSE; }));
       ExpectUsable(ToolBox);
     }
+  }
 }
 
 TEST_F(Names, ComeFromTheRowAndTheColumn) {

@@ -7,16 +7,16 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
-#include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/GridWindow.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -36,6 +36,7 @@ std::function<void(GtkWidget*)> Choose(COLRDATA colour) {
     gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_OK);
   };
 }
+
 void CancelColour(GtkWidget* dialog) {
   gtk_dialog_response(GTK_DIALOG(dialog), GTK_RESPONSE_CANCEL);
 }
@@ -193,7 +194,7 @@ TEST_F(Palette, TheParentIsTheMainWindowUnlessAnotherIsMeant) {
 
 TEST_F(Palette, ChannelsComeBackAsTheyWentIn) {
   constexpr gint Channels[] = {0, 1, 257, 32767, 32768, 43690, 65534, 65535};
-  for (const gint red : Channels)
+  for (const gint red : Channels) {
     for (const gint other : {Channels[1], Channels[3], red}) {
       COLRBOX box = {nullptr, {red, other, 65535 - red}};
       const DialogAnswer answer(ColourTitle, [](GtkWidget* dialog) {
@@ -204,6 +205,7 @@ TEST_F(Palette, ChannelsComeBackAsTheyWentIn) {
       EXPECT_EQ(box.colr.green, other);
       EXPECT_EQ(box.colr.blue, 65535 - red);
     }
+  }
 }
 
 TEST_F(Palette, AChosenColourIsCutNotRounded) {

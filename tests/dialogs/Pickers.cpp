@@ -9,12 +9,12 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/Bytes.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "dialogs/ToolBox.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/Bytes.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -180,7 +180,7 @@ TEST_F(Pickers, StringsComeFromTheListOfTheFirstLanguage) {
     gint Type;
     gint Line;
   } pages[] = {{6, 1}, {9, 2}, {10, 1}, {11, 1}};
-  for (const auto& page : pages)
+  for (const auto& page : pages) {
     for (gint language = 0; language < 3; language++) {
       SCOPED_TRACE(testing::Message() << "type " << page.Type << ", language " << language);
       PtrnData = {};
@@ -195,6 +195,7 @@ TEST_F(Pickers, StringsComeFromTheListOfTheFirstLanguage) {
       EXPECT_STREQ(PtrnData.Text1, "\xC6\xFC\xCB\xDC");
       EXPECT_EQ(EntryText(EntryAt(page.Line)), "日本");
     }
+  }
 }
 
 TEST_F(Pickers, EachLanguageHasItsList) {

@@ -9,11 +9,11 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -28,6 +28,7 @@ constexpr const gchar* ErrorTitle = "入力エラー";
 GtkWidget* ListOf(GtkWidget* dialog) {
   return FindKind(dialog, GTK_TYPE_TREE_VIEW);
 }
+
 GtkWidget* EntryOf(GtkWidget* dialog) {
   return FindWidget(dialog, [](GtkWidget* widget) { return GTK_IS_ENTRY(widget) != FALSE; });
 }
@@ -36,8 +37,9 @@ GtkWidget* EntryOf(GtkWidget* dialog) {
 std::function<void(GtkWidget*)> Closing(const std::function<void(GtkWidget*)>& act) {
   return [act](GtkWidget* dialog) {
     act(dialog);
-    for (const gchar* title : {OpenTitle, SettingsTitle})
+    for (const gchar* title : {OpenTitle, SettingsTitle}) {
       if (FindWindow(title) == dialog) CloseByManager(dialog);
+    }
   };
 }
 
@@ -132,8 +134,9 @@ TEST_F(ProjectDialogs, AnotherProjectWhereAFolderWasCutIsNotOpened) {
   const std::string name = "works";
   std::filesystem::create_directory(other);
   std::filesystem::create_directory(other + "f");
-  for (const std::string& folder : {other, other + "f"})
+  for (const std::string& folder : {other, other + "f"}) {
     std::ofstream(folder + "/" + name + ".prj") << "x";
+  }
   WriteProfile("[PROJNAME]\nPROJNAME1=works," + other + "f\nPROJNAME2=works," + other + "\n");
   EXPECT_EQ(Open([&](GtkWidget* dialog) {
               EXPECT_THAT(RowTexts(ListOf(dialog)), ElementsAre("works", "works"));
@@ -158,8 +161,9 @@ TEST_F(ProjectDialogs, OpenWithoutKnownProjectsIsEmpty) {
 TEST_F(ProjectDialogs, SettingsHaveFourPages) {
   EXPECT_EQ(Settings([](GtkWidget* dialog) {
               EXPECT_EQ(gtk_grab_get_current(), nullptr);
-              for (const gchar* tab : {"全般", "親ウィンドウ", "子ウィンドウ", "その他"})
+              for (const gchar* tab : {"全般", "親ウィンドウ", "子ウィンドウ", "その他"}) {
                 EXPECT_NE(FindLabel(dialog, tab), nullptr) << tab;
+              }
               PressButton(" 取消 ")(dialog);
             }),
             0);

@@ -7,14 +7,15 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
-#include "dialogs/Fields.h"
 #include "layout/Screen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/Fields.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 constexpr const gchar* Title = "プロジェクトの新規作成";
 
 enum Page { General, Parent, Child, Other };
@@ -100,6 +101,7 @@ void ChooseFirstFolder(GtkWidget* chooser) {
 }
 
 const std::function<void(GtkWidget*)> Leavings[] = {PressButton(" 取消 "), CloseByManager};
+
 }  // namespace
 
 class ProjectFields : public WindowTest {

@@ -4,14 +4,14 @@
 #include <functional>
 #include <utility>
 
-#include "dialogs/Controls.h"
-#include "dialogs/GridWindow.h"
 #include "dialogs/Kit.h"
 #include "render/LayoutPicture.h"
 #include "render/Palette.h"
 #include "render/Primitives.h"
 #include "render/Surface.h"
 #include "support/Resource.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/GridWindow.h"
 
 namespace {
 
@@ -22,6 +22,7 @@ constexpr const gchar* MarkPicker = "マーク選択";
 GtkWidget* ColourIn(GtkWidget* picker, gint number) {
   return ControlAt(FindGrid(picker), number % 10, number / 10, GTK_TYPE_DRAWING_AREA);
 }
+
 GtkWidget* MarkIn(GtkWidget* picker, gint number) {
   return ControlAt(FindGrid(picker), number / 10, number % 10, GTK_TYPE_DRAWING_AREA);
 }
@@ -31,12 +32,13 @@ gint LowestInk(GtkWidget* area, gint width) {
   FinishFrame(area);
   const PixbufPtr shot(gdk_pixbuf_get_from_window(gtk_widget_get_window(area), 0, 0, width, 20));
   const guint8* pixels = gdk_pixbuf_read_pixels(shot.get());
-  for (gint y = 19; y >= 0; y--)
+  for (gint y = 19; y >= 0; y--) {
     for (gint x = 0; x < width; x++) {
       const guint8* pixel = pixels + y * gdk_pixbuf_get_rowstride(shot.get()) +
                             x * gdk_pixbuf_get_n_channels(shot.get());
       if (pixel[0] == 0 && pixel[1] == 0 && pixel[2] == 0) return y;
     }
+  }
   return -1;
 }
 

@@ -1,7 +1,7 @@
 // What each page of the tool box holds besides the section that all types share, for projects of
 // four colour systems: line/first column-last column, kind, the field it edits, range or code,
 // text.
-#include "dialogs/ToolBoxCells.h"
+#include "tests/dialogs/ToolBoxCells.h"
 
 const std::vector<PageCells>& AllPageCells() {
   static const std::vector<PageCells> pages = {

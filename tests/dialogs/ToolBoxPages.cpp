@@ -13,11 +13,11 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "dialogs/Controls.h"
 #include "dialogs/ToolBox.h"
-#include "dialogs/ToolBoxCells.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/dialogs/ToolBoxCells.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -31,12 +31,14 @@ const std::map<std::string, gsize>& IntFields() {
                                         {"UndfFlag", offsetof(PTRNDATA, UndfFlag)},
                                         {"RegstFlag", offsetof(PTRNDATA, RegstFlag)},
                                         {"CheckFlag", offsetof(PTRNDATA, CheckFlag)}};
-    for (gsize k = 0; k < 30; k++)
+    for (gsize k = 0; k < 30; k++) {
       all["Parm[" + std::to_string(k) + "]"] = offsetof(PTRNDATA, Parm) + k * sizeof(gint);
+    }
     return all;
   }();
   return fields;
 }
+
 const std::map<std::string, gint*> KeyFields = {{"CusrUp", &CusrUp},
                                                 {"CusrDown", &CusrDown},
                                                 {"CusrLeft", &CusrLeft},
@@ -58,8 +60,9 @@ gint IntField(gsize offset) {
 void ClearFields() {
   PtrnData = {};
   const gint untouched = Untouched;
-  for (const auto& [name, offset] : IntFields())
+  for (const auto& [name, offset] : IntFields()) {
     std::memcpy(reinterpret_cast<char*>(&PtrnData) + offset, &untouched, sizeof untouched);
+  }
   for (const auto& [name, key] : KeyFields) *key = Untouched;
 }
 
@@ -69,18 +72,22 @@ std::string ChangedFields() {
   const auto add = [&changed](const std::string& name) {
     changed += changed.empty() ? name : "+" + name;
   };
-  for (const auto& [name, offset] : IntFields())
+  for (const auto& [name, offset] : IntFields()) {
     if (IntField(offset) != Untouched) add(name);
-  for (const auto& [name, key] : KeyFields)
+  }
+  for (const auto& [name, key] : KeyFields) {
     if (*key != Untouched) add(name);
-  for (const auto& [name, text] : TextFields)
+  }
+  for (const auto& [name, text] : TextFields) {
     if (*text != '\0') add(name);
+  }
   return changed;
 }
 
 gint ChangedValue() {
-  for (const auto& [name, offset] : IntFields())
+  for (const auto& [name, offset] : IntFields()) {
     if (IntField(offset) != Untouched) return IntField(offset);
+  }
   return Untouched;
 }
 
@@ -107,10 +114,11 @@ std::string DescribeSwatch(GtkWidget* swatch) {
   gint height = 0;
   gtk_widget_get_size_request(swatch, nullptr, &height);
   const bool mark = height == 36;
-  if (mark)
+  if (mark) {
     PickSeven(swatch, "マーク選択", 0, 7);
-  else
+  } else {
     PickSeven(swatch, "表示色選択", 7, 0);
+  }
   EXPECT_EQ(ChangedValue(), 7);
   return (mark ? "mark " : "colour ") + ChangedFields();
 }
@@ -123,8 +131,9 @@ std::string DescribeEntry(GtkWidget* entry) {
 }
 
 void ActivateAnother(GtkRadioButton* button) {
-  for (GSList* link = gtk_radio_button_get_group(button); link != nullptr; link = link->next)
+  for (GSList* link = gtk_radio_button_get_group(button); link != nullptr; link = link->next) {
     if (link->data != button) gtk_toggle_button_set_active(GTK_TOGGLE_BUTTON(link->data), TRUE);
+  }
 }
 
 // Kind, field and text of a control, found out by using it.
@@ -216,10 +225,11 @@ Lines CommonCells(gint line, bool onePoint, bool registers) {
                  row(registers ? 6 : 5, "/1-3 check CheckFlag 次回からの初期値として保存"),
                  "0/3-3 check Parm[28] TOP"};
   if (registers) cells.push_back(row(5, "/1-3 check RegstFlag 文字列一覧へ登録"));
-  if (onePoint)
+  if (onePoint) {
     cells.push_back("0/0-0 label 位置");
-  else
+  } else {
     cells.insert(cells.end(), {"0/0-0 label 始点", "1/0-0 label 終点"});
+  }
   return cells;
 }
 
@@ -331,8 +341,9 @@ TEST_F(ToolBoxPages, LeaveTheLaterColoursOutWithTwoSystems) {
 TEST_F(ToolBoxPages, TheFrameHasItsWidthsBesideItsTwoColours) {
   const Lines cells = Show(1, 0, 0);
   for (const gchar* cell : {"3/3-3 spin Parm[24] 0..99", "4/3-3 spin Parm[25] 0..99",
-                            "5/3-3 spin Parm[26] 0..99", "6/3-3 spin Parm[27] 0..99"})
+                            "5/3-3 spin Parm[26] 0..99", "6/3-3 spin Parm[27] 0..99"}) {
     EXPECT_THAT(cells, testing::Contains(cell));
+  }
   EXPECT_TRUE(std::none_of(cells.begin(), cells.end(), IsLaterSystem));
 }
 

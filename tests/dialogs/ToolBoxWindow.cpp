@@ -1,6 +1,4 @@
 // The tool box as a window: opening, closing, buttons, read-outs and the place it remembers.
-#include "dialogs/ToolBox.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
@@ -9,11 +7,12 @@
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "app/Menus.h"
-#include "common/TempFolder.h"
-#include "dialogs/Controls.h"
-#include "window/ServerGrab.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "dialogs/ToolBox.h"
+#include "tests/common/TempFolder.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/ServerGrab.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 
@@ -132,8 +131,9 @@ TEST_F(ToolBoxWindow, StandsAboveTheMainWindowAndLeavesItUsable) {
 
 TEST_F(ToolBoxWindow, OnlyRedisplayIsSensitiveAtFirst) {
   ASSERT_TRUE(Opens(3));
-  for (gint code = 0; code < 5; code++)
+  for (gint code = 0; code < 5; code++) {
     EXPECT_EQ(gtk_widget_get_sensitive(ToolBoxButton[code]), code == 4) << code;
+  }
 }
 
 TEST_F(ToolBoxWindow, ButtonsStandInTheirOrder) {
@@ -157,9 +157,10 @@ TEST_F(ToolBoxWindow, BitsMakeButtonsSensitive) {
   ASSERT_TRUE(Opens(3));
   for (gint mode = 0; mode < 32; mode++) {
     SetToolBoxButton(mode);
-    for (gint code = 0; code < 5; code++)
+    for (gint code = 0; code < 5; code++) {
       EXPECT_EQ(gtk_widget_get_sensitive(ToolBoxButton[code]), (mode & 1 << code) != 0)
           << "mode " << mode << ", code " << code;
+    }
   }
 }
 
@@ -222,8 +223,9 @@ TEST_F(ToolBoxWindow, TicksShowWhatIsHeldOnceRegistered) {
   CopyText(item.Text1, "abc");
   TakeInHand(item);
   const auto tick = [](const gchar* label) { return GTK_TOGGLE_BUTTON(FindLabel(ToolBox, label)); };
-  for (const gchar* label : {"文字列一覧へ登録", "次回からの初期値として保存", "後で設定"})
+  for (const gchar* label : {"文字列一覧へ登録", "次回からの初期値として保存", "後で設定"}) {
     gtk_button_clicked(GTK_BUTTON(tick(label)));
+  }
   EXPECT_EQ(gint{PtrnData.RegstFlag}, 1);
   // Refused, it keeps what it holds.
   CopyText(PtrnData.Text1, "");
@@ -420,8 +422,9 @@ TEST_F(ToolBoxWindow, HundredsOfPanelsLeaveNothingBehind) {
     alive++;
     g_object_weak_ref(
         G_OBJECT(ToolBox), [](gpointer, GObject*) { alive--; }, nullptr);
-    if (round % 100 == 0)
+    if (round % 100 == 0) {
       while (gtk_events_pending()) gtk_main_iteration();
+    }
   }
   EXPECT_TRUE(WaitFor([] { return alive == 1; })) << alive << " panels are left";
   EXPECT_EQ(ToplevelCount(), windows);

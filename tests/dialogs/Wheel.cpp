@@ -4,13 +4,13 @@
 #include <functional>
 
 #include "PtrnData.h"
-#include "dialogs/Controls.h"
 #include "dialogs/Editors.h"
 #include "dialogs/Kit.h"
 #include "dialogs/ToolBox.h"
-#include "window/LowScreen.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/dialogs/Controls.h"
+#include "tests/window/LowScreen.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
 

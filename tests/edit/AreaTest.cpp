@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -30,9 +30,7 @@ class AreaTest : public EditFixture {
   }
   static std::vector<std::string> AllPoints() {
     std::vector<std::string> points;
-    for (gint no = 0; no < GetPtrnCount(); ++no) {
-      points.push_back(PointsOf(Stored(no)));
-    }
+    for (gint no = 0; no < GetPtrnCount(); ++no) points.push_back(PointsOf(Stored(no)));
     return points;
   }
 };

@@ -1,4 +1,4 @@
-#include "edit/CheckEntry.h"
+#include "tests/edit/CheckEntry.h"
 
 #include <glib-object.h>
 

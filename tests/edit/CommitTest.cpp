@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
 #include "support/Resource.h"
 #include "support/Text.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -115,9 +115,7 @@ TEST_F(CommitTest, CursorKeysArePackedForInputFields) {
 
 TEST_F(CommitTest, TheDefaultsOfATypeAreWrittenOnRequest) {
   PickStored();
-  for (gint i = 4; i < 30; ++i) {
-    PtrnData.Parm[i] = i;
-  }
+  for (gint i = 4; i < 30; ++i) PtrnData.Parm[i] = i;
   Push(Register);
   EXPECT_FALSE(Folder.Exists("program/VarnixMaster.ini"));
   PtrnData.CheckFlag = 1;

@@ -1,6 +1,7 @@
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 #include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <iterator>

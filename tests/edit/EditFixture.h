@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "common/TempFolder.h"
-#include "edit/RecordingScreen.h"
 #include "layout/Records.h"
+#include "tests/common/TempFolder.h"
+#include "tests/edit/RecordingScreen.h"
 
 class EditFixture : public testing::Test {
  protected:

@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -21,12 +21,8 @@ TEST_F(ItemInHandTest, ANewItemBeginsWithTheDefaultsOfItsType) {
   DispToolBox(0, TypeRectangle);
   EXPECT_EQ(PtrnData.Type, TypeRectangle);
   EXPECT_EQ(PtrnNo, -1);
-  for (gint i = 0; i < 4; ++i) {
-    EXPECT_EQ(PtrnData.Parm[i], 0) << i;
-  }
-  for (gint i = 4; i < 30; ++i) {
-    EXPECT_EQ(PtrnData.Parm[i], 100 + i) << i;
-  }
+  for (gint i = 0; i < 4; ++i) EXPECT_EQ(PtrnData.Parm[i], 0) << i;
+  for (gint i = 4; i < 30; ++i) EXPECT_EQ(PtrnData.Parm[i], 100 + i) << i;
   EXPECT_STREQ(PtrnData.Text1, "");
   EXPECT_STREQ(PtrnData.ID_Code, "");
   EXPECT_EQ(PointsOf(PtrnData), "(0,0)-(0,0)");
@@ -35,9 +31,7 @@ TEST_F(ItemInHandTest, ANewItemBeginsWithTheDefaultsOfItsType) {
 
 TEST_F(ItemInHandTest, WithoutDefaultsANewItemIsAllZeros) {
   DispToolBox(0, TypeSpinButton);
-  for (gint i = 0; i < 30; ++i) {
-    EXPECT_EQ(PtrnData.Parm[i], 0) << i;
-  }
+  for (gint i = 0; i < 30; ++i) EXPECT_EQ(PtrnData.Parm[i], 0) << i;
 }
 
 TEST_F(ItemInHandTest, AnExistingItemTakesItsPointsFromItsParameters) {

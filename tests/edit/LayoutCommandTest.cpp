@@ -4,7 +4,7 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

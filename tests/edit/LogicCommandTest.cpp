@@ -1,10 +1,11 @@
 // The menu command of logic generation.
 #include <gmock/gmock.h>
+
 #include <filesystem>
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

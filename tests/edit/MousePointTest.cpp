@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

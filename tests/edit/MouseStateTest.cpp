@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -171,9 +171,7 @@ TEST_F(MouseStateTest, ADragRepaintsTheOverlayAlone) {
   Select();
   Press(100, 20);
   Screen.Take();
-  for (gint step = 0; step < 20; ++step) {
-    Move(90 - step, 15);
-  }
+  for (gint step = 0; step < 20; ++step) Move(90 - step, 15);
   EXPECT_EQ(Screen.Count("DrawRequest 0"), 20);
   EXPECT_EQ(Screen.Count("DrawRequest 1"), 0);
 }

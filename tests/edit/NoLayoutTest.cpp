@@ -1,12 +1,13 @@
 // Commands of an open layout that are given without one, as menus offer them after a cancelled new
 // layout: each only ends the editing.
 #include <gmock/gmock.h>
+
 #include <cstring>
 
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

@@ -1,12 +1,13 @@
 // New, open and edit project, with the dialogs answered by script.
 #include <gmock/gmock.h>
+
 #include <filesystem>
 
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
 #include "render/Primitives.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -21,14 +22,17 @@ enum SettingsResult { Cancelled = 0, Registered = 1, DefaultsRestored = 2 };
 gint DrawnRed() {
   return DrawColr[7].red;
 }
+
 std::string DrawnMark() {
   return std::string(Mark_XPM[9].data[MarkHeaderLines]).substr(0, 8);
 }
+
 // What the editors of palette and marks do.
 void SaveColour(gint red) {
   ColrData[7] = {red, 80, 90};
   SaveColrFile();
 }
+
 void SaveMark(guint8 byte) {
   MarkData[9].mark[0] = byte;
   SaveMarkFile();

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
 #include "support/Text.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

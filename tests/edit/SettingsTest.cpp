@@ -4,10 +4,10 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
 #include "layout/ItemSlots.h"
 #include "layout/LayoutSettings.h"
 #include "layout/Store.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

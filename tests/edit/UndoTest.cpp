@@ -4,7 +4,7 @@
 
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "edit/EditFixture.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -53,9 +53,7 @@ TEST_F(UndoTest, TheGridDisplayStaysAsItIs) {
 }
 
 TEST_F(UndoTest, ElevenChangesKeepTenSnapshots) {
-  for (gint number = 1; number <= 11; ++number) {
-    Change(number);
-  }
+  for (gint number = 1; number <= 11; ++number) Change(number);
   EXPECT_EQ(PtrnSaveCount, 10);
   EXPECT_EQ(SnapshotCount(), 10);
   for (gint count = 10; count >= 1; --count) {

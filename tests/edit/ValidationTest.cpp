@@ -1,11 +1,12 @@
 // Each rule of each type with the message it shows.
 #include <gmock/gmock.h>
+
 #include <functional>
 
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
 #include "support/Resource.h"
 #include "support/Text.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -59,12 +60,15 @@ std::function<void(PTRNDATA&)> Code(const char* code) {
 void Flat(PTRNDATA& item) {
   item.Point2.y = item.Point1.y;
 }
+
 void Narrow(PTRNDATA& item) {
   item.Point2.x = item.Point1.x;
 }
+
 void Dot(PTRNDATA& item) {
   item.Point2 = item.Point1;
 }
+
 void NoText(PTRNDATA& item) {
   CopyText(item.Text1, "");
 }
@@ -169,6 +173,7 @@ std::function<void(PTRNDATA&)> Both(std::function<void(PTRNDATA&)> one,
     other(item);
   };
 }
+
 void BadItemNumber(PTRNDATA& item) {
   item.ID_No = -1;
 }

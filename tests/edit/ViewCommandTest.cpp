@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "PtrnData.h"
-#include "edit/CheckEntry.h"
-#include "edit/EditFixture.h"
 #include "support/Resource.h"
+#include "tests/edit/CheckEntry.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 

@@ -9,8 +9,8 @@
 
 #include "ProjData.h"
 #include "PtrnData.h"
-#include "edit/EditFixture.h"
 #include "support/Text.h"
+#include "tests/edit/EditFixture.h"
 
 namespace {
 
@@ -126,9 +126,7 @@ TEST_F(WriteFaultTest, ASnapshotThatCouldNotBeWrittenDoesNotCount) {
 }
 
 TEST_F(WriteFaultTest, AFullHistoryLosesOnlyItsOldestSnapshotToAFullDisk) {
-  for (gint i = 0; i < 10; ++i) {
-    Change();
-  }
+  for (gint i = 0; i < 10; ++i) Change();
   {
     const FullDisk full;
     Change();
@@ -147,9 +145,7 @@ TEST_F(WriteFaultTest, AReadOnlyProjectKeepsLayoutAndOldFile) {
   }
   EXPECT_EXIT(
       {
-        if (geteuid() == 0 && setuid(Nobody) != 0) {
-          _exit(2);
-        }
+        if (geteuid() == 0 && setuid(Nobody) != 0) _exit(2);
         Change();
         PtrnDataSave(nullptr, nullptr);
         _exit(GetPtrnCount() == 2 ? 0 : 1);

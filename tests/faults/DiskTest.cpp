@@ -13,9 +13,9 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/Child.h"
-#include "faults/ProjectAtHand.h"
 #include "layout/Registry.h"
+#include "tests/common/Child.h"
+#include "tests/faults/ProjectAtHand.h"
 
 namespace {
 

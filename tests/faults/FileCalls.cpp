@@ -1,4 +1,4 @@
-#include "faults/FileCalls.h"
+#include "tests/faults/FileCalls.h"
 
 #include <dirent.h>
 #include <dlfcn.h>

@@ -1,4 +1,4 @@
-#include "faults/FolderImage.h"
+#include "tests/faults/FolderImage.h"
 
 #include <algorithm>
 #include <filesystem>

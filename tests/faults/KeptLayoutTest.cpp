@@ -1,15 +1,16 @@
 // A save that replaces another layout, or items by none, with each of its file calls going wrong:
 // what stood there is never lost, and the save is done as a whole or not at all.
 #include <gtest/gtest.h>
+
 #include <cerrno>
 #include <filesystem>
 
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "common/Child.h"
-#include "faults/ProjectAtHand.h"
-#include "faults/Sweep.h"
+#include "tests/common/Child.h"
+#include "tests/faults/ProjectAtHand.h"
+#include "tests/faults/Sweep.h"
 
 namespace {
 

@@ -15,8 +15,8 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "faults/ProjectAtHand.h"
-#include "faults/Sweep.h"
+#include "tests/faults/ProjectAtHand.h"
+#include "tests/faults/Sweep.h"
 
 namespace {
 
@@ -69,9 +69,7 @@ class KillTest : public ProjectAtHand {
   // the undo history and the temporary file of the write that was cut off.
   void CheckFiles(const std::map<std::string, std::set<std::string>>& expected) {
     const FolderImage found = WithoutSnapshots(Image());
-    for (const auto& [name, bytes] : Laid) {
-      EXPECT_EQ(found.count(name), 1u) << name << " is gone";
-    }
+    for (const auto& [name, bytes] : Laid) EXPECT_EQ(found.count(name), 1u) << name << " is gone";
     int temporaries = 0;
     for (const auto& [name, bytes] : found) {
       if (IsTemporary(name)) {

@@ -8,8 +8,8 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "faults/ProjectAtHand.h"
 #include "layout/Registry.h"
+#include "tests/faults/ProjectAtHand.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
-#include "faults/ProjectAtHand.h"
+#include "tests/faults/ProjectAtHand.h"
 
 #include <gtest/gtest.h>
+
 #include <filesystem>
 
 #include "ProjData.h"
@@ -113,8 +114,6 @@ std::string MemoryImage() {
   header.Version = header.DataCount = header.TextSize = header.UndfFlag = 0;
   AppendBytes(image, header);
   image.append(PtrnName).append("\n");
-  for (gint no = 0; no < GetPtrnCount(); ++no) {
-    AppendBytes(image, *ViewPtrnData(no));
-  }
+  for (gint no = 0; no < GetPtrnCount(); ++no) AppendBytes(image, *ViewPtrnData(no));
   return image;
 }

@@ -1,9 +1,9 @@
 // A whole project on disk, open in the program, with the layout "Screen" open in it.
 #pragma once
 
-#include "edit/EditFixture.h"
-#include "faults/FileCalls.h"
-#include "faults/FolderImage.h"
+#include "tests/edit/EditFixture.h"
+#include "tests/faults/FileCalls.h"
+#include "tests/faults/FolderImage.h"
 
 class ProjectAtHand : public EditFixture {
  protected:

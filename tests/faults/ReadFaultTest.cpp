@@ -1,11 +1,12 @@
 // What cannot be read must not be lost by the next save.
 #include <gmock/gmock.h>
+
 #include <cerrno>
 
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "faults/ProjectAtHand.h"
+#include "tests/faults/ProjectAtHand.h"
 
 namespace {
 

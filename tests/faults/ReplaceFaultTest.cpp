@@ -11,10 +11,10 @@
 #include <thread>
 
 #include "PtrnMisc.h"
-#include "common/Child.h"
-#include "common/TempFolder.h"
-#include "faults/Sweep.h"
 #include "support/FileTools.h"
+#include "tests/common/Child.h"
+#include "tests/common/TempFolder.h"
+#include "tests/faults/Sweep.h"
 
 namespace {
 

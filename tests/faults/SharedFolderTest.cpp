@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "ProjData.h"
-#include "common/Child.h"
-#include "common/TempFolder.h"
-#include "faults/FileCalls.h"
-#include "faults/FolderImage.h"
-#include "faults/ProjectAtHand.h"
 #include "layout/LayoutCommands.h"
 #include "support/FileTools.h"
+#include "tests/common/Child.h"
+#include "tests/common/TempFolder.h"
+#include "tests/faults/FileCalls.h"
+#include "tests/faults/FolderImage.h"
+#include "tests/faults/ProjectAtHand.h"
 
 namespace {
 
@@ -146,8 +146,9 @@ class ProtectedSource : public ProjectAtHand {
     PtrnDataExit();
     Folder.Write("source/Plant.cpp", Unregistered);
     chmod(Source.c_str(), 0444);
-    for (const std::string& folder : {Folder.Path(), ProjectFolder, SourceFolder})
+    for (const std::string& folder : {Folder.Path(), ProjectFolder, SourceFolder}) {
       chmod(folder.c_str(), 0777);
+    }
   }
   bool GenerateAsPlainUser() const {
     return HoldsForPlainUser([] {

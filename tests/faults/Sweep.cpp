@@ -1,4 +1,4 @@
-#include "faults/Sweep.h"
+#include "tests/faults/Sweep.h"
 
 #include <gtest/gtest.h>
 

@@ -7,8 +7,8 @@
 #include <set>
 #include <string>
 
-#include "faults/FileCalls.h"
-#include "faults/FolderImage.h"
+#include "tests/faults/FileCalls.h"
+#include "tests/faults/FolderImage.h"
 
 // What is swept.
 struct SweptWriter {

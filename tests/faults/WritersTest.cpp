@@ -7,10 +7,10 @@
 #include "PtrnData.h"
 #include "PtrnDraw.h"
 #include "PtrnMisc.h"
-#include "faults/ProjectAtHand.h"
-#include "faults/Sweep.h"
 #include "layout/Registry.h"
 #include "support/FileTools.h"
+#include "tests/faults/ProjectAtHand.h"
+#include "tests/faults/Sweep.h"
 
 namespace {
 

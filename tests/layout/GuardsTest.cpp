@@ -1,7 +1,6 @@
-#include "layout/Guards.h"
-
 #include <gtest/gtest.h>
 
+#include "layout/Guards.h"
 #include "support/Resource.h"
 
 namespace {

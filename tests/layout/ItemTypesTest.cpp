@@ -17,8 +17,9 @@ namespace {
 // What is asked of a row, by the names of those of which it is true.
 std::vector<std::string> Named(bool (*asked)(const ItemTypeRow& row)) {
   std::vector<std::string> names;
-  for (const ItemTypeRow& row : ItemTypes())
+  for (const ItemTypeRow& row : ItemTypes()) {
     if (asked(row)) names.emplace_back(row.Name);
+  }
   return names;
 }
 
@@ -89,17 +90,19 @@ std::string ParameterAt(gint type, gint slot) {
 TEST(ItemTypes, RowsNameParametersOfTheirType) {
   for (const ItemTypeRow& row : ItemTypes()) {
     for (const gint slot : {row.Font, row.FrontColour, row.BackColour, row.BackSwitch,
-                            row.CoverSwitch, row.CoverColour})
+                            row.CoverSwitch, row.CoverColour}) {
       EXPECT_TRUE(slot == NoSlot || !ParameterAt(row.Type, slot).empty()) << row.Name << slot;
+    }
     EXPECT_EQ(row.FrontColour == NoSlot, row.BackColour == NoSlot) << row.Name;
     EXPECT_EQ(row.Font != NoSlot, ParameterAt(row.Type, TextSlot::Font) == "Font") << row.Name;
   }
 }
 
 TEST(ItemTypes, CursorKeysAreAParameterOfThoseThatHaveThem) {
-  for (const ItemTypeRow& row : ItemTypes())
+  for (const ItemTypeRow& row : ItemTypes()) {
     EXPECT_EQ(row.HasCursorKeys, ParameterAt(row.Type, TextSlot::CursorKeys) == "CursorKeys")
         << row.Name;
+  }
 }
 
 TEST(ItemTypes, WordsHaveTheirLengthAndFont) {

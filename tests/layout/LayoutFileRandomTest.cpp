@@ -1,5 +1,6 @@
 // Any layout that the program writes comes back as it was.
 #include <gtest/gtest.h>
+
 #include <random>
 
 #include "tests/layout/LayoutFixture.h"

@@ -1,5 +1,6 @@
 // The texts of a layout file, wherever they end, against a reading byte by byte.
 #include <gtest/gtest.h>
+
 #include <algorithm>
 #include <random>
 

@@ -1,11 +1,10 @@
 // Layouts as values: several at once, beside the open one.
-#include "layout/LayoutFile.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 
 #include "layout/ItemSlots.h"
+#include "layout/LayoutFile.h"
 #include "tests/layout/LayoutFixture.h"
 
 namespace {
@@ -82,9 +81,7 @@ TEST_F(LayoutValueTest, EmptyItemsAreAllZeros) {
   items.reserve(103);
   PTRNDATA* first = AddEmptyItems(items, 100);
   const PTRNDATA empty{};
-  for (gint i = 0; i < 100; ++i) {
-    ASSERT_EQ(std::memcmp(first + i, &empty, sizeof empty), 0) << i;
-  }
+  for (gint i = 0; i < 100; ++i) ASSERT_EQ(std::memcmp(first + i, &empty, sizeof empty), 0) << i;
   EXPECT_EQ(items.size(), 103u);
   EXPECT_EQ(+items[2].Type, 7);
   first[99].ID_No = 77;

@@ -1,6 +1,4 @@
 // The parameter tables against the slot constants, and what is looked up in them.
-#include "layout/Parameters.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -10,6 +8,7 @@
 
 #include "Constant.h"
 #include "layout/ItemSlots.h"
+#include "layout/Parameters.h"
 #include "tests/layout/SlotConstants.h"
 
 using testing::IsEmpty;
@@ -41,8 +40,9 @@ std::set<std::pair<std::string, gint>> NamesOf(std::span<const Parameter> parame
 
 std::vector<std::span<const Parameter>> AllTables() {
   std::vector<std::span<const Parameter>> tables = {HeaderParameters(), ViewParameters()};
-  for (gint type = TypeFrame; type <= TypeSpinButton; ++type)
+  for (gint type = TypeFrame; type <= TypeSpinButton; ++type) {
     tables.push_back(ItemParameters(type));
+  }
   return tables;
 }
 
@@ -62,8 +62,9 @@ TEST(ParametersTest, SlotsOfATableLieInOrderWithoutOverlap) {
 TEST(ParametersTest, NamesOfATableDiffer) {
   for (const auto& table : AllTables()) {
     std::set<std::string> names;
-    for (const Parameter& parameter : table)
+    for (const Parameter& parameter : table) {
       EXPECT_TRUE(names.insert(parameter.Name).second) << parameter.Name;
+    }
   }
 }
 
@@ -89,12 +90,13 @@ TEST(ParametersTest, EveryConstantHasARowAndEveryRowAConstant) {
 }
 
 TEST(ParametersTest, EveryParameterButCoordinatesHasALabel) {
-  for (const auto& table : AllTables())
+  for (const auto& table : AllTables()) {
     for (const Parameter& parameter : table) {
       const std::string name = parameter.Name;
       const bool place = name == "X1" || name == "Y1" || name == "X2" || name == "Y2";
       EXPECT_EQ(parameter.Label == nullptr, place) << name;
     }
+  }
 }
 
 TEST(ParametersTest, TypesPlacedByOnePointHaveNoSecond) {
@@ -105,7 +107,7 @@ TEST(ParametersTest, TypesPlacedByOnePointHaveNoSecond) {
 }
 
 TEST(ParametersTest, ListedValuesFillTheirRange) {
-  for (const auto& table : AllTables())
+  for (const auto& table : AllTables()) {
     for (const Parameter& parameter : table) {
       const ValueRange& range = parameter.Range;
       EXPECT_EQ(range.Values != nullptr, range.Kind == Unit::Choice) << parameter.Name;
@@ -115,11 +117,13 @@ TEST(ParametersTest, ListedValuesFillTheirRange) {
       while (range.Values[count][0] != '\0') ++count;
       EXPECT_EQ(range.Most, count - 1) << parameter.Name;
     }
+  }
 }
 
 TEST(ParametersTest, FoundByAnyOfItsSlots) {
-  for (gint slot = 4; slot < 8; ++slot)
+  for (gint slot = 4; slot < 8; ++slot) {
     EXPECT_STREQ(FindParameter(TypeLine, slot)->Name, "Colour") << slot;
+  }
   EXPECT_STREQ(FindParameter(TypeLine, 15)->Label, "線幅");
   EXPECT_EQ(FindParameter(TypeLine, 8), nullptr);
   EXPECT_STREQ(FindParameter(TypeButton, 8)->Name, "TextColour");

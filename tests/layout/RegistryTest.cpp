@@ -1,11 +1,10 @@
-#include "layout/Registry.h"
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <cstring>
 
 #include "ProjData.h"
+#include "layout/Registry.h"
 #include "tests/common/Bytes.h"
 #include "tests/common/Child.h"
 #include "tests/common/TempFolder.h"

@@ -22,8 +22,9 @@ inline SlotConstants WrittenConstants(const std::string& header) {
   SlotConstants constants;
   for (std::sregex_iterator at(source.begin(), source.end(), group), end; at != end; ++at) {
     const std::string body = (*at)[2];
-    for (std::sregex_iterator one(body.begin(), body.end(), constant); one != end; ++one)
+    for (std::sregex_iterator one(body.begin(), body.end(), constant); one != end; ++one) {
       constants[(*at)[1]][(*one)[1]] = std::stoi((*one)[2]);
+    }
   }
   return constants;
 }

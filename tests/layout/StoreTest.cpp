@@ -1,6 +1,6 @@
-#include "layout/Store.h"
-
 #include <gtest/gtest.h>
+
+#include "layout/Store.h"
 
 namespace {
 

@@ -36,42 +36,52 @@ struct Case {
 std::function<void(PTRNDATA&)> Set(gint slot, gint value) {
   return [=](PTRNDATA& item) { item.Parm[slot] = value; };
 }
+
 std::function<void(PTRNDATA&)> Set(gint slot1, gint value1, gint slot2, gint value2) {
   return [=](PTRNDATA& item) {
     item.Parm[slot1] = value1;
     item.Parm[slot2] = value2;
   };
 }
+
 void SameX(PTRNDATA& item) {
   item.Point2.x = item.Point1.x;
 }
+
 void SameY(PTRNDATA& item) {
   item.Point2.y = item.Point1.y;
 }
+
 void SamePoint(PTRNDATA& item) {
   item.Point2 = item.Point1;
 }
+
 void NoText(PTRNDATA& item) {
   item.Text1[0] = '\0';
 }
+
 void NoCode(PTRNDATA& item) {
   item.ID_Code[0] = '\0';
 }
+
 std::function<void(PTRNDATA&)> Code(const char* code) {
   return [=](PTRNDATA& item) { std::strcpy(item.ID_Code, code); };
 }
+
 std::function<void(PTRNDATA&)> TypeWithoutCode(gint idType) {
   return [=](PTRNDATA& item) {
     NoCode(item);
     item.ID_Type = idType;
   };
 }
+
 std::function<void(PTRNDATA&)> TypeWithName(gint idType, const char* name) {
   return [=](PTRNDATA& item) {
     std::strcpy(item.ID_Name, name);
     item.ID_Type = idType;
   };
 }
+
 void NegativeNumber(PTRNDATA& item) {
   item.ID_No = -1;
 }

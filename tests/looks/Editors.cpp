@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "PtrnData.h"
-#include "looks/Looks.h"
+#include "tests/looks/Looks.h"
 
 namespace {
+
 class Editors : public LooksTest {};
 
 // The swatch of a number in a dialog of ten columns or rows.
@@ -65,4 +66,5 @@ TEST_F(Editors, Pickers) {
     ShowAndLeave("mark-picker", "マーク選択");
   });
 }
+
 }  // namespace

@@ -3,10 +3,11 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "looks/Looks.h"
 #include "support/Resource.h"
+#include "tests/looks/Looks.h"
 
 namespace {
+
 class LayoutDialogs : public LooksTest {
  protected:
   // The settings of a new layout of each kind.
@@ -87,4 +88,5 @@ TEST_F(LayoutDialogs, CopyAndMove) {
     ShowAndLeave("move", "描画情報移動");
   });
 }
+
 }  // namespace

@@ -1,6 +1,7 @@
-#include "looks/Looks.h"
+#include "tests/looks/Looks.h"
 
 #include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -9,11 +10,12 @@
 #include "PtrnMisc.h"
 #include "app/Window.h"
 #include "dialogs/ToolBox.h"
-#include "looks/Rules.h"
 #include "support/Text.h"
+#include "tests/looks/Rules.h"
 #include "tests/tools/Tool.h"
 
 namespace {
+
 namespace fs = std::filesystem;
 
 // Where a sample is picked, counted from its first point: on outlines beside the handles, inside
@@ -29,16 +31,18 @@ std::string ReadText(const fs::path& path) {
 // What a user's folders hold: projects that are known and pictures.
 void FillHome(const fs::path& home, const fs::path& program) {
   for (const char* name :
-       {"Pictures", "Projects/Logic", "Projects/PumpStation", "Projects/WaterWorks"})
+       {"Pictures", "Projects/Logic", "Projects/PumpStation", "Projects/WaterWorks"}) {
     fs::create_directories(home / name);
+  }
   fs::copy_file(program / "Sample/WaterWorks.prj", home / "Projects/WaterWorks/WaterWorks.prj",
                 fs::copy_options::overwrite_existing);
   fs::copy_file(program / "Sample/WaterWorks.prj",
                 home / "Projects/PumpStation" / (EucFromUtf8("ポンプ場").value() + ".prj"),
                 fs::copy_options::overwrite_existing);
-  for (const auto& picture : fs::directory_iterator(program / "Sample/Bitmap"))
+  for (const auto& picture : fs::directory_iterator(program / "Sample/Bitmap")) {
     fs::copy_file(picture.path(), home / "Pictures" / picture.path().filename(),
                   fs::copy_options::overwrite_existing);
+  }
 }
 
 // Pictures name no folder of the machine that makes them.
@@ -54,14 +58,16 @@ void NameFolders(const fs::path& home, const fs::path& program) {
                            EucFromUtf8("ポンプ場").value() + "," + projects + "/PumpStation");
   std::ofstream(program / "VarnixMaster.ini", std::ios::binary | std::ios::trunc) << text;
 }
+
 }  // namespace
 
 LooksTest::LooksTest() {
   // Pictures show no half-way looks.
   g_object_set(gtk_settings_get_default(), "gtk-enable-animations", FALSE, nullptr);
   const gchar* dpi = std::getenv("VARNIX_DPI");
-  if (dpi != nullptr)
+  if (dpi != nullptr) {
     g_object_set(gtk_settings_get_default(), "gtk-xft-dpi", std::atoi(dpi) * 1024, nullptr);
+  }
   if (!KeepsPictures()) setenv("HOME", home_.Path().c_str(), 1);
   const fs::path home = std::getenv("HOME");
   FillHome(home, Folder.Path());
@@ -88,9 +94,10 @@ GtkWidget* LooksTest::PickSample(gint type) {
   const POINT at = Look([type] {
     for (gint no = 0; no < GetPtrnCount(); ++no) {
       const PTRNDATA* item = ViewPtrnData(no);
-      if (item->Type == type)
+      if (item->Type == type) {
         return POINT{item->Parm[ItemSlot::X1] + Grip[type].x,
                      item->Parm[ItemSlot::Y1] + Grip[type].y};
+      }
     }
     return POINT{-1, -1};
   });

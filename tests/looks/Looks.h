@@ -1,8 +1,8 @@
 // The sample project in a program that is looked at, window by window.
 #pragma once
 
-#include "looks/Picture.h"
-#include "road/RoadTest.h"
+#include "tests/looks/Picture.h"
+#include "tests/road/RoadTest.h"
 
 class LooksTest : public RoadTest {
  protected:

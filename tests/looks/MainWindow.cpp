@@ -4,9 +4,10 @@
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "dialogs/ToolBox.h"
-#include "looks/Looks.h"
+#include "tests/looks/Looks.h"
 
 namespace {
+
 class MainWindow : public LooksTest {
  protected:
   // Opens a menu, shows the screen with it, and closes it.
@@ -72,4 +73,5 @@ TEST_F(MainWindow, RightButtonMenus) {
     PressKey(GDK_KEY_Escape);
   });
 }
+
 }  // namespace

@@ -1,14 +1,16 @@
 #include <gtest/gtest.h>
+
 #include <set>
 
 #include "Constant.h"
 #include "PtrnData.h"
 #include "app/Window.h"
-#include "looks/Looks.h"
 #include "render/Surface.h"
 #include "support/Resource.h"
+#include "tests/looks/Looks.h"
 
 namespace {
+
 class Panels : public LooksTest {
  protected:
   void ShowPanels(const std::string& prefix, std::initializer_list<gint> types) {
@@ -118,4 +120,5 @@ TEST_F(Panels, PictureChooser) {
     ShowAndLeave("picture-chooser", "画像ファイル選択");
   });
 }
+
 }  // namespace

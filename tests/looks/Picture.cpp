@@ -1,4 +1,4 @@
-#include "looks/Picture.h"
+#include "tests/looks/Picture.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "app/Window.h"
-#include "looks/Rules.h"
 #include "render/Surface.h"
-#include "road/User.h"
+#include "tests/looks/Rules.h"
+#include "tests/road/User.h"
 
 namespace {
+
 PixbufPtr Taken(GdkWindow* window, const GdkRectangle& part) {
   return PixbufPtr(gdk_pixbuf_get_from_window(window, part.x, part.y, part.width, part.height));
 }
@@ -73,6 +74,7 @@ void Paint(GtkWidget* window) {
   Look([window] { gtk_widget_queue_draw(window); });
   Settle(window);
 }
+
 }  // namespace
 
 bool KeepsPictures() {

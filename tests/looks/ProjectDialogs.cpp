@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "PtrnData.h"
-#include "looks/Looks.h"
+#include "tests/looks/Looks.h"
 
 namespace {
+
 class ProjectDialogs : public LooksTest {};
 
 const std::string Settings = "プロジェクトの新規作成";
@@ -67,4 +68,5 @@ TEST_F(ProjectDialogs, MessageBox) {
     EscapeFrom(Settings);
   });
 }
+
 }  // namespace

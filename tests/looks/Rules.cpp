@@ -1,4 +1,4 @@
-#include "looks/Rules.h"
+#include "tests/looks/Rules.h"
 
 #include <gtest/gtest.h>
 
@@ -9,16 +9,19 @@
 #include <vector>
 
 namespace {
+
 std::vector<GtkWidget*> Children(GtkWidget* widget) {
   std::vector<GtkWidget*> children;
-  if (GTK_IS_CONTAINER(widget))
+  if (GTK_IS_CONTAINER(widget)) {
     gtk_container_forall(
         GTK_CONTAINER(widget),
         [](GtkWidget* child, gpointer list) {
-          if (gtk_widget_get_mapped(child))
+          if (gtk_widget_get_mapped(child)) {
             static_cast<std::vector<GtkWidget*>*>(list)->push_back(child);
+          }
         },
         &children);
+  }
   return children;
 }
 
@@ -76,9 +79,10 @@ void CheckText(GtkWidget* widget, PangoLayout* layout, gint width) {
 }
 
 void CheckTexts(GtkWidget* widget) {
-  if (GTK_IS_LABEL(widget))
+  if (GTK_IS_LABEL(widget)) {
     CheckText(widget, gtk_label_get_layout(GTK_LABEL(widget)),
               gtk_widget_get_allocated_width(widget));
+  }
   if (GTK_IS_SPIN_BUTTON(widget)) {
     GdkRectangle text;
     gtk_entry_get_text_area(GTK_ENTRY(widget), &text);
@@ -102,14 +106,16 @@ GdkRectangle Ink(GtkWidget* widget) {
 
 void CheckApart(GtkWidget* grid) {
   const std::vector<GtkWidget*> children = Children(grid);
-  for (gsize i = 0; i < children.size(); ++i)
+  for (gsize i = 0; i < children.size(); ++i) {
     for (gsize j = i + 1; j < children.size(); ++j) {
       const GdkRectangle first = Ink(children[i]);
       const GdkRectangle second = Ink(children[j]);
       EXPECT_FALSE(gdk_rectangle_intersect(&first, &second, nullptr))
           << Named(children[i]) << " and " << Named(children[j]) << " lie over each other";
     }
+  }
 }
+
 }  // namespace
 
 void CheckLook(GtkWidget* window) {

@@ -66,9 +66,10 @@ TEST(CheckBackgroundTest, AreasOfTheLayoutMeetBetweenTwoRows) {
   for (const auto& area : areas) {
     for (const auto& other : areas) parm[other.Slot] = &other == &area ? Black : White;
     parm[HedrSlot::TitleColour] = Grey;
-    for (const gint y : {0, 29, 30, 79, 80, 99})
+    for (const gint y : {0, 29, 30, 79, 80, 99}) {
       EXPECT_EQ(BlackVanishesAt(project, 10, y), y >= area.First && y <= area.Last)
           << "row " << y << ", black from " << area.First << " to " << area.Last;
+    }
   }
 }
 
@@ -95,8 +96,9 @@ TEST(CheckBackgroundTest, WhatATypeHides) {
     project.Layouts[0].Items = {CheckedItem(type, 0, 0, 100, 90)};
     PTRNDATA& item = project.Layouts[0].Items[0];
     if (type == TypeEllipse) item.Parm[ShapeSlot::Filled] = 1;
-    if (type == TypeBarGraph)
+    if (type == TypeBarGraph) {
       item.Parm[BarSlot::BarColour] = item.Parm[BarSlot::BarColour + 1] = White;
+    }
     EXPECT_FALSE(BlackVanishesAt(project, 50, 50)) << "several colours of type " << type;
   }
   for (const gint type : {TypeFrame, TypeButton, TypeLine, TypeRectangle, TypeEllipse}) {

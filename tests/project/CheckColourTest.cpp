@@ -136,8 +136,9 @@ TEST(CheckColourTest, ForegroundAndOwnBackgroundOfEachTypeAndSystem) {
     item.Parm[TextSlot::BackEnabled] = 1;
     for (gint back = 0; back < type.Backs; ++back) item.Parm[type.Back + back] = Grey;
     for (gint front = 0; front < type.Fronts; ++front) {
-      for (gint other = 0; other < type.Fronts; ++other)
+      for (gint other = 0; other < type.Fronts; ++other) {
         item.Parm[type.Front + other] = other == front ? Grey : White;
+      }
       EXPECT_THAT(Vanishing(project), ElementsAre("Main 0 " + std::string(type.Field)))
           << "type " << type.Type << ", slot " << front;
       for (gint back = 0; back < type.Backs; ++back) item.Parm[type.Back + back] = Black;

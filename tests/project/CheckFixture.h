@@ -109,8 +109,9 @@ inline void Register(CheckedProject& project, const char* code, gint slots) {
 
 // What the rule of this code finds, run by itself: a fault in another rule changes nothing here.
 inline std::vector<Finding> FindingsOf(const char* code, const CheckedProject& project) {
-  for (const CheckRule& rule : CheckRules())
+  for (const CheckRule& rule : CheckRules()) {
     if (std::strcmp(rule.Code, code) == 0) return RunCheckRule(rule, project);
+  }
   ADD_FAILURE() << "no rule is called " << code;
   return {};
 }

@@ -25,11 +25,13 @@ CheckedProject ProjectOfPictures(const char* logo, bool shown, const char* backg
 }
 
 TEST(CheckPictureTest, BitmapThatIsMissing) {
-  for (const char* name : {"none.png", ""})
+  for (const char* name : {"none.png", ""}) {
     EXPECT_THAT(Found("bitmap-missing", ProjectWith({Bitmap(name)})), ElementsAre("Main 0 Text1"))
         << name;
-  for (const char* name : {"good.png", "broken.png"})
+  }
+  for (const char* name : {"good.png", "broken.png"}) {
     EXPECT_THAT(Found("bitmap-missing", ProjectWith({Bitmap(name)})), IsEmpty()) << name;
+  }
   EXPECT_THAT(Found("bitmap-missing", ProjectOfPictures("none.png", false, "good.png")), IsEmpty())
       << "a logo that is not shown";
   EXPECT_THAT(Found("bitmap-missing", ProjectOfPictures("none.png", true, "broken.png")),
@@ -41,8 +43,9 @@ TEST(CheckPictureTest, BitmapThatIsMissing) {
 TEST(CheckPictureTest, BitmapThatCannotBeRead) {
   EXPECT_THAT(Found("bitmap-unreadable", ProjectWith({Bitmap("broken.png")})),
               ElementsAre("Main 0 Text1"));
-  for (const char* name : {"good.png", "none.png", ""})
+  for (const char* name : {"good.png", "none.png", ""}) {
     EXPECT_THAT(Found("bitmap-unreadable", ProjectWith({Bitmap(name)})), IsEmpty()) << name;
+  }
   EXPECT_THAT(Found("bitmap-unreadable", ProjectOfPictures("broken.png", false, "none.png")),
               IsEmpty())
       << "a logo that is not shown";

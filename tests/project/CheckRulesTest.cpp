@@ -1,6 +1,7 @@
 // All rules together: what each is called, that none finds faults where there are none, and how
 // their findings are put in order.
 #include <gmock/gmock.h>
+
 #include <algorithm>
 #include <set>
 #include <tuple>
@@ -104,8 +105,9 @@ CheckedProject FaultyProject() {
 // In the order of the table of rules.
 std::vector<Finding> RuleByRule(const CheckedProject& project) {
   std::vector<Finding> findings;
-  for (const CheckRule& rule : CheckRules())
+  for (const CheckRule& rule : CheckRules()) {
     for (const Finding& finding : RunCheckRule(rule, project)) findings.push_back(finding);
+  }
   return findings;
 }
 
@@ -113,8 +115,9 @@ using Line = std::tuple<std::string, gint, std::string, std::string>;
 
 std::vector<Line> Lines(const std::vector<Finding>& findings) {
   std::vector<Line> lines;
-  for (const Finding& finding : findings)
+  for (const Finding& finding : findings) {
     lines.emplace_back(finding.Layout, finding.Item, finding.Code, finding.Message);
+  }
   return lines;
 }
 
@@ -138,10 +141,11 @@ TEST(CheckTest, FindingsOfOnePlaceComeInTheOrderOfTheRules) {
   };
   const std::vector<Finding> findings = CheckProject(FaultyProject());
   ASSERT_FALSE(findings.empty());
-  for (std::size_t i = 1; i < findings.size(); ++i)
+  for (std::size_t i = 1; i < findings.size(); ++i) {
     if (findings[i].Layout == findings[i - 1].Layout && findings[i].Item == findings[i - 1].Item) {
       EXPECT_LE(rank(findings[i - 1]), rank(findings[i])) << findings[i].Message;
     }
+  }
 }
 
 }  // namespace

@@ -53,8 +53,9 @@ TEST(CheckScreenTest, UnreadableLayoutStillBearsItsName) {
   std::strcpy(project.Settings.PtrnStop, "Damaged");
   project.Layouts[0].Items[0].ID_Type = 8;
   std::strcpy(project.Layouts[0].Items[0].ID_Name, "Damaged");
-  for (const char* rule : {"start-missing", "stop-missing", "screen-missing"})
+  for (const char* rule : {"start-missing", "stop-missing", "screen-missing"}) {
     EXPECT_THAT(Found(rule, project), IsEmpty()) << rule;
+  }
 }
 
 TEST(CheckFileTest, UnreadableLayouts) {

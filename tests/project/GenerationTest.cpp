@@ -1,9 +1,8 @@
 // What generation tells of the files that it makes.
-#include "project/logic/Generation.h"
-
 #include <gtest/gtest.h>
 
 #include "project/check/Check.h"
+#include "project/logic/Generation.h"
 #include "tests/project/ProjectFixture.h"
 
 namespace {

@@ -1,8 +1,7 @@
-#include "layout/Registry.h"
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "layout/Registry.h"
 #include "tests/project/ProjectFixture.h"
 
 namespace {

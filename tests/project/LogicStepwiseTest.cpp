@@ -1,6 +1,7 @@
 // Code generation against a plain one that works step by step on the files: each code and each
 // layout is entered by reading a file, changing one place and writing the file again.
 #include <gtest/gtest.h>
+
 #include <fstream>
 #include <random>
 
@@ -53,8 +54,9 @@ class Stepwise {
   std::vector<Entry> ReadRegistry() const {
     const std::string bytes = Registry();
     std::vector<Entry> entries;
-    for (std::size_t at = 0; at < bytes.size(); at += 34)
+    for (std::size_t at = 0; at < bytes.size(); at += 34) {
       entries.emplace_back(bytes.data() + at, IntAt(bytes, at + 22));
+    }
     return entries;
   }
   void EnterCode(const std::string& code, gint number) const {
@@ -175,9 +177,10 @@ class LogicStepwiseTest : public ProjectFixture {
     plain.Run();
     EXPECT_EQ(folder_.Read("project/PtrnCode"), plain.Registry());
     EXPECT_EQ(folder_.Read("project/PtrnFlag"), plain.Flags());
-    for (const char* file : {"VarnixCode.h", "Plant.h", "Plant.cpp"})
+    for (const char* file : {"VarnixCode.h", "Plant.h", "Plant.cpp"}) {
       EXPECT_EQ(folder_.Read(std::string("source/") + file),
                 folder_.Read(std::string("step/") + file));
+    }
   }
 
   static constexpr const char* EmptySource =

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <map>
 
 #include "tests/project/ProjectFixture.h"

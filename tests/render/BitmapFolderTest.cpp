@@ -1,12 +1,13 @@
 // A layout names pictures of its own folder and none elsewhere.
 #include <gtest/gtest.h>
+
 #include <filesystem>
 #include <string>
 
-#include "AsciiPicture.h"
-#include "render/OnePixelBitmap.h"
 #include "render/pictures/PictureFiles.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
+#include "tests/render/OnePixelBitmap.h"
 
 namespace {
 
@@ -19,9 +20,9 @@ class BitmapFolder : public testing::Test {
   }
   bool Draws(const std::string& name) { return DrawsFrom(root_.Path("Bitmaps"), name); }
   bool DrawsFrom(const std::string& folder, const std::string& name) {
-    FillPixels(&paper_.surface, 0, 0, 1, 1, 0xffffff);
+    FillPixels(&paper_.Surface, 0, 0, 1, 1, 0xffffff);
     const std::string before = paper_.Text();
-    DrawBmap(&paper_.surface, &paper_.gc, 0, 0, 1, 1, -1, folder.c_str(), name.c_str());
+    DrawBmap(&paper_.Surface, &paper_.Gc, 0, 0, 1, 1, -1, folder.c_str(), name.c_str());
     return paper_.Text() != before;
   }
 

@@ -1,9 +1,9 @@
 // Packed font files: an installed one is read, one that lies about its size is not.
-#include "render/fonts/BitmapFont.h"
-
 #include <gtest/gtest.h>
+
 #include <string>
 
+#include "render/fonts/BitmapFont.h"
 #include "render/fonts/FontCatalogue.h"
 #include "tests/common/PeakMemory.h"
 #include "tests/common/TempFolder.h"

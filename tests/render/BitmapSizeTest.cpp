@@ -6,11 +6,11 @@
 #include <memory>
 #include <string>
 
-#include "AsciiPicture.h"
-#include "render/OnePixelBitmap.h"
 #include "tests/common/Child.h"
 #include "tests/common/PeakMemory.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
+#include "tests/render/OnePixelBitmap.h"
 
 namespace {
 
@@ -85,9 +85,9 @@ class BitmapSize : public testing::Test {
     });
   }
   bool Draws(const std::string& name, gint transparent) {
-    FillPixels(&paper_.surface, 0, 0, 4, 4, 0x123456);
+    FillPixels(&paper_.Surface, 0, 0, 4, 4, 0x123456);
     const std::string before = paper_.Text();
-    DrawBmap(&paper_.surface, &paper_.gc, 0, 0, 4, 4, transparent, folder_.Path().c_str(),
+    DrawBmap(&paper_.Surface, &paper_.Gc, 0, 0, 4, 4, transparent, folder_.Path().c_str(),
              name.c_str());
     return paper_.Text() != before;
   }
@@ -101,8 +101,9 @@ TEST_F(BitmapSize, ItsPicturesAreGoodWhenTheirSizesAre) {
   folder_.Write("a.bmp", OnePixelBitmap());
   folder_.Write("a.gif", Gif(1, 1));
   folder_.Write("a.xpm", Xpm("1"));
-  for (const char* name : {"a.png", "a.bmp", "a.gif", "a.xpm"})
+  for (const char* name : {"a.png", "a.bmp", "a.gif", "a.xpm"}) {
     EXPECT_TRUE(Draws(name, -1)) << name;
+  }
 }
 
 TEST_F(BitmapSize, HeadersThatClaimAbsurdSizes) {

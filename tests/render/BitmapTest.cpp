@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "AsciiPicture.h"
 #include "tests/common/Bytes.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ class Bitmap : public testing::Test {
  protected:
   void Draw(gint x, gint y, gint width, gint height, gint transparent = -1,
             const char* name = "a.bmp") {
-    DrawBmap(&paper_.surface, &paper_.gc, x, y, width, height, transparent, folder_.Path().c_str(),
+    DrawBmap(&paper_.Surface, &paper_.Gc, x, y, width, height, transparent, folder_.Path().c_str(),
              name);
   }
 
@@ -38,7 +38,7 @@ class Bitmap : public testing::Test {
 
 TEST_F(Bitmap, AtItsOwnSizeIsExact) {
   folder_.Write("a.bmp", FourPixels());
-  FillPixels(&paper_.surface, 0, 0, 4, 3, 0x808080);
+  FillPixels(&paper_.Surface, 0, 0, 4, 3, 0x808080);
   Draw(1, 1, 2, 2);
   EXPECT_EQ(paper_.Text(), R"(
 oooo
@@ -51,7 +51,7 @@ TEST_F(Bitmap, IsClipped) {
   folder_.Write("a.bmp", FourPixels());
   Draw(-1, -1, 2, 2);
   Draw(3, 2, 2, 2);
-  FillPixels(&paper_.surface, 0, 0, 1, 1, 0x808080);
+  FillPixels(&paper_.Surface, 0, 0, 1, 1, 0x808080);
   EXPECT_EQ(paper_.Text(), R"(
 o...
 ....
@@ -61,7 +61,7 @@ o...
 
 TEST_F(Bitmap, TransparentKeyIsTheLowByteOfTheColour) {
   folder_.Write("a.bmp", FourPixels());
-  FillPixels(&paper_.surface, 0, 0, 4, 3, 0x808080);
+  FillPixels(&paper_.Surface, 0, 0, 4, 3, 0x808080);
   DrawColr[5] = {0x12ff, 0x3400, 0x5600, 0x123456};  // low bytes: pure red
   Draw(0, 0, 2, 2, 5);
   EXPECT_EQ(paper_.Text(), R"(
@@ -100,7 +100,7 @@ TEST_F(Bitmap, UnreadableFilesDrawNothing) {
 TEST_F(Bitmap, PipesAreNotWaitedFor) {
   ASSERT_EQ(mkfifo(folder_.Path("pipe.bmp").c_str(), 0600), 0);
   Draw(0, 0, 4, 3, -1, "pipe.bmp");
-  EXPECT_EQ(paper_.surface.At(0, 0), 0xffffffu);
+  EXPECT_EQ(paper_.Surface.At(0, 0), 0xffffffu);
 }
 
 TEST_F(Bitmap, EmptyBoxesAndUnknownColoursDrawNothing) {
@@ -123,7 +123,7 @@ TEST_F(Bitmap, ChangedFileIsReadAgain) {
   folder_.Write("b.bmp", changed);
   ASSERT_EQ(std::rename(folder_.Path("b.bmp").c_str(), folder_.Path("a.bmp").c_str()), 0);
   Draw(0, 0, 2, 2);
-  EXPECT_EQ(paper_.surface.At(0, 0), 0x000000u);
+  EXPECT_EQ(paper_.Surface.At(0, 0), 0x000000u);
 }
 
 // A header of 30,000 x 30,000 pixels in a file of 70 bytes.
@@ -132,7 +132,7 @@ TEST_F(Bitmap, SizeClaimedByAHeaderIsNotTrusted) {
   bomb.replace(18, 8, Bytes().Ints({30000, 30000}).Str());
   folder_.Write("a.bmp", bomb);
   Draw(0, 0, 4, 3);
-  EXPECT_EQ(paper_.surface.At(0, 0), 0xffffffu);
+  EXPECT_EQ(paper_.Surface.At(0, 0), 0xffffffu);
 }
 
 TEST_F(Bitmap, OneColourStaysOneColourAtAnySize) {

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
+
 #include <random>
 
-#include "AsciiPicture.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -10,9 +11,9 @@ constexpr gint Red = ColourRed;
 
 TEST(Boxes, OutlineCoversOneMoreThanFill) {
   Paper paper(8, 4);
-  paper.gc.Foreground = 0;
-  DrawRect1(&paper.surface, &paper.gc, 0, 0, 0, 3, 3);
-  DrawRect1(&paper.surface, &paper.gc, 1, 7, 3, 4, 0);
+  paper.Gc.Foreground = 0;
+  DrawRect1(&paper.Surface, &paper.Gc, 0, 0, 0, 3, 3);
+  DrawRect1(&paper.Surface, &paper.Gc, 1, 7, 3, 4, 0);
   EXPECT_EQ(paper.Text(), R"(
 #######.
 #..####.
@@ -23,7 +24,7 @@ TEST(Boxes, OutlineCoversOneMoreThanFill) {
 
 TEST(Boxes, CentredOutlineInsetsThenOutsets) {
   Paper paper(9, 9);
-  DrawRect(&paper.surface, &paper.gc, 2, 2, 6, 6, 2, 0, Black, Red);
+  DrawRect(&paper.Surface, &paper.Gc, 2, 2, 6, 6, 2, 0, Black, Red);
   EXPECT_EQ(paper.Text(), R"(
 .........
 .#######.
@@ -39,7 +40,7 @@ TEST(Boxes, CentredOutlineInsetsThenOutsets) {
 
 TEST(Boxes, InsideOutline) {
   Paper paper(7, 7);
-  DrawRect(&paper.surface, &paper.gc, 0, 0, 6, 6, 2, 1, Black, -1);
+  DrawRect(&paper.Surface, &paper.Gc, 0, 0, 6, 6, 2, 1, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 #######
 #######
@@ -53,7 +54,7 @@ TEST(Boxes, InsideOutline) {
 
 TEST(Boxes, OutsideOutlineLeavesTheBoxFree) {
   Paper paper(7, 7);
-  DrawRect(&paper.surface, &paper.gc, 2, 2, 4, 4, 1, 2, Black, -1);
+  DrawRect(&paper.Surface, &paper.Gc, 2, 2, 4, 4, 1, 2, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 .......
 .#####.
@@ -67,7 +68,7 @@ TEST(Boxes, OutsideOutlineLeavesTheBoxFree) {
 
 TEST(Boxes, SwappedCornersTurnInsideOut) {
   Paper paper(7, 7);
-  DrawRect(&paper.surface, &paper.gc, 4, 4, 2, 2, 2, 1, Black, -1);
+  DrawRect(&paper.Surface, &paper.Gc, 4, 4, 2, 2, 2, 1, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 .......
 .#####.
@@ -81,14 +82,14 @@ TEST(Boxes, SwappedCornersTurnInsideOut) {
 
 TEST(Boxes, UnknownColoursLeaveTheirPartOut) {
   Paper paper(3, 3);
-  DrawRect(&paper.surface, &paper.gc, 0, 0, 2, 2, 1, 0, 103, Black);
+  DrawRect(&paper.Surface, &paper.Gc, 0, 0, 2, 2, 1, 0, 103, Black);
   EXPECT_EQ(paper.Text(), R"(
 ##.
 ##.
 ...
 )");
   Paper outline(3, 3);
-  DrawRect(&outline.surface, &outline.gc, 0, 0, 2, 2, 1, 0, Black, 500);
+  DrawRect(&outline.Surface, &outline.Gc, 0, 0, 2, 2, 1, 0, Black, 500);
   EXPECT_EQ(outline.Text(), R"(
 ###
 #.#
@@ -99,9 +100,9 @@ TEST(Boxes, UnknownColoursLeaveTheirPartOut) {
 TEST(Boxes, DashesRunOnRoundTheCorner) {
   const gint8 dashes[] = {4, 2};
   Paper paper(6, 4);
-  paper.gc.Foreground = 0;
-  paper.gc.Dashes = dashes;
-  DrawRect1(&paper.surface, &paper.gc, 0, 0, 0, 5, 3);
+  paper.Gc.Foreground = 0;
+  paper.Gc.Dashes = dashes;
+  DrawRect1(&paper.Surface, &paper.Gc, 0, 0, 0, 5, 3);
   EXPECT_EQ(paper.Text(), R"(
 ####..
 #....#
@@ -112,14 +113,14 @@ TEST(Boxes, DashesRunOnRoundTheCorner) {
 
 TEST(Boxes, ExtremeNumbersAreHarmless) {
   Paper paper(3, 3);
-  DrawRect(&paper.surface, &paper.gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, 1, Red,
+  DrawRect(&paper.Surface, &paper.Gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, 1, Red,
            Black);
   EXPECT_EQ(paper.Text(), R"(
 ###
 ###
 ###
 )");
-  DrawRect(&paper.surface, &paper.gc, 1, 1, 1, 1, G_MAXINT, 0, Red, -1);
+  DrawRect(&paper.Surface, &paper.Gc, 1, 1, 1, 1, G_MAXINT, 0, Red, -1);
   EXPECT_EQ(paper.Text(), R"(
 rrr
 rrr
@@ -135,9 +136,7 @@ void PlainRect(Paper& paper, gint x1, gint y1, gint x2, gint y2, gint width, gin
     const gint ay = std::min(y1 + inset, y2 - inset), by = std::max(y1 + inset, y2 - inset);
     for (gint y = ay; y <= by; ++y) {
       for (gint x = ax; x <= bx; ++x) {
-        if (x == ax || x == bx || y == ay || y == by) {
-          FillPixels(&paper.surface, x, y, 1, 1, 0);
-        }
+        if (x == ax || x == bx || y == ay || y == by) FillPixels(&paper.Surface, x, y, 1, 1, 0);
       }
     }
   }
@@ -153,7 +152,7 @@ TEST(Boxes, AgreeWithPlainOutlines) {
                y2 = number(-10, 40);
     const gint width = number(0, 12), position = number(0, 2);
     Paper paper(30, 30), plain(30, 30);
-    DrawRect(&paper.surface, &paper.gc, x1, y1, x2, y2, width, position, Black, -1);
+    DrawRect(&paper.Surface, &paper.Gc, x1, y1, x2, y2, width, position, Black, -1);
     PlainRect(plain, x1, y1, x2, y2, width, position);
     ASSERT_EQ(paper.Text(), plain.Text()) << x1 << "," << y1 << " " << x2 << "," << y2;
   }
@@ -161,7 +160,7 @@ TEST(Boxes, AgreeWithPlainOutlines) {
 
 TEST(FramedBox, LaterBordersLieOnTop) {
   Paper paper(8, 7);
-  DrawGbox(&paper.surface, &paper.gc, 0, 0, 6, 5, 2, 1, 1, 1, Black, Red, 0, 1, ColourWhite);
+  DrawGbox(&paper.Surface, &paper.Gc, 0, 0, 6, 5, 2, 1, 1, 1, Black, Red, 0, 1, ColourWhite);
   EXPECT_EQ(paper.Text(), R"(
 o####g#.
 o####g#.
@@ -175,7 +174,7 @@ o....g..
 
 TEST(FramedBox, ZeroAndNegativeWidthsDrawNoBorder) {
   Paper paper(4, 4);
-  DrawGbox(&paper.surface, &paper.gc, 1, 1, 3, 3, 0, -1, 0, -7, Black, Black, Black, Black, Red);
+  DrawGbox(&paper.Surface, &paper.Gc, 1, 1, 3, 3, 0, -1, 0, -7, Black, Black, Black, Black, Red);
   EXPECT_EQ(paper.Text(), R"(
 ....
 .rr.
@@ -186,7 +185,7 @@ TEST(FramedBox, ZeroAndNegativeWidthsDrawNoBorder) {
 
 TEST(FramedBox, SwappedCornersHaveNoArea) {
   Paper paper(5, 3);
-  DrawGbox(&paper.surface, &paper.gc, 4, 2, 0, 0, 0, 0, 1, 0, Black, Black, Black, Black, Red);
+  DrawGbox(&paper.Surface, &paper.Gc, 4, 2, 0, 0, 0, 0, 1, 0, Black, Black, Black, Black, Red);
   EXPECT_EQ(paper.Text(), R"(
 ....#
 ....#
@@ -196,7 +195,7 @@ TEST(FramedBox, SwappedCornersHaveNoArea) {
 
 TEST(FramedBox, ExtremeNumbersAreHarmless) {
   Paper paper(2, 1);
-  DrawGbox(&paper.surface, &paper.gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, G_MAXINT,
+  DrawGbox(&paper.Surface, &paper.Gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, G_MAXINT,
            G_MAXINT, G_MAXINT, Black, Black, Black, Black, Red);
   EXPECT_EQ(paper.Text(), R"(
 ##

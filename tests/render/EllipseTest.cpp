@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
+
 #include <random>
 
-#include "AsciiPicture.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -9,13 +10,13 @@ constexpr gint Black = ColourBlack;
 
 std::string Outline(gint width, gint height) {
   Paper paper(width + 1, height + 1);
-  DrawCrcl(&paper.surface, &paper.gc, 0, 0, width, height, 1, 0, Black, -1);
+  DrawCrcl(&paper.Surface, &paper.Gc, 0, 0, width, height, 1, 0, Black, -1);
   return paper.Text();
 }
 
 std::string Filled(gint width, gint height) {
   Paper paper(width + 1, height + 1);
-  DrawCrcl(&paper.surface, &paper.gc, 0, 0, width, height, 0, 0, -1, Black);
+  DrawCrcl(&paper.Surface, &paper.Gc, 0, 0, width, height, 0, 0, -1, Black);
   return paper.Text();
 }
 
@@ -61,7 +62,7 @@ TEST(Ellipse, FillHasTheMiddleOfItsOutline) {
 
 TEST(Ellipse, OutlineLiesCloselyAroundItsFill) {
   Paper paper(11, 9);
-  DrawCrcl(&paper.surface, &paper.gc, 0, 0, 10, 8, 1, 0, Black, ColourRed);
+  DrawCrcl(&paper.Surface, &paper.Gc, 0, 0, 10, 8, 1, 0, Black, ColourRed);
   EXPECT_EQ(paper.Text(), R"(
 ...#####...
 ..#rrrrr#..
@@ -78,7 +79,7 @@ TEST(Ellipse, OutlineLiesCloselyAroundItsFill) {
 // Of one-pixel outlines laid into each other, which leave a dot free here and there.
 TEST(Ellipse, ThickOutlineIsDrawnAsManyThinOnes) {
   Paper paper(15, 15);
-  DrawCrcl(&paper.surface, &paper.gc, 1, 1, 13, 13, 3, 1, Black, -1);
+  DrawCrcl(&paper.Surface, &paper.Gc, 1, 1, 13, 13, 3, 1, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 ...............
 .....#####.....
@@ -100,7 +101,7 @@ TEST(Ellipse, ThickOutlineIsDrawnAsManyThinOnes) {
 
 TEST(Ellipse, FillReachesAnOutlineAroundTheBox) {
   Paper paper(11, 11);
-  DrawCrcl(&paper.surface, &paper.gc, 1, 1, 9, 9, 1, 2, Black, ColourRed);
+  DrawCrcl(&paper.Surface, &paper.Gc, 1, 1, 9, 9, 1, 2, Black, ColourRed);
   EXPECT_EQ(paper.Text(), R"(
 ...#####...
 ..#rrrrr#..
@@ -119,7 +120,7 @@ TEST(Ellipse, FillReachesAnOutlineAroundTheBox) {
 // Outlines that pass their middle, as insets of a small box do, leave no ground free in it.
 TEST(Ellipse, OutlineWiderThanItsBoxLeavesNoGround) {
   Paper paper(15, 9);
-  DrawCrcl(&paper.surface, &paper.gc, 5, 2, 9, 6, 7, 1, Black, ColourRed);
+  DrawCrcl(&paper.Surface, &paper.Gc, 5, 2, 9, 6, 7, 1, Black, ColourRed);
   EXPECT_EQ(paper.Text(), R"(
 ......###......
 ....#######....
@@ -132,7 +133,7 @@ TEST(Ellipse, OutlineWiderThanItsBoxLeavesNoGround) {
 ......###......
 )");
   Paper flat(9, 13);
-  DrawCrcl(&flat.surface, &flat.gc, 3, 1, 5, 11, 4, 1, Black, ColourRed);
+  DrawCrcl(&flat.Surface, &flat.Gc, 3, 1, 5, 11, 4, 1, Black, ColourRed);
   EXPECT_EQ(flat.Text(), R"(
 .........
 ....#....
@@ -176,9 +177,9 @@ void ExpectWholeAtAnyPosition(gint width, gint height, std::initializer_list<gin
     for (const gint position : {0, 1, 2}) {
       const gint reach = line + 1;
       Paper paper(width + 2 * reach + 1, height + 2 * reach + 1, -reach, -reach);
-      DrawCrcl(&paper.surface, &paper.gc, 0, 0, width, height, line, position, Black, ColourRed);
+      DrawCrcl(&paper.Surface, &paper.Gc, 0, 0, width, height, line, position, Black, ColourRed);
       ASSERT_NO_FATAL_FAILURE(ExpectWhole(
-          paper.surface, std::to_string(width) + " x " + std::to_string(height) + ", line " +
+          paper.Surface, std::to_string(width) + " x " + std::to_string(height) + ", line " +
                              std::to_string(line) + ", position " + std::to_string(position)));
     }
   }
@@ -243,14 +244,14 @@ TEST(Ellipse, OutlineHasNoGapsAndNoCorners) {
 
 TEST(Ellipse, CornersMayBeSwapped) {
   Paper paper(5, 5), swapped(5, 5);
-  DrawCrcl(&paper.surface, &paper.gc, 0, 0, 4, 4, 1, 0, Black, ColourRed);
-  DrawCrcl(&swapped.surface, &swapped.gc, 4, 4, 0, 0, 1, 0, Black, ColourRed);
+  DrawCrcl(&paper.Surface, &paper.Gc, 0, 0, 4, 4, 1, 0, Black, ColourRed);
+  DrawCrcl(&swapped.Surface, &swapped.Gc, 4, 4, 0, 0, 1, 0, Black, ColourRed);
   EXPECT_EQ(paper.Text(), swapped.Text());
 }
 
 TEST(Ellipse, OutsideOutlineGrows) {
   Paper paper(7, 7);
-  DrawCrcl(&paper.surface, &paper.gc, 2, 2, 4, 4, 1, 2, Black, -1);
+  DrawCrcl(&paper.Surface, &paper.Gc, 2, 2, 4, 4, 1, 2, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 .......
 ..###..
@@ -265,7 +266,7 @@ TEST(Ellipse, OutsideOutlineGrows) {
 // Swapped in one direction alone, a box grows in the other.
 TEST(Ellipse, OutlinesOfABoxWithOneSideSwapped) {
   Paper paper(11, 9);
-  DrawCrcl(&paper.surface, &paper.gc, 7, 1, 3, 7, 2, 1, Black, -1);
+  DrawCrcl(&paper.Surface, &paper.Gc, 7, 1, 3, 7, 2, 1, Black, -1);
   EXPECT_EQ(paper.Text(), R"(
 ...........
 ....###....
@@ -290,12 +291,12 @@ TEST(Ellipse, ThickOutlinesAreTheirThinOnes) {
     const gint x1 = pick(14, 46), y1 = pick(14, 46), x2 = pick(14, 46), y2 = pick(14, 46);
     const gint width = pick(1, 13), position = pick(0, 2);
     Paper thick(Side, Side), thin(Side, Side);
-    DrawCrcl(&thick.surface, &thick.gc, x1, y1, x2, y2, width, position, Black, -1);
-    thin.gc.Foreground = 0;
+    DrawCrcl(&thick.Surface, &thick.Gc, x1, y1, x2, y2, width, position, Black, -1);
+    thin.Gc.Foreground = 0;
     for (gint k = 0; k < width; ++k) {
       const gint around = k % 2 == 0 ? k / 2 : -(k / 2 + 1);
       const gint inset = position == 0 ? around : position == 1 ? k : -k - 1;
-      DrawCrcl1(&thin.surface, &thin.gc, 0, x1 + inset, y1 + inset, x2 - inset, y2 - inset);
+      DrawCrcl1(&thin.Surface, &thin.Gc, 0, x1 + inset, y1 + inset, x2 - inset, y2 - inset);
     }
     ASSERT_EQ(thick.Text(), thin.Text()) << "round " << round;
   }
@@ -304,11 +305,11 @@ TEST(Ellipse, ThickOutlinesAreTheirThinOnes) {
 // A part of a large circle is the same as that part of the whole.
 TEST(Ellipse, ClippedPartEqualsTheWhole) {
   Paper whole(401, 301), part(50, 60, 330, 20);
-  DrawCrcl(&whole.surface, &whole.gc, 0, 0, 400, 300, 4, 0, Black, ColourRed);
-  DrawCrcl(&part.surface, &part.gc, 0, 0, 400, 300, 4, 0, Black, ColourRed);
+  DrawCrcl(&whole.Surface, &whole.Gc, 0, 0, 400, 300, 4, 0, Black, ColourRed);
+  DrawCrcl(&part.Surface, &part.Gc, 0, 0, 400, 300, 4, 0, Black, ColourRed);
   for (gint y = 20; y < 80; ++y) {
     for (gint x = 330; x < 380; ++x) {
-      ASSERT_EQ(part.surface.At(x, y), whole.surface.At(x, y)) << x << "," << y;
+      ASSERT_EQ(part.Surface.At(x, y), whole.Surface.At(x, y)) << x << "," << y;
     }
   }
 }
@@ -324,7 +325,7 @@ TEST(Ellipse, SmallSurfacesEqualTheWhole) {
     const gint x1 = pick(-20, 40), y1 = pick(-20, 40), x2 = pick(0, 70), y2 = pick(0, 70);
     const gint width = pick(1, 6), position = pick(0, 2), fill = pick(0, 1) == 1 ? ColourRed : -1;
     const auto draw = [&](Paper& paper) {
-      DrawCrcl(&paper.surface, &paper.gc, x1, y1, x2, y2, width, position, Black, fill);
+      DrawCrcl(&paper.Surface, &paper.Gc, x1, y1, x2, y2, width, position, Black, fill);
     };
     Paper whole(Extent, Extent);
     draw(whole);
@@ -335,7 +336,7 @@ TEST(Ellipse, SmallSurfacesEqualTheWhole) {
         draw(tile);
         for (gint y = top; y < std::min(top + tileHeight, Extent); ++y) {
           for (gint x = left; x < std::min(left + tileWidth, Extent); ++x) {
-            ASSERT_EQ(tile.surface.At(x, y), whole.surface.At(x, y))
+            ASSERT_EQ(tile.Surface.At(x, y), whole.Surface.At(x, y))
                 << x << ", " << y << " of " << x1 << ", " << y1 << ", " << x2 << ", " << y2
                 << ", width " << width << ", position " << position << ", tile of " << tileWidth
                 << " x " << tileHeight;
@@ -348,7 +349,7 @@ TEST(Ellipse, SmallSurfacesEqualTheWhole) {
 
 TEST(Ellipse, ExtremeNumbersAreHarmless) {
   Paper paper(2, 2);
-  DrawCrcl(&paper.surface, &paper.gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, 0, Black,
+  DrawCrcl(&paper.Surface, &paper.Gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, G_MAXINT, 0, Black,
            ColourRed);
   EXPECT_EQ(paper.Text(), R"(
 rr
@@ -358,9 +359,9 @@ rr
 
 TEST(Ellipse, OneOfOneDotIsOutlinedOrFilled) {
   Paper outline(5, 5), filled(5, 5);
-  outline.gc.Foreground = filled.gc.Foreground = 0;
-  DrawCrcl1(&outline.surface, &outline.gc, 0, 0, 0, 4, 4);
-  DrawCrcl1(&filled.surface, &filled.gc, 1, 0, 0, 4, 4);
+  outline.Gc.Foreground = filled.Gc.Foreground = 0;
+  DrawCrcl1(&outline.Surface, &outline.Gc, 0, 0, 0, 4, 4);
+  DrawCrcl1(&filled.Surface, &filled.Gc, 1, 0, 0, 4, 4);
   EXPECT_EQ(outline.Text(), R"(
 .###.
 #...#
@@ -368,7 +369,7 @@ TEST(Ellipse, OneOfOneDotIsOutlinedOrFilled) {
 #...#
 .###.
 )");
-  EXPECT_EQ(filled.surface.At(2, 2), 0u);
+  EXPECT_EQ(filled.Surface.At(2, 2), 0u);
 }
 
 }  // namespace

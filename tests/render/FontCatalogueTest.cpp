@@ -1,7 +1,6 @@
-#include "render/fonts/FontCatalogue.h"
-
 #include <gtest/gtest.h>
 
+#include "render/fonts/FontCatalogue.h"
 #include "tests/common/TempFolder.h"
 
 namespace {
@@ -64,9 +63,7 @@ TEST(FontCatalogue, CircularAliasesLeadNowhere) {
 TEST(FontCatalogue, ManyAliasesToEverythingEndSoon) {
   const TempFolder root;
   std::string aliases;
-  for (int i = 0; i < 1000; ++i) {
-    aliases += "x" + std::to_string(i) + " *\n";
-  }
+  for (int i = 0; i < 1000; ++i) aliases += "x" + std::to_string(i) + " *\n";
   root.Write("misc/fonts.alias", aliases);
   EXPECT_EQ(FontCatalogue(root.Path()).FindFile("*"), "");
 }

@@ -4,8 +4,8 @@
 #include <climits>
 #include <span>
 
-#include "render/SampleLayout.h"
 #include "render/primitives/Gradation.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 
@@ -62,9 +62,11 @@ TEST_F(Frame, WithoutTitleAreaShowsNothingOfIt) {
 
 // The leftmost column of the title area that is not of its colour; the width without one.
 gint TitleBegins(const Drawable& picture) {
-  for (gint x = 0; x < 200; ++x)
-    for (gint y = 0; y < 30; ++y)
+  for (gint x = 0; x < 200; ++x) {
+    for (gint y = 0; y < 30; ++y) {
       if (picture.At(x, y) != InkPixel[Ink::Navy]) return x;
+    }
+  }
   return 200;
 }
 

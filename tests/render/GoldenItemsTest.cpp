@@ -1,8 +1,8 @@
 // Every item type in its variants, grouped on sheets.
 #include <gtest/gtest.h>
 
-#include "render/Golden.h"
-#include "render/ItemSamples.h"
+#include "tests/render/Golden.h"
+#include "tests/render/ItemSamples.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Whole layouts: frame options, languages, layers, zooms with grid.
 #include <gtest/gtest.h>
 
-#include "render/Golden.h"
-#include "render/SampleLayout.h"
+#include "tests/render/Golden.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 
@@ -49,9 +49,7 @@ TEST_F(GoldenLayout, WithEveryCalendarFormatOneBelowTheOther) {
     PtrnHedr.Parm1[HedrSlot::DateFormat] = format;
     PtrnHedr.Parm1[HedrSlot::HardCopyShown] = format % 2;
     const auto strip = PaintLayout();
-    for (gint y = 0; y < 24; ++y) {
-      std::copy_n(strip->Row(y), 360, sheet.Row(format * 24 + y));
-    }
+    for (gint y = 0; y < 24; ++y) std::copy_n(strip->Row(y), 360, sheet.Row(format * 24 + y));
   }
   ExpectGolden(sheet, "page-calendar");
 }
@@ -93,9 +91,7 @@ TEST_F(GoldenLayout, InEveryLanguage) {
   Drawable sheet(300, 180);
   for (Language = 0; Language < 3; ++Language) {
     const auto picture = PaintLayout();
-    for (gint y = 0; y < 60; ++y) {
-      std::copy_n(picture->Row(y), 300, sheet.Row(Language * 60 + y));
-    }
+    for (gint y = 0; y < 60; ++y) std::copy_n(picture->Row(y), 300, sheet.Row(Language * 60 + y));
   }
   ExpectGolden(sheet, "languages");
 }

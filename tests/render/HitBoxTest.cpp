@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "render/HitProbe.h"
+#include "tests/render/HitProbe.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <climits>
 
-#include "render/HitProbe.h"
+#include "tests/render/HitProbe.h"
 
 namespace {
 

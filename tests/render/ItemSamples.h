@@ -1,8 +1,8 @@
 // Items with sensible parameters, ready to place.
 #pragma once
 
-#include "render/Scene.h"
-#include "render/SceneArt.h"
+#include "tests/render/Scene.h"
+#include "tests/render/SceneArt.h"
 
 inline PTRNDATA FrameItem(gint x1, gint y1, gint x2, gint y2, gint width) {
   PTRNDATA item = MakeItem(TypeFrame, x1, y1, x2, y2,

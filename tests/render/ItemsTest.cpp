@@ -3,8 +3,8 @@
 
 #include <climits>
 
-#include "render/ItemSamples.h"
-#include "render/SampleLayout.h"
+#include "tests/render/ItemSamples.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 

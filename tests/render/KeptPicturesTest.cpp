@@ -1,13 +1,12 @@
 // Pictures are kept between paintings, and a change of what they are made from shows at once.
-#include "render/pictures/KeptPictures.h"
-
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>
 
-#include "AsciiPicture.h"
 #include "render/Marks.h"
+#include "render/pictures/KeptPictures.h"
 #include "support/Resource.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -31,8 +30,8 @@ class KeptMark : public testing::Test {
     SetDrawMark();
   }
   std::string Painted(gint background) {
-    FillPixels(&paper_.surface, 0, 0, 2, 1, 0x808080);
-    DrawMark(&paper_.surface, &paper_.gc, 0, 0, 16, 32, ColourRed, background, 0);
+    FillPixels(&paper_.Surface, 0, 0, 2, 1, 0x808080);
+    DrawMark(&paper_.Surface, &paper_.Gc, 0, 0, 16, 32, ColourRed, background, 0);
     return paper_.Text();
   }
 
@@ -63,22 +62,22 @@ TEST(KeptPictureText, FollowsAColourChangedInPlace) {
   std::string colour = "X c #FF0000";
   const gchar* picture[] = {"1 1 1 1", colour.c_str(), "X"};
   Paper paper(2, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   EXPECT_EQ(paper.Text(), "\nrr\n");
   colour.replace(5, 6, "00FF00");
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   EXPECT_EQ(paper.Text(), "\ngg\n");
 }
 
 TEST(KeptPictureText, OfAnotherSizeAtTheSamePlaceIsRead) {
   const gchar* picture[] = {"1 1 1 1", "X c #FF0000", "X", "X"};
   Paper paper(1, 2);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 1, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 1, 1, picture);
   picture[0] = "1 2 1 1";
   picture[2] = " ";
   picture[3] = "X";
   picture[1] = "X c #00FF00";
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 1, 2, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 1, 2, picture);
   EXPECT_EQ(paper.Text(), "\ng\ng\n");
 }
 
@@ -90,7 +89,7 @@ TEST(KeptBitmap, FollowsItsFileAtAnySize) {
     const std::string fresh = folder.Path("fresh.png");
     gdk_pixbuf_save(OneColour(rgb).get(), fresh.c_str(), "png", nullptr, nullptr);
     std::rename(fresh.c_str(), file.c_str());
-    DrawBmap(&paper.surface, &paper.gc, 0, 0, 4, 1, -1, folder.Path().c_str(), "a.png");
+    DrawBmap(&paper.Surface, &paper.Gc, 0, 0, 4, 1, -1, folder.Path().c_str(), "a.png");
     return paper.Text();
   };
   EXPECT_EQ(paint(0xff0000), "\nrrrr\n");
@@ -104,8 +103,8 @@ TEST(KeptPictures, AreFoundByKeyAndSize) {
   EXPECT_EQ(kept->PixelCount(), 6u);
   EXPECT_EQ(FindKept(key, 3, 2), kept);
   EXPECT_EQ(FindKept(key, 2, 3), nullptr);
-  EXPECT_EQ(FindKept({key.source, 2, -1}, 3, 2), nullptr);
-  EXPECT_EQ(FindKept({key.source, 1, 0}, 3, 2), nullptr);
+  EXPECT_EQ(FindKept({key.Source, 2, -1}, 3, 2), nullptr);
+  EXPECT_EQ(FindKept({key.Source, 1, 0}, 3, 2), nullptr);
   EXPECT_EQ(FindKept({NewPictureSource(), 1, -1}, 3, 2), nullptr);
 }
 

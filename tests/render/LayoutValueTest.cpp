@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "layout/Layout.h"
-#include "render/SampleLayout.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 

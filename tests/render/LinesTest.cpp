@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <random>
 #include <vector>
 
-#include "AsciiPicture.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -11,7 +12,7 @@ constexpr gint Black = ColourBlack;
 
 TEST(Lines, OnePixelWideIncludesBothEnds) {
   Paper paper(8, 3);
-  DrawLine(&paper.surface, &paper.gc, 1, 1, 6, 1, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 1, 1, 6, 1, 0, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ........
 .######.
@@ -21,7 +22,7 @@ TEST(Lines, OnePixelWideIncludesBothEnds) {
 
 TEST(Lines, OnePixelWideIgnoresThePosition) {
   Paper paper(5, 3);
-  DrawLine(&paper.surface, &paper.gc, 2, 0, 2, 2, 0, 1, 1, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 2, 0, 2, 2, 0, 1, 1, Black);
   EXPECT_EQ(paper.Text(), R"(
 ..#..
 ..#..
@@ -31,7 +32,7 @@ TEST(Lines, OnePixelWideIgnoresThePosition) {
 
 TEST(Lines, PointIsOnePixel) {
   Paper paper(3, 3);
-  DrawLine(&paper.surface, &paper.gc, 1, 1, 1, 1, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 1, 1, 1, 1, 0, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ...
 .#.
@@ -41,7 +42,7 @@ TEST(Lines, PointIsOnePixel) {
 
 TEST(Lines, CentredVerticalOfThreeCoversOneOnEachSide) {
   Paper paper(9, 2);
-  DrawLine(&paper.surface, &paper.gc, 4, 0, 4, 1, 0, 3, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 4, 0, 4, 1, 0, 3, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ...###...
 ...###...
@@ -50,7 +51,7 @@ TEST(Lines, CentredVerticalOfThreeCoversOneOnEachSide) {
 
 TEST(Lines, CentredVerticalOfFourLeansLeft) {
   Paper paper(9, 1);
-  DrawLine(&paper.surface, &paper.gc, 4, 0, 4, 0, 0, 4, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 4, 0, 4, 0, 0, 4, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ..####...
 )");
@@ -58,7 +59,7 @@ TEST(Lines, CentredVerticalOfFourLeansLeft) {
 
 TEST(Lines, TopLeftLiesWhollyBeforeTheLine) {
   Paper paper(9, 1);
-  DrawLine(&paper.surface, &paper.gc, 4, 0, 4, 0, 0, 3, 1, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 4, 0, 4, 0, 0, 3, 1, Black);
   EXPECT_EQ(paper.Text(), R"(
 .###.....
 )");
@@ -66,7 +67,7 @@ TEST(Lines, TopLeftLiesWhollyBeforeTheLine) {
 
 TEST(Lines, BottomRightBeginsOnTheLine) {
   Paper paper(9, 1);
-  DrawLine(&paper.surface, &paper.gc, 4, 0, 4, 0, 0, 3, 2, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 4, 0, 4, 0, 0, 3, 2, Black);
   EXPECT_EQ(paper.Text(), R"(
 ....###..
 )");
@@ -74,9 +75,9 @@ TEST(Lines, BottomRightBeginsOnTheLine) {
 
 TEST(Lines, HorizontalPositionsMoveUpAndDown) {
   Paper paper(6, 7);
-  DrawLine(&paper.surface, &paper.gc, 0, 3, 1, 3, 0, 2, 0, Black);
-  DrawLine(&paper.surface, &paper.gc, 2, 3, 3, 3, 0, 3, 1, ColourRed);
-  DrawLine(&paper.surface, &paper.gc, 4, 3, 5, 3, 0, 3, 2, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 3, 1, 3, 0, 2, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 2, 3, 3, 3, 0, 3, 1, ColourRed);
+  DrawLine(&paper.Surface, &paper.Gc, 4, 3, 5, 3, 0, 3, 2, Black);
   EXPECT_EQ(paper.Text(), R"(
 ..rr..
 ..rr..
@@ -90,7 +91,7 @@ TEST(Lines, HorizontalPositionsMoveUpAndDown) {
 
 TEST(Lines, FlatSlantedLine) {
   Paper paper(9, 3);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 8, 2, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 8, 2, 0, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ##.......
 ..####...
@@ -101,7 +102,7 @@ TEST(Lines, FlatSlantedLine) {
 // Exact halves go on towards the end.
 TEST(Lines, SteepLineUpwards) {
   Paper paper(3, 5);
-  DrawLine(&paper.surface, &paper.gc, 0, 4, 2, 0, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 4, 2, 0, 0, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ..#
 ..#
@@ -114,7 +115,7 @@ TEST(Lines, SteepLineUpwards) {
 // Offsets 0, -1, -1, 0, -2 of a width of five: three rows only, none below the line.
 TEST(Lines, WideSlantedLineRepeatsItsOffsets) {
   Paper paper(6, 6);
-  DrawLine(&paper.surface, &paper.gc, 1, 2, 4, 3, 0, 5, 2, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 1, 2, 4, 3, 0, 5, 2, Black);
   EXPECT_EQ(paper.Text(), R"(
 .##...
 .####.
@@ -128,7 +129,7 @@ TEST(Lines, WideSlantedLineRepeatsItsOffsets) {
 // The sixth copy lies one below.
 TEST(Lines, WideSteepLineMovesSideways) {
   Paper paper(6, 3);
-  DrawLine(&paper.surface, &paper.gc, 2, 0, 3, 2, 0, 6, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 2, 0, 3, 2, 0, 6, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ####..
 .####.
@@ -138,7 +139,7 @@ TEST(Lines, WideSteepLineMovesSideways) {
 
 TEST(Lines, LongDashesCountFromTheFirstEnd) {
   Paper paper(40, 1);
-  DrawLine(&paper.surface, &paper.gc, 1, 0, 38, 0, 1, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 1, 0, 38, 0, 1, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 .############....############....######.
 )");
@@ -146,7 +147,7 @@ TEST(Lines, LongDashesCountFromTheFirstEnd) {
 
 TEST(Lines, ShortDashesOfALineDrawnBackwards) {
   Paper paper(14, 1);
-  DrawLine(&paper.surface, &paper.gc, 13, 0, 0, 0, 2, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 13, 0, 0, 0, 2, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ##..####..####
 )");
@@ -154,7 +155,7 @@ TEST(Lines, ShortDashesOfALineDrawnBackwards) {
 
 TEST(Lines, EveryOtherStyleHasShortDashes) {
   Paper paper(8, 1);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 7, 0, 99, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 7, 0, 99, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ####..##
 )");
@@ -162,7 +163,7 @@ TEST(Lines, EveryOtherStyleHasShortDashes) {
 
 TEST(Lines, DashesOfAWideLineStandSideBySide) {
   Paper paper(4, 8);
-  DrawLine(&paper.surface, &paper.gc, 1, 0, 1, 7, 2, 2, 2, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 1, 0, 1, 7, 2, 2, 2, Black);
   EXPECT_EQ(paper.Text(), R"(
 .##.
 .##.
@@ -177,7 +178,7 @@ TEST(Lines, DashesOfAWideLineStandSideBySide) {
 
 TEST(Lines, SlantedDashesCountPixels) {
   Paper paper(8, 8);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 7, 7, 2, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 7, 7, 2, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 #.......
 .#......
@@ -192,10 +193,10 @@ TEST(Lines, SlantedDashesCountPixels) {
 
 TEST(Lines, NoWidthOrUnknownColourDrawsNothing) {
   Paper paper(4, 1);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 3, 0, 0, 0, 0, Black);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 3, 0, 0, -5, 0, Black);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 3, 0, 0, 1, 0, -1);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 3, 0, 0, 1, 0, 103);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 3, 0, 0, 0, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 3, 0, 0, -5, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 3, 0, 0, 1, 0, -1);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 3, 0, 0, 1, 0, 103);
   EXPECT_EQ(paper.Text(), R"(
 ....
 )");
@@ -204,9 +205,9 @@ TEST(Lines, NoWidthOrUnknownColourDrawsNothing) {
 TEST(Lines, FarEndsKeepSlopeAndDashes) {
   constexpr gint Far = 2000000000;
   Paper paper(6, 3);
-  DrawLine(&paper.surface, &paper.gc, -Far, -Far, Far, Far, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, -Far, -Far, Far, Far, 0, 1, 0, Black);
   // 2,000,000,000 is 2 more than a multiple of 6, so x = 0 is the third pixel of a dash.
-  DrawLine(&paper.surface, &paper.gc, -Far, 2, Far, 2, 2, 1, 0, ColourRed);
+  DrawLine(&paper.Surface, &paper.Gc, -Far, 2, Far, 2, 2, 1, 0, ColourRed);
   EXPECT_EQ(paper.Text(), R"(
 #.....
 .#....
@@ -216,9 +217,9 @@ rr#.rr
 
 TEST(Lines, ExtremeNumbersAreHarmless) {
   Paper paper(2, 2);
-  DrawLine(&paper.surface, &paper.gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, 1, G_MAXINT, 0, 1);
-  DrawLine(&paper.surface, &paper.gc, G_MAXINT, 0, G_MININT, 1, 2, 1, 0, ColourRed);
-  DrawLine(&paper.surface, &paper.gc, 0, 0, 0, 1, 0, G_MAXINT, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, G_MININT, G_MININT, G_MAXINT, G_MAXINT, 1, G_MAXINT, 0, 1);
+  DrawLine(&paper.Surface, &paper.Gc, G_MAXINT, 0, G_MININT, 1, 2, 1, 0, ColourRed);
+  DrawLine(&paper.Surface, &paper.Gc, 0, 0, 0, 1, 0, G_MAXINT, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ##
 ##
@@ -227,7 +228,7 @@ TEST(Lines, ExtremeNumbersAreHarmless) {
 
 TEST(Lines, PlaneOriginMovesThePicture) {
   Paper paper(4, 2, 100, 50);
-  DrawLine(&paper.surface, &paper.gc, 99, 51, 101, 51, 0, 1, 0, Black);
+  DrawLine(&paper.Surface, &paper.Gc, 99, 51, 101, 51, 0, 1, 0, Black);
   EXPECT_EQ(paper.Text(), R"(
 ....
 ##..
@@ -269,16 +270,14 @@ class PlainLines {
       const gint on = style == 1 ? 12 : 4;
       const gint period = style == 1 ? 16 : 6;
       if (style == 0 || i % period < on) {
-        FillPixels(&paper_.surface, x1 + Share(x2 - x1, i, steps), y1 + Share(y2 - y1, i, steps), 1,
+        FillPixels(&paper_.Surface, x1 + Share(x2 - x1, i, steps), y1 + Share(y2 - y1, i, steps), 1,
                    1, 0);
       }
     }
   }
   // distance * i / steps, rounded half away from zero.
   static gint Share(gint distance, gint i, gint steps) {
-    if (steps == 0) {
-      return 0;
-    }
+    if (steps == 0) return 0;
     const gint sign = distance < 0 ? -1 : 1;
     return sign * ((2 * std::abs(distance) * i + steps) / (2 * steps));
   }
@@ -297,7 +296,7 @@ TEST(Lines, AgreeWithPlainCopiesOfTheLine) {
     const gint y2 = round % 4 == 1 ? y1 : number(-20, 60);
     const gint style = number(0, 2), width = number(1, 9), position = number(0, 2);
     Paper paper(40, 40), plain(40, 40);
-    DrawLine(&paper.surface, &paper.gc, x1, y1, x2, y2, style, width, position, Black);
+    DrawLine(&paper.Surface, &paper.Gc, x1, y1, x2, y2, style, width, position, Black);
     PlainLines(plain).Draw(x1, y1, x2, y2, style, width, position);
     ASSERT_EQ(paper.Text(), plain.Text())
         << x1 << "," << y1 << " " << x2 << "," << y2 << " style " << style << " width " << width;

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
+
 #include <cstring>
 #include <string>
 
-#include "AsciiPicture.h"
 #include "render/Marks.h"
 #include "support/Resource.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -60,7 +61,7 @@ TEST_F(Marks, OpaqueMarkPaintsItsBackground) {
   MarkData[0].mark[0] = 0x05;
   SetDrawMark();
   Paper paper(6, 2);
-  DrawMark(&paper.surface, &paper.gc, 1, 0, 16, 32, Black, Red, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 1, 0, 16, 32, Black, Red, 0);
   EXPECT_EQ(paper.Text(), R"(
 .#r#rr
 .rrrrr
@@ -71,7 +72,7 @@ TEST_F(Marks, TransparentMarkLeavesItsBackground) {
   MarkData[0].mark[0] = 0x05;
   SetDrawMark();
   Paper paper(6, 2);
-  DrawMark(&paper.surface, &paper.gc, 1, 0, 16, 32, Red, -1, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 1, 0, 16, 32, Red, -1, 0);
   EXPECT_EQ(paper.Text(), R"(
 .r.r..
 ......
@@ -82,7 +83,7 @@ TEST_F(Marks, PaintsOverItsOriginOnAMovedPlane) {
   MarkData[0].mark[0] = 0x05;
   SetDrawMark();
   Paper paper(3, 1, 10, 10);
-  DrawMark(&paper.surface, &paper.gc, 8, 10, 16, 32, Red, -1, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 8, 10, 16, 32, Red, -1, 0);
   EXPECT_EQ(paper.Text(), R"(
 r..
 )");
@@ -93,7 +94,7 @@ TEST_F(Marks, ScalesToTheBox) {
   std::memset(MarkData[200].mark, 0xff, sizeof MarkData[200].mark);
   SetDrawMark();
   Paper paper(7, 4);
-  DrawMark(&paper.surface, &paper.gc, 1, 1, 5, 2, Black, White, 200);
+  DrawMark(&paper.Surface, &paper.Gc, 1, 1, 5, 2, Black, White, 200);
   EXPECT_EQ(paper.Text(), R"(
 .......
 .#####.
@@ -108,7 +109,7 @@ TEST_F(Marks, TheKeyColourIsNeverSeen) {
   MarkData[0].mark[0] = 0xff;
   SetDrawMark();
   Paper paper(4, 1);
-  DrawMark(&paper.surface, &paper.gc, 0, 0, 16, 32, 7, -1, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 0, 0, 16, 32, 7, -1, 0);
   EXPECT_EQ(paper.Text(), R"(
 ....
 )");
@@ -119,12 +120,12 @@ TEST_F(Marks, NumbersOutOfRangeAndEmptyBoxesDrawNothing) {
   SetDrawMark();
   Paper paper(4, 1);
   for (const gint mark : {-1, 354, G_MAXINT}) {
-    DrawMark(&paper.surface, &paper.gc, 0, 0, 16, 32, Black, Red, mark);
+    DrawMark(&paper.Surface, &paper.Gc, 0, 0, 16, 32, Black, Red, mark);
   }
-  DrawMark(&paper.surface, &paper.gc, 0, 0, 16, 32, 103, Red, 0);
-  DrawMark(&paper.surface, &paper.gc, 0, 0, 16, 32, Black, 103, 0);
-  DrawMark(&paper.surface, &paper.gc, 0, 0, 0, 32, Black, Red, 0);
-  DrawMark(&paper.surface, &paper.gc, 0, 0, 16, -32, Black, Red, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 0, 0, 16, 32, 103, Red, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 0, 0, 16, 32, Black, 103, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 0, 0, 0, 32, Black, Red, 0);
+  DrawMark(&paper.Surface, &paper.Gc, 0, 0, 16, -32, Black, Red, 0);
   EXPECT_EQ(paper.Text(), R"(
 ....
 )");
@@ -134,7 +135,7 @@ TEST_F(Marks, EnormousBoxShowsItsPart) {
   std::memset(MarkData[0].mark, 0xff, sizeof MarkData[0].mark);
   SetDrawMark();
   Paper paper(3, 1);
-  DrawMark(&paper.surface, &paper.gc, -1000000, -1000000, G_MAXINT, G_MAXINT, Black, White, 0);
+  DrawMark(&paper.Surface, &paper.Gc, -1000000, -1000000, G_MAXINT, G_MAXINT, Black, White, 0);
   EXPECT_EQ(paper.Text(), R"(
 ###
 )");

@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "render/RandomItems.h"
-#include "render/SampleLayout.h"
+#include "tests/render/RandomItems.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "Types.h"
-#include "common/Bytes.h"
+#include "tests/common/Bytes.h"
 
 // Its header claims the given size. `pixel`: blue, green, red.
 inline std::string OnePixelBitmap(gint width = 1, gint height = 1,

@@ -3,8 +3,8 @@
 
 #include <climits>
 
-#include "render/Golden.h"
-#include "render/SampleLayout.h"
+#include "tests/render/Golden.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 

@@ -1,15 +1,14 @@
 // A picture kept up to date part by part equals one painted anew.
-#include "render/PaintedLayout.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <filesystem>
 #include <random>
 
-#include "render/ItemSamples.h"
-#include "render/SampleLayout.h"
+#include "render/PaintedLayout.h"
 #include "render/pictures/PictureFiles.h"
+#include "tests/render/ItemSamples.h"
+#include "tests/render/SampleLayout.h"
 
 namespace {
 

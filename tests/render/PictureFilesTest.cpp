@@ -1,15 +1,14 @@
 // A picture file is read once for each of its states, and what tells them apart is all that the
 // system knows of a file.
-#include "render/pictures/PictureFiles.h"
-
 #include <fcntl.h>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "AsciiPicture.h"
-#include "render/OnePixelBitmap.h"
+#include "render/pictures/PictureFiles.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
+#include "tests/render/OnePixelBitmap.h"
 
 namespace {
 
@@ -30,11 +29,11 @@ class PictureFiles : public testing::Test {
   // "r" or "g", "" when there is no picture.
   std::string Colour(const std::string& name = "a.bmp") {
     const FilePicture file = PictureFile(folder_.Path(name));
-    if (file.picture == nullptr) return "";
-    const guchar* pixel = gdk_pixbuf_read_pixels(file.picture);
+    if (file.Picture == nullptr) return "";
+    const guchar* pixel = gdk_pixbuf_read_pixels(file.Picture);
     return pixel[0] == 255 ? "r" : pixel[1] == 255 ? "g" : "?";
   }
-  guint64 Source(const std::string& name) { return PictureFile(folder_.Path(name)).source; }
+  guint64 Source(const std::string& name) { return PictureFile(folder_.Path(name)).Source; }
 
   TempFolder folder_;
 };
@@ -97,10 +96,10 @@ TEST_F(PictureFiles, AreReadOnceAsLongAsTheyStayTheSame) {
   Write(Red, 1000, 1);
   const FilePicture first = PictureFile(folder_.Path("a.bmp"));
   const FilePicture again = PictureFile(folder_.Path("a.bmp"));
-  EXPECT_EQ(first.picture, again.picture);
-  EXPECT_EQ(first.source, again.source);
-  EXPECT_NE(first.source, 0u);
-  EXPECT_EQ(first.state, again.state);
+  EXPECT_EQ(first.Picture, again.Picture);
+  EXPECT_EQ(first.Source, again.Source);
+  EXPECT_NE(first.Source, 0u);
+  EXPECT_EQ(first.State, again.State);
 }
 
 // Nor is a file that holds no picture looked at again and again.

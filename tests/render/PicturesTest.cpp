@@ -1,19 +1,19 @@
-#include "render/LayoutPicture.h"
-#include "render/Pictures.h"
-
 #include <gtest/gtest.h>
+
 #include <cstring>
 #include <vector>
 
-#include "AsciiPicture.h"
 #include "PtrnMisc.h"
+#include "render/LayoutPicture.h"
+#include "render/Pictures.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
 struct Shape {
-  const gchar** picture;
-  const char* header;
+  const gchar** Picture;
+  const char* Header;
 };
 
 const Shape Recoloured[] = {
@@ -27,14 +27,12 @@ const Shape Recoloured[] = {
 class Pictures : public testing::Test {
  protected:
   void SetUp() override {
-    for (const Shape& shape : Recoloured) {
-      saved_.emplace_back(shape.picture + 1, shape.picture + 4);
-    }
+    for (const Shape& shape : Recoloured) saved_.emplace_back(shape.Picture + 1, shape.Picture + 4);
     g_strlcpy(PathName, folder_.Path().c_str(), sizeof PathName);
   }
   void TearDown() override {
     for (std::size_t i = 0; i < saved_.size(); ++i) {
-      std::copy(saved_[i].begin(), saved_[i].end(), Recoloured[i].picture + 1);
+      std::copy(saved_[i].begin(), saved_[i].end(), Recoloured[i].Picture + 1);
     }
     PathName[0] = '\0';
   }
@@ -46,14 +44,14 @@ class Pictures : public testing::Test {
 
 TEST_F(Pictures, HaveTheirSizesAndColours) {
   for (const Shape& shape : Recoloured) {
-    EXPECT_STREQ(shape.picture[0], shape.header);
-    EXPECT_STREQ(shape.picture[1], "  c #FFFFFF");
-    EXPECT_STREQ(shape.picture[2], ". c #C0C0C0");
-    EXPECT_STREQ(shape.picture[3], "X c #000000");
-    const std::size_t width = std::strncmp(shape.header, "16", 2) == 0 ? 16 : 32;
+    EXPECT_STREQ(shape.Picture[0], shape.Header);
+    EXPECT_STREQ(shape.Picture[1], "  c #FFFFFF");
+    EXPECT_STREQ(shape.Picture[2], ". c #C0C0C0");
+    EXPECT_STREQ(shape.Picture[3], "X c #000000");
+    const std::size_t width = std::strncmp(shape.Header, "16", 2) == 0 ? 16 : 32;
     for (gint row = 4; row < 36; ++row) {
-      EXPECT_EQ(std::strlen(shape.picture[row]), width);
-      EXPECT_EQ(std::strspn(shape.picture[row], " .X"), width);
+      EXPECT_EQ(std::strlen(shape.Picture[row]), width);
+      EXPECT_EQ(std::strspn(shape.Picture[row], " .X"), width);
     }
   }
 }
@@ -89,7 +87,7 @@ TEST_F(Pictures, FieldsOfAnotherLengthStayAsBuiltIn) {
 TEST_F(Pictures, PixelsWithoutADefinitionTakeTheFirstColour) {
   const gchar* picture[] = {"3 1 3 1", "  c #FF0000", ", c #00FF00", "X c #000000", " .X"};
   Paper paper(3, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 3, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 3, 1, picture);
   EXPECT_EQ(paper.Text(), R"(
 rr#
 )");
@@ -98,14 +96,14 @@ rr#
 TEST_F(Pictures, OfTwoColoursOfALetterTheFirstCounts) {
   const gchar* picture[] = {"2 1 3 1", "  c #000000", "X c #FF0000", "X c #00FF00", "X "};
   Paper paper(2, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   EXPECT_EQ(paper.Text(), R"(
 r#
 )");
   // So it does when it is the first colour of all, which letters without one take, too.
   const gchar* first[] = {"3 1 3 1", "X c #FF0000", "X c #00FF00", "  c #000000", "X .", nullptr};
   Paper other(3, 1);
-  DrawXpm(&other.surface, &other.gc, 0, 0, 3, 1, first);
+  DrawXpm(&other.Surface, &other.Gc, 0, 0, 3, 1, first);
   EXPECT_EQ(other.Text(), R"(
 r#r
 )");
@@ -114,7 +112,7 @@ r#r
 TEST_F(Pictures, AColourLineWithoutALetterIsPassedOver) {
   const gchar* picture[] = {"3 1 3 1", "X c #FF0000", "", "  c #00FF00", "X "};
   Paper paper(3, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 3, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 3, 1, picture);
   EXPECT_EQ(paper.Text(), R"(
 rgr
 )");
@@ -123,7 +121,7 @@ rgr
 TEST_F(Pictures, PixelsThatARowLacksTakeTheFirstColour) {
   const gchar* picture[] = {"3 2 2 1", "  c #FF0000", "X c #000000", "X", "XXX"};
   Paper paper(3, 2);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 3, 2, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 3, 2, picture);
   EXPECT_EQ(paper.Text(), R"(
 #rr
 ###
@@ -133,7 +131,7 @@ TEST_F(Pictures, PixelsThatARowLacksTakeTheFirstColour) {
 TEST_F(Pictures, DigitsOfAColourAreOfEitherCase) {
   const gchar* picture[] = {"2 1 2 1", "  c #ff0000", "X c #00Ff00", " X"};
   Paper paper(2, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   EXPECT_EQ(paper.Text(), R"(
 rg
 )");
@@ -149,8 +147,8 @@ TEST_F(Pictures, OfTheGreatestSizesAreDrawn) {
     picture.insert(picture.end(), static_cast<std::size_t>(std::max(colours, 1)), "X c #000000");
     picture.insert(picture.end(), static_cast<std::size_t>(std::max(height, 1)), row.c_str());
     Paper paper(1, 1);
-    DrawXpm(&paper.surface, &paper.gc, 0, 0, 1, 1, picture.data());
-    return paper.surface.At(0, 0) == 0;
+    DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 1, 1, picture.data());
+    return paper.Surface.At(0, 0) == 0;
   };
   EXPECT_TRUE(draws(256, 1, 1));
   EXPECT_FALSE(draws(257, 1, 1));
@@ -166,7 +164,7 @@ TEST_F(Pictures, OfTheGreatestSizesAreDrawn) {
 TEST_F(Pictures, ColoursThatAreNoNumbersAreBlack) {
   const gchar* picture[] = {"2 1 2 1", "  c #zzzzzz", "X c None", " X"};
   Paper paper(2, 1);
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   EXPECT_EQ(paper.Text(), R"(
 ##
 )");
@@ -178,9 +176,9 @@ TEST_F(Pictures, BrokenPictureTextDrawsNothing) {
   const gchar* twoCharacters[] = {"1 1 1 2", "   c #000000", "  "};
   Paper paper(2, 1);
   for (const gchar* const* picture : {noHeader, huge, twoCharacters}) {
-    DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, picture);
+    DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, picture);
   }
-  DrawXpm(&paper.surface, &paper.gc, 0, 0, 2, 1, nullptr);
+  DrawXpm(&paper.Surface, &paper.Gc, 0, 0, 2, 1, nullptr);
   EXPECT_EQ(paper.Text(), R"(
 ..
 )");
@@ -192,9 +190,7 @@ TEST_F(Pictures, CursorBitsComeFromBlanksAndCrosses) {
   rows[0][9] = '.';
   rows[31][31] = 'X';
   std::vector<const gchar*> picture = {"32 32 3 1", "  c None", ". c #FFFFFF", "X c #000000"};
-  for (const std::string& row : rows) {
-    picture.push_back(row.c_str());
-  }
+  for (const std::string& row : rows) picture.push_back(row.c_str());
   guint8 data[128], mask[128];
   std::memset(data, 0xaa, sizeof data);
   std::memset(mask, 0xaa, sizeof mask);
@@ -231,15 +227,18 @@ TEST_F(Pictures, EveryPointersDarkShapeLiesWithinALightEdge) {
   const auto bit = [](const guint8* bits, gint x, gint y) {
     return (bits[4 * y + x / 8] & 1 << x % 8) != 0;
   };
-  for (gint no = 0; no < 8; no++)
-    for (gint y = 1; y < 31; y++)
-      for (gint x = 1; x < 31; x++)
+  for (gint no = 0; no < 8; no++) {
+    for (gint y = 1; y < 31; y++) {
+      for (gint x = 1; x < 31; x++) {
         if (bit(CursorData[no], x, y)) {
           EXPECT_TRUE(bit(CursorMask[no], x - 1, y)) << no << ": " << x << ", " << y;
           EXPECT_TRUE(bit(CursorMask[no], x + 1, y)) << no << ": " << x << ", " << y;
           EXPECT_TRUE(bit(CursorMask[no], x, y - 1)) << no << ": " << x << ", " << y;
           EXPECT_TRUE(bit(CursorMask[no], x, y + 1)) << no << ": " << x << ", " << y;
         }
+      }
+    }
+  }
 }
 
 TEST_F(Pictures, StartReadsCursorColoursAndFixedColours) {

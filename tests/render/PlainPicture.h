@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <vector>
 
-#include "render/Scene.h"
 #include "render/Surface.h"
+#include "tests/render/Scene.h"
 
 class PlainPicture {
  public:

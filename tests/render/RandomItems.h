@@ -4,8 +4,8 @@
 #include <functional>
 #include <random>
 
-#include "render/PlainPicture.h"
-#include "render/Scene.h"
+#include "tests/render/PlainPicture.h"
+#include "tests/render/Scene.h"
 
 struct RandomItem {
   PTRNDATA Item;

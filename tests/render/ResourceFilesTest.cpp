@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
+
 #include <cstring>
 
-#include "AsciiPicture.h"
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "tests/common/Bytes.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -53,9 +54,7 @@ TEST_F(ResourceFiles, ComponentsKeepTheirLowSixteenBits) {
 
 TEST_F(ResourceFiles, MissingAndShortPalettesAreBlack) {
   for (const bool present : {false, true}) {
-    if (present) {
-      folder_.Write("PtrnColr", std::string(1199, '\x7f'));
-    }
+    if (present) folder_.Write("PtrnColr", std::string(1199, '\x7f'));
     std::memset(ColrData, 0x55, sizeof ColrData);
     LoadColrFile();
     for (gint i = 0; i < ColrCount; ++i) {
@@ -83,9 +82,7 @@ TEST_F(ResourceFiles, MarksAreReadAndRebuilt) {
 
 TEST_F(ResourceFiles, MissingAndShortMarksAreEmpty) {
   for (const bool present : {false, true}) {
-    if (present) {
-      folder_.Write("PtrnMark", std::string(179199, '\xff'));
-    }
+    if (present) folder_.Write("PtrnMark", std::string(179199, '\xff'));
     std::memset(MarkData, 0xff, sizeof MarkData);
     LoadMarkFile();
     EXPECT_EQ(MarkData[0].mark[0], 0);

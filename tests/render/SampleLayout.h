@@ -1,7 +1,7 @@
 // A small layout with a header of its own and an item of every type.
 #pragma once
 
-#include "render/ItemSamples.h"
+#include "tests/render/ItemSamples.h"
 
 inline void SetHeader(gint width, gint height) {
   PtrnHedr.Parm1[HedrSlot::Width] = width;

@@ -42,8 +42,9 @@ bool Overlap(const Box& a, const Box& b) {
 Box BoxOf(const PTRNDATA& item) {
   const POINT one = item.Point1;
   const POINT two = item.Point2;
-  if (PtrnDataType[item.Type] == 0)
+  if (PtrnDataType[item.Type] == 0) {
     return {one.x, one.y, one.x + item.Size.cx, one.y + item.Size.cy};
+  }
   return {std::min(one.x, two.x), std::min(one.y, two.y), std::max(one.x, two.x),
           std::max(one.y, two.y)};
 }
@@ -194,10 +195,12 @@ TEST_P(SampleProject, LetsNoTextRunIntoAnother) {
       return PtrnDataType[item.Type] == 0 || item.Type == TypeButton ||
              item.Type == TypeScrollBar || item.Type == TypeSpinButton;
     });
-    for (gsize one = 0; one < texts.size(); ++one)
-      for (gsize other = one + 1; other < texts.size(); ++other)
+    for (gsize one = 0; one < texts.size(); ++one) {
+      for (gsize other = one + 1; other < texts.size(); ++other) {
         EXPECT_FALSE(Overlap(BoxOf(texts[one]), BoxOf(texts[other])))
             << Describe(texts[one]) << " and " << Describe(texts[other]);
+      }
+    }
   });
 }
 
@@ -221,9 +224,8 @@ TEST_P(SampleProject, NamesOnlyLayoutsPicturesAndMarksThatExist) {
     SCOPED_TRACE(Utf8(name.c_str()));
     Open(name);
     for (const PTRNDATA& item : StoredItems()) {
-      if (item.ID_Name[0] != '\0') {
-        EXPECT_THAT(layouts, Contains(item.ID_Name)) << Describe(item);
-      }
+      const std::string opened = item.ID_Name;
+      EXPECT_TRUE(opened.empty() || layouts.contains(opened)) << Describe(item);
       if (item.Type == TypeBitmap) {
         EXPECT_GT(FileSize(BmapPath, item.Text1, ""), 0) << Describe(item);
       }
@@ -258,8 +260,9 @@ TEST_P(SampleProject, RegistersExactlyTheCodesThatItsItemsUse) {
   EXPECT_STREQ(registry.front().ID_Code, "SYSTEM");
   EXPECT_EQ(+registry.front().DataCount, 100);
   std::map<std::string, gint> registered;
-  for (gsize no = 1; no < registry.size(); ++no)
+  for (gsize no = 1; no < registry.size(); ++no) {
     registered[registry[no].ID_Code] = registry[no].DataCount;
+  }
   EXPECT_EQ(registered, slots);
 }
 
@@ -274,8 +277,9 @@ TEST_P(SampleProject, LooksDifferentInEachColourSystem) {
       DrawGc gc;
       DrawWindow1(&picture, &gc);
       std::vector<guint32> pixels;
-      for (gint y = 0; y < picture.Height(); ++y)
+      for (gint y = 0; y < picture.Height(); ++y) {
         pixels.insert(pixels.end(), picture.Row(y), picture.Row(y) + picture.Width());
+      }
       pictures.insert(std::move(pixels));
     }
     // The exit window stands on a picture of its own and has one look.
@@ -290,8 +294,9 @@ TEST_P(SampleProject, AlreadyHasTheLookThatItsSettingsAskFor) {
   ASSERT_EQ(CopyFolder(ProjPath, kept.Path().c_str()), 1);
   ASSERT_EQ(CopyFolder(ProjPath, renewed.Path().c_str()), 1);
   ProjFileRenew(renewed.Path().c_str());
-  for (const std::string& name : names_)
+  for (const std::string& name : names_) {
     EXPECT_EQ(renewed.Read(name + ".ptn"), kept.Read(name + ".ptn")) << Utf8(name.c_str());
+  }
 }
 
 // Brightness of a colour, 0..255.
@@ -306,7 +311,7 @@ TEST_P(SampleProject, KeepsTextLegibleInEachColourSystem) {
   for (const std::string& name : names_) {
     Open(name);
     const std::vector<PTRNDATA> items = StoredItems();
-    for (gint system = 0; system < ColourSystems; ++system)
+    for (gint system = 0; system < ColourSystems; ++system) {
       for (const PTRNDATA& text : items) {
         if (text.Type < TypeFixedString || text.Type > TypeNumeric) continue;
         // The frame that is painted last under the text's start is its background.
@@ -314,14 +319,16 @@ TEST_P(SampleProject, KeepsTextLegibleInEachColourSystem) {
         for (const PTRNDATA& frame : items) {
           const Box box = BoxOf(frame);
           if (frame.Type == TypeFrame && box.Left <= text.Point1.x && text.Point1.x < box.Right &&
-              box.Top <= text.Point1.y && text.Point1.y < box.Bottom)
+              box.Top <= text.Point1.y && text.Point1.y < box.Bottom) {
             back = frame.Parm[FrameSlot::AreaColour + system];
+          }
         }
         if (back < 0) continue;
         EXPECT_GE(std::abs(Brightness(text.Parm[TextSlot::TextColour + system]) - Brightness(back)),
                   LeastContrast)
             << Utf8(name.c_str()) << ", colour system " << system << ": " << Describe(text);
       }
+    }
   }
 }
 

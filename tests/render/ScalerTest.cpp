@@ -1,11 +1,11 @@
 // A picture scaled in parts looks as the image library scales it as a whole.
-#include "render/surface/Scaler.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <functional>
 #include <random>
+
+#include "render/surface/Scaler.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "common/TempFolder.h"
-#include "render/Scene.h"
 #include "render/Surface.h"
+#include "tests/common/TempFolder.h"
+#include "tests/render/Scene.h"
 
 // Marks of the scene, one of every size.
 namespace SceneMark {

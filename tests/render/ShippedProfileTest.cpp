@@ -22,8 +22,9 @@ class ShippedProfile : public testing::Test {
 TEST_F(ShippedProfile, NamesTwentyFontsOfTenToTwentyFourDotsInEachLanguage) {
   gchar shown[100];
   gchar descriptor[100];
-  for (gint no = 0; no < 60; ++no)
+  for (gint no = 0; no < 60; ++no) {
     EXPECT_EQ(ProfileRead2("", "FONT", "FONTNAME", no, "ss", shown, descriptor), 2) << no;
+  }
   for (Language = 0; Language < 3; ++Language) {
     FontDataInit(0);
     EXPECT_THAT(FontHeight, testing::Each(testing::AllOf(testing::Ge(10), testing::Le(24))));
@@ -34,8 +35,9 @@ TEST_F(ShippedProfile, GivesNewProjectsAHundredColours) {
   gint red;
   gint green;
   gint blue;
-  for (gint no = 0; no < 100; ++no)
+  for (gint no = 0; no < 100; ++no) {
     EXPECT_EQ(ProfileRead2("", "PROJDATA", "COLOR", no, "iii", &red, &green, &blue), 3) << no;
+  }
 }
 
 TEST_F(ShippedProfile, FillsEveryDefaultOfANewProject) {
@@ -61,8 +63,9 @@ TEST_F(ShippedProfile, FillsEveryDefaultOfANewProject) {
 TEST_F(ShippedProfile, SuggestsNoNameAndNoFolder) {
   std::ifstream file(TEST_BUILD_DIR "/shipped/VarnixMaster.ini", std::ios::binary);
   const std::string shipped(std::istreambuf_iterator<char>(file), {});
-  for (const gchar* key : {"NAME", "PTRN", "PROG", "TITLE"})
+  for (const gchar* key : {"NAME", "PTRN", "PROG", "TITLE"}) {
     EXPECT_THAT(shipped, testing::HasSubstr("\n" + std::string(key) + "=\n"));
+  }
 }
 
 TEST_F(ShippedProfile, GivesEachItemTypeTwentySixInitialValues) {

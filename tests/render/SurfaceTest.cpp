@@ -1,8 +1,8 @@
 #include <cairo.h>
 #include <gtest/gtest.h>
 
-#include "AsciiPicture.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -48,10 +48,10 @@ TEST(Surface, SharesItsMemoryWithCairo) {
 
 TEST(Surface, FillsAreClippedWithoutOverflow) {
   Paper paper(2, 2);
-  FillPixels(&paper.surface, G_MAXINT, 0, G_MAXINT, 1, 0);
-  FillPixels(&paper.surface, 0, 0, -1, 2, 0);
-  FillPixels(&paper.surface, G_MININT, 1, G_MAXINT, G_MAXINT, 0);
-  FillPixels(&paper.surface, 1, 1, G_MAXINT, G_MAXINT, 0);
+  FillPixels(&paper.Surface, G_MAXINT, 0, G_MAXINT, 1, 0);
+  FillPixels(&paper.Surface, 0, 0, -1, 2, 0);
+  FillPixels(&paper.Surface, G_MININT, 1, G_MAXINT, G_MAXINT, 0);
+  FillPixels(&paper.Surface, 1, 1, G_MAXINT, G_MAXINT, 0);
   EXPECT_EQ(paper.Text(), R"(
 ..
 .#
@@ -65,7 +65,7 @@ TEST(Surface, PixelsAreTheHighBytesOfTheChannels) {
 
 TEST(Surface, APartBesideItHasNoPixels) {
   Paper paper(2, 2);
-  const Drawable part(paper.surface, {5, 5, 9, 9});
+  const Drawable part(paper.Surface, {5, 5, 9, 9});
   EXPECT_FALSE(part.Valid());
   EXPECT_EQ(part.Width(), 0);
   EXPECT_EQ(part.At(5, 5), 0u);

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
+
 #include <cstdlib>
 
-#include "AsciiPicture.h"
 #include "render/FontTable.h"
 #include "render/fonts/FontSet.h"
 #include "support/Resource.h"
 #include "support/Text.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ class TextOn : public testing::Test {
 
 TEST_F(TextOn, LatinAndKanjiAreExact) {
   Paper paper(24, 12);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, Euc("Ag日").c_str());
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, Euc("Ag日").c_str());
   EXPECT_EQ(paper.Text(), R"(
 ..#...........#######...
 ..#...........#.....#...
@@ -54,7 +55,7 @@ TEST_F(TextOn, LatinAndKanjiAreExact) {
 
 TEST_F(TextOn, HalfWidthKanaHasACharsetOfItsOwn) {
   Paper paper(6, 12);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, "\x8e\xb1");
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, "\x8e\xb1");
   EXPECT_EQ(paper.Text(), R"(
 ......
 #####.
@@ -74,7 +75,7 @@ TEST_F(TextOn, HalfWidthKanaHasACharsetOfItsOwn) {
 TEST_F(TextOn, BackgroundCoversAdvanceAndLineHeight) {
   FontHeight[3] = 14;
   Paper paper(8, 15);
-  DrawText(&paper.surface, &paper.gc, 1, 0, 3, ColourBlack, ColourRed, "A");
+  DrawText(&paper.Surface, &paper.Gc, 1, 0, 3, ColourBlack, ColourRed, "A");
   EXPECT_EQ(paper.Text(), R"(
 .rrrrrr.
 .rrrrrr.
@@ -113,7 +114,7 @@ TEST_F(TextOn, TheInkIsCentredInTheLine) {
   Load(Gothic16);
   for (const char* text : {",", "-"}) {
     Paper paper(8, 16);
-    DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, text);
+    DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, text);
     EXPECT_EQ(paper.Text(), text[0] == ',' ? R"(
 ........
 ........
@@ -165,7 +166,7 @@ TEST_F(TextOn, SizeAddsTheBearings) {
 TEST_F(TextOn, BaselineFollowsTheInk) {
   Load(Proportional10);
   Paper paper(3, 10);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, "i");
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, "i");
   EXPECT_EQ(paper.Text(), R"(
 ...
 .#.
@@ -186,11 +187,11 @@ TEST_F(TextOn, NothingToDrawIsNoSize) {
     const SIZE size = GetTextSize(font, "A");
     EXPECT_EQ(size.cx, 0);
     EXPECT_EQ(size.cy, 0);
-    DrawText(&paper.surface, &paper.gc, 0, 0, font, ColourBlack, ColourRed, "A");
+    DrawText(&paper.Surface, &paper.Gc, 0, 0, font, ColourBlack, ColourRed, "A");
   }
   EXPECT_EQ(GetTextSize(3, "").cx, 0);
   EXPECT_EQ(GetTextSize(3, "").cy, 0);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, ColourRed, "");
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, ColourRed, "");
   EXPECT_EQ(paper.Text(), R"(
 ...
 )");
@@ -198,7 +199,7 @@ TEST_F(TextOn, NothingToDrawIsNoSize) {
 
 TEST_F(TextOn, UnknownColoursAreLeftOut) {
   Paper paper(6, 1);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, 103, ColourRed, "A");
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, 103, ColourRed, "A");
   EXPECT_EQ(paper.Text(), R"(
 rrrrrr
 )");
@@ -214,8 +215,8 @@ TEST_F(TextOn, BytesThatAreNoTextAreSkipped) {
 
 TEST_F(TextOn, IsClippedAtTheEdges) {
   Paper paper(3, 2, 2, 6);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, "A");
-  DrawText(&paper.surface, &paper.gc, G_MAXINT, G_MININT, 3, ColourBlack, ColourRed, "A");
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, "A");
+  DrawText(&paper.Surface, &paper.Gc, G_MAXINT, G_MININT, 3, ColourBlack, ColourRed, "A");
   EXPECT_EQ(paper.Text(), R"(
 ###
 ..#
@@ -232,7 +233,7 @@ TEST_F(TextOn, AliasNamesWork) {
 TEST_F(TextOn, ScalableFontsServeWhereNoBitmapFits) {
   Load("-nobody-unheard-medium-r-normal--37-*-*-*-c-*-*-*");
   Paper paper(80, 40);
-  DrawText(&paper.surface, &paper.gc, 0, 0, 3, ColourBlack, -1, Euc("日A").c_str());
+  DrawText(&paper.Surface, &paper.Gc, 0, 0, 3, ColourBlack, -1, Euc("日A").c_str());
   const std::string text = paper.Text();
   EXPECT_NE(text.find('#'), std::string::npos);
   EXPECT_EQ(text.find('?'), std::string::npos) << "no smoothed edges";
@@ -250,7 +251,7 @@ TEST_F(TextOn, FontRootCanBeSet) {
 // The face has its centred label 2 from the left, on the line that begins at its top.
 TEST_F(TextOn, ButtonIsAFramedBoxWithALabel) {
   Paper paper(11, 15);
-  DrawButn(&paper.surface, &paper.gc, 0, 0, 10, 14, 1, 1, 0, ColourRed, ColourBlack, 0, 3, "A");
+  DrawButn(&paper.Surface, &paper.Gc, 0, 0, 10, 14, 1, 1, 0, ColourRed, ColourBlack, 0, 3, "A");
   EXPECT_EQ(paper.Text(), R"(
 gggggggggog
 grrrrrrrro.
@@ -296,11 +297,11 @@ TEST(FontNames, RelatedFontsKeepSizeWeightAndSlant) {
 
 TEST(FontSet, EveryCharsetIsDrawnWhereNoBitmapFontHasTheSize) {
   FontSet font("-nowhere-none-medium-r-normal--61-*-*-*-c-*-*-*");
-  const gint latin = font.Measure("A").width;
+  const gint latin = font.Measure("A").Width;
   EXPECT_GT(latin, 0);
   for (const char* text : {"\x8e\xb1", "\xb1\xb2", "\x8f\xb0\xa1"}) {
-    EXPECT_GT(font.Measure(text).width, 0) << text;
-    EXPECT_EQ(font.Measure(std::string("A") + text).width, latin + font.Measure(text).width);
+    EXPECT_GT(font.Measure(text).Width, 0) << text;
+    EXPECT_EQ(font.Measure(std::string("A") + text).Width, latin + font.Measure(text).Width);
   }
 }
 

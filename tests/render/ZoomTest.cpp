@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "AsciiPicture.h"
 #include "tests/common/TempFolder.h"
+#include "tests/render/AsciiPicture.h"
 
 namespace {
 
@@ -83,9 +83,9 @@ TEST(Zoom, PartsFarOutEqualTheWhole) {
 
 TEST(Zoom, TwoHundredPercentDoublesPixels) {
   Paper picture(3, 1), target(6, 2);
-  FillPixels(&picture.surface, 0, 0, 1, 1, 0);
-  FillPixels(&picture.surface, 2, 0, 1, 1, 0xff0000);
-  PaintZoomed(target.surface, picture.surface, 6, 2);
+  FillPixels(&picture.Surface, 0, 0, 1, 1, 0);
+  FillPixels(&picture.Surface, 2, 0, 1, 1, 0xff0000);
+  PaintZoomed(target.Surface, picture.Surface, 6, 2);
   EXPECT_EQ(target.Text(), R"(
 ##..rr
 ##..rr
@@ -95,14 +95,14 @@ TEST(Zoom, TwoHundredPercentDoublesPixels) {
 TEST(Zoom, NothingIsPaintedBeyondThePicture) {
   Paper target(4, 3);
   const Drawable picture(2, 2);
-  PaintZoomed(target.surface, picture, 2, 2);
+  PaintZoomed(target.Surface, picture, 2, 2);
   EXPECT_EQ(target.Text(), R"(
 ##..
 ##..
 ....
 )");
   Paper scaled(4, 3);
-  PaintZoomed(scaled.surface, picture, 3, 1);
+  PaintZoomed(scaled.Surface, picture, 3, 1);
   EXPECT_EQ(scaled.Text(), R"(
 ###.
 ....
@@ -113,8 +113,8 @@ TEST(Zoom, NothingIsPaintedBeyondThePicture) {
 TEST(Zoom, EmptySizesPaintNothing) {
   Paper target(2, 1);
   const Drawable picture(1, 1);
-  PaintZoomed(target.surface, picture, 0, 5);
-  PaintZoomed(target.surface, picture, -3, -3);
+  PaintZoomed(target.Surface, picture, 0, 5);
+  PaintZoomed(target.Surface, picture, -3, -3);
   EXPECT_EQ(target.Text(), R"(
 ..
 )");
@@ -123,7 +123,7 @@ TEST(Zoom, EmptySizesPaintNothing) {
 TEST(Zoom, OnePixelGrowsOverEverything) {
   Paper target(2, 2, 40000, 40000);
   const Drawable picture(1, 1);
-  PaintZoomed(target.surface, picture, 49995, 49995);
+  PaintZoomed(target.Surface, picture, 49995, 49995);
   EXPECT_EQ(target.Text(), R"(
 ##
 ##
@@ -133,8 +133,8 @@ TEST(Zoom, OnePixelGrowsOverEverything) {
 TEST(Png, HoldsThePixels) {
   const TempFolder folder;
   Paper paper(2, 1);
-  FillPixels(&paper.surface, 1, 0, 1, 1, 0x123456);
-  ASSERT_TRUE(WritePng(paper.surface, folder.Path("a.png").c_str()));
+  FillPixels(&paper.Surface, 1, 0, 1, 1, 0x123456);
+  ASSERT_TRUE(WritePng(paper.Surface, folder.Path("a.png").c_str()));
   const PixbufPtr read(gdk_pixbuf_new_from_file(folder.Path("a.png").c_str(), nullptr));
   ASSERT_NE(read, nullptr);
   EXPECT_EQ(gdk_pixbuf_get_width(read.get()), 2);

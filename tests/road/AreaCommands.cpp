@@ -3,9 +3,10 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 using nlohmann::json;
 
 bool MenuOpen() {
@@ -21,8 +22,9 @@ class AreaCommands : public RoadTest {
       NewLayout(640, 480);
       Look([] {
         for (const PTRNDATA& item : {BoxItem(100, 100, 140, 140, 8), BoxItem(200, 120, 260, 200, 9),
-                                     BoxItem(280, 160, 340, 220, 12)})
+                                     BoxItem(280, 160, 340, 220, 12)}) {
           AddPtrnData(&item);
+        }
         DrawRequest(1);
       });
       Settle();
@@ -158,4 +160,5 @@ TEST_F(AreaCommands, CancellingTheDialogMovesNothing) {
               json::parse("[[100,100,140,140],[200,120,260,200],[280,160,340,220]]"));
   });
 }
+
 }  // namespace

@@ -2,9 +2,10 @@
 
 #include "PtrnData.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class Closing : public RoadTest {
  protected:
   void PlayWithABox(const std::function<void()>& part) {

@@ -1,13 +1,15 @@
 #include <gtest/gtest.h>
+
 #include <filesystem>
 #include <vector>
 
 #include "Constant.h"
 #include "PtrnData.h"
 #include "app/Menus.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 using nlohmann::json;
 
 // Where an item is taken once it is drawn, again once it is reshaped, and where its last copy is.
@@ -32,10 +34,12 @@ constexpr gint CopyY = 10;
 
 json CopyOf(json item, bool twoPoints) {
   json& parm = item["Parm"];
-  for (const gsize slot : twoPoints ? std::vector<gsize>{0, 2} : std::vector<gsize>{0})
+  for (const gsize slot : twoPoints ? std::vector<gsize>{0, 2} : std::vector<gsize>{0}) {
     parm[slot] = parm[slot].get<gint>() + CopyX;
-  for (const gsize slot : twoPoints ? std::vector<gsize>{1, 3} : std::vector<gsize>{1})
+  }
+  for (const gsize slot : twoPoints ? std::vector<gsize>{1, 3} : std::vector<gsize>{1}) {
     parm[slot] = parm[slot].get<gint>() + CopyY;
+  }
   item["ID_No"] = 8;
   return item;
 }
@@ -69,10 +73,11 @@ class FifteenTypes : public RoadTest {
  private:
   static void ChooseType(const std::string& type, Way way) {
     if (way == ByRightButton) ClickCanvas(400, 300, RightButton);
-    if (way == ByRightButton)
+    if (way == ByRightButton) {
       ChooseMenu(PopupMenu[0], {type});
-    else
+    } else {
       ChooseMenu(MenuBar(), {"編集", type});
+    }
     EXPECT_NE(SeeWindow(type), nullptr) << type;
   }
 
@@ -96,8 +101,9 @@ class FifteenTypes : public RoadTest {
   static void Reshape(const Grips& grips) {
     ClickCanvas(grips.Pick.x, grips.Pick.y);
     EXPECT_TRUE(See([] { return PtrnMode == ModeSelected && PtrnNo == 0; }));
-    if (grips.Handle.x >= 0)
+    if (grips.Handle.x >= 0) {
       DragOnCanvas(grips.Handle.x, grips.Handle.y, grips.Handle.x + 31, grips.Handle.y + 22);
+    }
     DragOnCanvas(grips.Body.x, grips.Body.y, grips.Body.x + 33, grips.Body.y + 17);
   }
 
@@ -349,4 +355,5 @@ TEST_F(FifteenTypes, SpinButton) {
           "ID_Code": "PUMP_A", "ID_No": 5, "UndfFlag": 0,
           "Parm": [72,60,204,140, 0,0,0,0, 0,0,0,0, 0,0,0,0, 5,95,0,0,0,0,0,0,0,0,0,0, 0,10]})");
 }
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "road/FocusWalk.h"
+#include "tests/road/FocusWalk.h"
 
 #include <gmock/gmock.h>
 
@@ -7,10 +7,11 @@
 #include <set>
 #include <vector>
 
-#include "road/User.h"
-#include "window/Widgets.h"
+#include "tests/road/User.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 using Widgets = std::vector<GtkWidget*>;
 
 constexpr gsize TooMany = 200;
@@ -185,8 +186,9 @@ void PageWalk::WalkGrid(GtkWidget* grid) {
   while (at.first > 0 && !astray) step(GDK_KEY_Up, -1, 0);
   while (at.second > 0 && !astray) step(GDK_KEY_Left, 0, -1);
   for (gint way = 1; !astray; way = -way) {
-    while (swatches.contains({at.first, at.second + way}) && !astray)
+    while (swatches.contains({at.first, at.second + way}) && !astray) {
       step(way > 0 ? GDK_KEY_Right : GDK_KEY_Left, 0, way);
+    }
     if (astray || !swatches.contains({at.first + 1, at.second})) break;
     step(GDK_KEY_Down, 1, 0);
   }
@@ -248,14 +250,15 @@ void PageWalk::WalkDropDown(GtkComboBox* combo) const {
 void PageWalk::WalkWithin(GtkWidget* stop) {
   GtkWidget* combo = Look([stop] { return gtk_widget_get_ancestor(stop, GTK_TYPE_COMBO_BOX); });
   GtkWidget* parent = Look([stop] { return gtk_widget_get_parent(stop); });
-  if (GTK_IS_RADIO_BUTTON(stop))
+  if (GTK_IS_RADIO_BUTTON(stop)) {
     WalkChoices(stop);
-  else if (Look([stop] { return IsList(stop); }))
+  } else if (Look([stop] { return IsList(stop); })) {
     WalkRows(GTK_TREE_VIEW(stop));
-  else if (combo != nullptr)
+  } else if (combo != nullptr) {
     WalkDropDown(GTK_COMBO_BOX(combo));
-  else if (GTK_IS_DRAWING_AREA(stop) && GTK_IS_GRID(parent) && !Unreached(parent).empty())
+  } else if (GTK_IS_DRAWING_AREA(stop) && GTK_IS_GRID(parent) && !Unreached(parent).empty()) {
     WalkGrid(parent);
+  }
 }
 
 Widgets PageWalk::Unreached(GtkWidget* root) const {
@@ -278,6 +281,7 @@ void PageWalk::Walk() {
   }
   EXPECT_THAT(NamesOf(Unreached(window_)), testing::IsEmpty()) << "not reached";
 }
+
 }  // namespace
 
 void KeyTo(GtkWidget* window, guint key, std::initializer_list<guint> held) {

@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "road/Panel.h"
+#include "tests/road/Panel.h"
 
 // Presses a key once the window has the keyboard.
 void KeyTo(GtkWidget* window, guint key, std::initializer_list<guint> held = {});

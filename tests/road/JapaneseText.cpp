@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "PtrnData.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 // Entries take what their record field can hold as EUC-JP, 100 bytes here, and nothing else.
 class JapaneseText : public RoadTest {
  protected:
@@ -106,4 +107,5 @@ TEST_F(JapaneseText, RefusesWhatTheRecordCannotHold) {
     EXPECT_TRUE(EntryShows(entry, "ok～－∥"));
   });
 }
+
 }  // namespace

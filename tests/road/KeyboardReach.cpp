@@ -7,11 +7,12 @@
 #include "PtrnMisc.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "road/FocusWalk.h"
-#include "road/ProjectHands.h"
-#include "road/RoadTest.h"
+#include "tests/road/FocusWalk.h"
+#include "tests/road/ProjectHands.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 constexpr const gchar* OpenLayoutTitle = "レイアウトを開く";
 constexpr const gchar* OpenProjectTitle = "プロジェクトを開く";
 constexpr const gchar* ProjectTitle = "プロジェクトの新規作成";
@@ -362,4 +363,5 @@ TEST_F(KeyboardReach, GridAndClosing) {
     EXPECT_EQ(Look([] { return PtrnFlag; }), 2);
   });
 }
+
 }  // namespace

@@ -3,10 +3,11 @@
 #include "Constant.h"
 #include "PtrnData.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
-#include "window/Exposures.h"
+#include "tests/road/RoadTest.h"
+#include "tests/window/Exposures.h"
 
 namespace {
+
 constexpr gint Width = 1600;
 constexpr gint Height = 1200;
 
@@ -35,9 +36,11 @@ bool SamePictures(GdkPixbuf* one, GdkPixbuf* other) {
   const gint width = gdk_pixbuf_get_width(one);
   const gint height = gdk_pixbuf_get_height(one);
   if (width != gdk_pixbuf_get_width(other) || height != gdk_pixbuf_get_height(other)) return false;
-  for (gint y = 0; y < height; y++)
-    for (gint x = 0; x < width; x++)
+  for (gint y = 0; y < height; y++) {
+    for (gint x = 0; x < width; x++) {
       if (PixelAt(one, x, y) != PixelAt(other, x, y)) return false;
+    }
+  }
   return true;
 }
 
@@ -119,4 +122,5 @@ TEST_F(LargeLayout, AHoveringPointerRepaintsNothing) {
     EXPECT_EQ(Look([&] { return exposures->Pixels(); }), 0);
   });
 }
+
 }  // namespace

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
+
 #include <iostream>
 
 #include "PtrnData.h"
 #include "app/Window.h"
 #include "dialogs/ToolBox.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class ManyPicks : public RoadTest {};
 
 // Picks two items in turn with real clicks; each pick opens the tool box anew. A user in haste
@@ -64,4 +66,5 @@ TEST_F(ManyPicks, DeepenNoStackAndKeepNothing) {
     }
   });
 }
+
 }  // namespace

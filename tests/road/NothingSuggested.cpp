@@ -4,10 +4,11 @@
 
 #include "ProjData.h"
 #include "PtrnData.h"
-#include "road/ProjectHands.h"
-#include "road/RoadTest.h"
+#include "tests/road/ProjectHands.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class NothingSuggested : public RoadTest {};
 
 constexpr const gchar* SettingsTitle = "プロジェクトの新規作成";
@@ -77,4 +78,5 @@ TEST_F(NothingSuggested, ANewLayoutAsksForItsTitle) {
     }
   });
 }
+
 }  // namespace

@@ -4,9 +4,10 @@
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 using nlohmann::json;
 
 // A layout file whose numbers name no zoom, grid step, font, colour or mark.
@@ -74,4 +75,5 @@ TEST_F(OddValues, StayAsTheyAreThroughAnEdit) {
     EXPECT_EQ(Saved(LayoutName), expected);
   });
 }
+
 }  // namespace

@@ -3,9 +3,10 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 // The canvas goes on beside a layout that is smaller than the window.
 class OutsideTheLayout : public RoadTest {};
 
@@ -79,4 +80,5 @@ TEST_F(OutsideTheLayout, ADragOfAnItemStopsThere) {
     EXPECT_EQ(Saved(LayoutName)["Items"][0]["Parm"][0], 500);
   });
 }
+
 }  // namespace

@@ -1,13 +1,14 @@
-#include "road/Panel.h"
+#include "tests/road/Panel.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "road/User.h"
-#include "window/Widgets.h"
+#include "tests/road/User.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 // The marks and colours of a picker stand in columns or rows of ten.
 constexpr gint Tens = 10;
 
@@ -20,8 +21,9 @@ gint Place(GtkWidget* grid, GtkWidget* child, const gchar* property) {
 std::vector<GtkWidget*> Children(GtkWidget* grid) {
   std::vector<GtkWidget*> children;
   GList* list = gtk_container_get_children(GTK_CONTAINER(grid));
-  for (GList* link = list; link != nullptr; link = link->next)
+  for (GList* link = list; link != nullptr; link = link->next) {
     children.push_back(GTK_WIDGET(link->data));
+  }
   g_list_free(list);
   return children;
 }
@@ -29,19 +31,23 @@ std::vector<GtkWidget*> Children(GtkWidget* grid) {
 // The rows with this label in the first column, from the top; -1 = fewer than asked for.
 gint RowOf(GtkWidget* grid, const Cell& cell) {
   std::map<gint, bool> rows;
-  for (GtkWidget* child : Children(grid))
+  for (GtkWidget* child : Children(grid)) {
     if (GTK_IS_LABEL(child) && Place(grid, child, "left-attach") == 0 &&
-        cell.Label == gtk_label_get_text(GTK_LABEL(child)))
+        cell.Label == gtk_label_get_text(GTK_LABEL(child))) {
       rows[Place(grid, child, "top-attach")] = true;
+    }
+  }
   gint which = cell.Which;
-  for (const auto& [row, found] : rows)
+  for (const auto& [row, found] : rows) {
     if (which-- == 0) return row + cell.Below;
+  }
   return -1;
 }
 
 GtkWidget* FindCaptioned(GtkWidget* grid, const std::string& caption, GType kind) {
-  for (GtkWidget* child : Children(grid))
+  for (GtkWidget* child : Children(grid)) {
     if (GTK_IS_BOX(child) && FindLabel(child, caption) != nullptr) return FindKind(child, kind);
+  }
   return nullptr;
 }
 
@@ -50,9 +56,12 @@ GtkWidget* FindControl(GtkWidget* window, const Cell& cell, GType kind) {
   if (grid == nullptr) return nullptr;
   const gint row = RowOf(grid, cell);
   if (row < 0) return FindCaptioned(grid, cell.Label, kind);
-  for (GtkWidget* child : Children(grid))
-    if (Place(grid, child, "top-attach") == row && Place(grid, child, "left-attach") == cell.Column)
+  for (GtkWidget* child : Children(grid)) {
+    if (Place(grid, child, "top-attach") == row &&
+        Place(grid, child, "left-attach") == cell.Column) {
       if (GtkWidget* found = FindKind(child, kind)) return found;
+    }
+  }
   return nullptr;
 }
 
@@ -75,6 +84,7 @@ GtkWidget* ComboMenu(GtkWidget* combo) {
   AtkObject* popup = gtk_combo_box_get_popup_accessible(GTK_COMBO_BOX(combo));
   return gtk_accessible_get_widget(GTK_ACCESSIBLE(popup));
 }
+
 // A row of a list or tree, and where it is in the widget.
 struct Row {
   GtkWidget* View = nullptr;
@@ -103,6 +113,7 @@ Row FindRow(GtkWidget* window, const std::string& text) {
   });
   return row;
 }
+
 }  // namespace
 
 Panel::Panel(const std::string& title) : window_(SeeWindow(title)) {

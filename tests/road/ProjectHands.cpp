@@ -1,11 +1,12 @@
-#include "road/ProjectHands.h"
+#include "tests/road/ProjectHands.h"
 
 #include <gtest/gtest.h>
 
-#include "road/User.h"
-#include "window/Widgets.h"
+#include "tests/road/User.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 constexpr const gchar* ColourTitle = "表示色作成";
 constexpr const gchar* MakeFolderTitle = "フォルダー選択";
 constexpr const gchar* ErrorTitle = "入力エラー";
@@ -26,6 +27,7 @@ GtkWidget* SeeTextEntry(GtkWidget* window) {
   EXPECT_TRUE(See([&] { return FindWidget(window, IsTextEntry) != nullptr; })) << "no entry";
   return Look([&] { return FindWidget(window, IsTextEntry); });
 }
+
 }  // namespace
 
 void TypeNewFolder(const std::string& title, const std::string& path) {
@@ -61,10 +63,12 @@ GtkWidget* SeeOther(const std::string& title, GtkWidget* first) {
   const auto other = [&] {
     GtkWidget* found = nullptr;
     GList* windows = gtk_window_list_toplevels();
-    for (GList* link = windows; link != nullptr; link = link->next)
+    for (GList* link = windows; link != nullptr; link = link->next) {
       if (link->data != first && gtk_widget_get_mapped(GTK_WIDGET(link->data)) &&
-          g_strcmp0(gtk_window_get_title(GTK_WINDOW(link->data)), title.c_str()) == 0)
+          g_strcmp0(gtk_window_get_title(GTK_WINDOW(link->data)), title.c_str()) == 0) {
         found = GTK_WIDGET(link->data);
+      }
+    }
     g_list_free(windows);
     return found;
   };

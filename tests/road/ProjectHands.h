@@ -6,7 +6,7 @@
 #include <string>
 
 #include "Types.h"
-#include "road/Panel.h"
+#include "tests/road/Panel.h"
 
 // Types the path of a folder that does not exist yet, and has it made.
 void TypeNewFolder(const std::string& title, const std::string& path);

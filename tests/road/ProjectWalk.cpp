@@ -5,12 +5,13 @@
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
-#include "road/ProjectHands.h"
-#include "road/RoadTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/road/ProjectHands.h"
+#include "tests/road/RoadTest.h"
 #include "tests/tools/Tool.h"
 
 namespace {
+
 namespace fs = std::filesystem;
 using nlohmann::json;
 using testing::HasSubstr;
@@ -164,8 +165,9 @@ void ProjectWalk::ExpectCreatedProject() const {
   EXPECT_EQ(palette[20], json({0, 0, 0}));
   EXPECT_EQ(palette[21], json({65535, 32896, 0}));
   // The templates, in the project's look: a child window keeps its size.
-  for (const gchar* picture : {"logo.png", "water.bmp", "emblem.png"})
+  for (const gchar* picture : {"logo.png", "water.bmp", "emblem.png"}) {
     EXPECT_TRUE(Exists("work/Bitmap", picture)) << picture;
+  }
   const json leave = Shown("work", "終了確認.ptn");
   EXPECT_EQ(leave["Parm1"], Array({1, 460, 220, 0, 1,  282, 274, 1, 30, 31, 32, 0, 1,  0,  0,
                                    0, 0,   0,   0, 33, 0,   0,   0, 5,  34, 1,  0, 41, 42, 0},
@@ -319,12 +321,13 @@ void ProjectWalk::ChangeProject() const {
   EXPECT_TRUE(SeeGone(SettingsTitle));
   Settle();
 
-  for (const gchar* name : {"親画面.ptn", "取寄画面.ptn"})
+  for (const gchar* name : {"親画面.ptn", "取寄画面.ptn"}) {
     EXPECT_EQ(Shown("work", name)["Parm1"],
               Array({0, 800, 600, 0, 0,  0, 0,  0,  44, 21, 22, 0, 1,  1,  1,
                      1, 0,   2,   0, 25, 0, 56, 24, 0,  0,  1,  0, 41, 42, 0},
                     30))
         << name;
+  }
   EXPECT_EQ(Shown("work", "取寄画面.ptn")["LogoName"], "emblem.png");
   EXPECT_EQ(Shown("work", "取寄画面.ptn")["Parm2"], Array({0, 0, 4, 6, 0, 0, 43}, 10));
   // One opted out; a child window keeps its size.
@@ -347,10 +350,12 @@ void ProjectWalk::MoveProject() const {
   TypeNewFolder("プロジェクト領域へのパス", Home.Path("moved"));
   settings.Press(" 登録 ");
   EXPECT_TRUE(WindowIsCalled("レイアウト作成  [移転計画]"));
-  for (const gchar* folder : {"work", "moved"})
+  for (const gchar* folder : {"work", "moved"}) {
     for (const gchar* name : {"親画面.ptn", "固定画面.ptn", "子画面.ptn", "取寄画面.ptn",
-                              "試験計画.prj", "PtrnColr", "PtrnMark", "Bitmap/emblem.png"})
+                              "試験計画.prj", "PtrnColr", "PtrnMark", "Bitmap/emblem.png"}) {
       EXPECT_TRUE(Exists(folder, name)) << folder << "/" << name;
+    }
+  }
   EXPECT_TRUE(Exists("moved", "移転計画.prj"));
   EXPECT_FALSE(Exists("work", "移転計画.prj"));
   EXPECT_THAT(Folder.Profile(), HasSubstr("PROJNAME1=" + EucFromUtf8("移転計画").value() + "," +
@@ -382,8 +387,9 @@ void ProjectWalk::Generate() const {
             "#define     VERSION_START           100\n"
             "#define     VERSION_STATION         101\n");
   const std::string source = Home.Read("sources/" + EucFromUtf8("移転計画").value() + ".cpp");
-  for (const gchar* name : {"親画面", "固定画面", "子画面", "取寄画面"})
+  for (const gchar* name : {"親画面", "固定画面", "子画面", "取寄画面"}) {
     EXPECT_THAT(source, HasSubstr(EucFromUtf8(name).value()));
+  }
   const std::string runtime = Home.Read("sources/" + EucFromUtf8("移転計画").value() + ".ini");
   EXPECT_THAT(runtime, HasSubstr("DISPSIZE=800,600 "));
   EXPECT_THAT(runtime, HasSubstr("PTRNSTART=" + EucFromUtf8("親画面").value() + " "));
@@ -401,8 +407,9 @@ void ProjectWalk::Walk() const {
                                                     &ProjectWalk::MoveProject,
                                                     &ProjectWalk::FindProjects,
                                                     &ProjectWalk::Generate};
-  for (const auto step : Steps)
+  for (const auto step : Steps) {
     if (!HasFailure()) (this->*step)();
+  }
 }
 
 TEST_F(ProjectWalk, FromNothingToSources) {
@@ -422,4 +429,5 @@ TEST_F(ProjectWalk, FromNothingToSources) {
   EXPECT_EQ(program.Wait(), 0);
   EXPECT_EQ(program.Complaints(), "");
 }
+
 }  // namespace

@@ -3,17 +3,19 @@
 #include "PtrnData.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class RightButtonMenus : public RoadTest {};
 
 // Which of the three menus is open, 0 = none.
 gint OpenMenu() {
   Settle();
   return Look([] {
-    for (gint no = 0; no < 3; no++)
+    for (gint no = 0; no < 3; no++) {
       if (gtk_widget_get_mapped(PopupMenu[no])) return no + 1;
+    }
     return 0;
   });
 }
@@ -94,6 +96,7 @@ TEST_F(RightButtonMenus, ANumberJustTypedIsRegistered) {
     EXPECT_EQ(Saved(LayoutName)["Items"][0]["Parm"][15], 7);
   });
 }
+
 // Where a menu stands on the screen, from where the canvas does.
 POINT PlaceOf(GtkWidget* menu) {
   POINT canvas{0, 0};
@@ -145,4 +148,5 @@ TEST_F(RightButtonMenus, AKeyOpensThemAtThePointerOrWhereTheWorkIs) {
     EXPECT_EQ(Look([] { return PtrnMode; }), ModeIdle);
   });
 }
+
 }  // namespace

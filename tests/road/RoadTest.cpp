@@ -1,4 +1,4 @@
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 #include <gtest/gtest.h>
 #include <malloc.h>

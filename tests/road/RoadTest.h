@@ -4,11 +4,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include "road/Panel.h"
-#include "road/User.h"
-#include "window/Program.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/road/Panel.h"
+#include "tests/road/User.h"
+#include "tests/window/Program.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 inline const std::string LayoutName = "試験画面";
 

@@ -1,4 +1,4 @@
-#include "road/Seat.h"
+#include "tests/road/Seat.h"
 
 #include <X11/extensions/XTest.h>
 

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <iostream>
 
 #include "PtrnData.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 // A long session: edits of all kinds, and between them everything else that a user does.
 class Soak : public RoadTest {};
 
@@ -82,18 +84,22 @@ void OpenSettings() {
   PressKey(GDK_KEY_i, {GDK_KEY_Control_L});
   Dismiss("レイアウト情報の設定［その他］");
 }
+
 void OpenPalette() {
   PressKey(GDK_KEY_l, {GDK_KEY_Control_L});
   Dismiss("表示色設定");
 }
+
 void OpenMarks() {
   PressKey(GDK_KEY_m, {GDK_KEY_Control_L});
   Dismiss("マーク設定");
 }
+
 void OpenGridSettings() {
   PressKey(GDK_KEY_g, {GDK_KEY_Control_L, GDK_KEY_Shift_L});
   Dismiss("方眼設定");
 }
+
 void OpenRightButtonMenu() {
   ClickCanvas(300, 300, RightButton);
   PressKey(GDK_KEY_Escape);
@@ -154,4 +160,5 @@ TEST_F(Soak, MemoryStaysAsItIsAfterTheFirstEdits) {
     }
   });
 }
+
 }  // namespace

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <filesystem>
 #include <fstream>
 
@@ -6,9 +7,10 @@
 #include "PtrnMisc.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 // From an empty layout to the code of the project, with every question on the way.
 class ToTheCode : public RoadTest {
  protected:
@@ -112,4 +114,5 @@ TEST_F(ToTheCode, ThroughEveryDialog) {
             std::string::npos);
   EXPECT_NE(Generated("WaterWorks.ini").find("[VARNIXPACK]"), std::string::npos);
 }
+
 }  // namespace

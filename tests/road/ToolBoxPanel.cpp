@@ -4,10 +4,11 @@
 #include "app/Menus.h"
 #include "app/Window.h"
 #include "dialogs/ToolBox.h"
-#include "road/RoadTest.h"
-#include "window/LowScreen.h"
+#include "tests/road/RoadTest.h"
+#include "tests/window/LowScreen.h"
 
 namespace {
+
 // The tool box as the user meets it: a window to be pushed aside that tells of the item in hand.
 class ToolBoxPanel : public RoadTest {};
 
@@ -39,8 +40,9 @@ bool Shows(GtkWidget** label, const std::string& text) {
 std::string Usable() {
   return Look([] {
     std::string states;
-    for (GtkWidget* button : ToolBoxButton)
+    for (GtkWidget* button : ToolBoxButton) {
       states += button != nullptr && gtk_widget_get_sensitive(button) ? '1' : '0';
+    }
     return states;
   });
 }
@@ -255,4 +257,5 @@ TEST_F(ToolBoxPanel, TheWheelScrollsALowScreensPanelOverEveryControl) {
     EXPECT_EQ(Look([] { return PtrnData.Parm[TextSlot::Font]; }), font);
   });
 }
+
 }  // namespace

@@ -4,11 +4,12 @@
 #include "ProjData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"
-#include "common/TempFolder.h"
-#include "road/RoadTest.h"
+#include "tests/common/TempFolder.h"
+#include "tests/road/RoadTest.h"
 #include "tests/tools/Tool.h"
 
 namespace {
+
 // The folder chooser waits with the home folder's path in its entry.
 bool AwaitsTyping(GtkWidget* chooser) {
   return See([chooser] {
@@ -143,4 +144,5 @@ TEST_F(Tutorial, EndsInAProjectWithoutFindings) {
   EXPECT_EQ(after.Code, 0) << after.Err;
   EXPECT_TRUE(Home.Exists("PumpLogic/Pump.cpp"));
 }
+
 }  // namespace

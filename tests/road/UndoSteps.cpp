@@ -3,9 +3,10 @@
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "app/Menus.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class UndoSteps : public RoadTest {};
 
 // Draws and registers boxes one after the other, all of the type chosen once.
@@ -79,4 +80,5 @@ TEST_F(UndoSteps, UndoAfterASaveEmptiesTheLayout) {
     EXPECT_EQ(Saved(LayoutName)["DataCount"], 2);
   });
 }
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "road/User.h"
+#include "tests/road/User.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +6,11 @@
 #include <thread>
 
 #include "layout/EditWindows.h"
-#include "road/Seat.h"
-#include "window/Widgets.h"
+#include "tests/road/Seat.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 constexpr auto Patience = std::chrono::seconds(30);
 // Once something went wrong, what follows from it is not waited for: a part of many steps would
 // take minutes to fail.
@@ -27,11 +28,12 @@ gsize KeyPresses;
 // Where the latest pointer motion that has reached the program led, on the screen.
 POINT MovedTo{-1, -1};
 
-void NoteEvent(GdkEvent* event, gpointer) {
+void NoteEvent(GdkEvent* event, gpointer /*data*/) {
   if (event->type == GDK_BUTTON_PRESS) Presses++;
   if (event->type == GDK_KEY_PRESS) KeyPresses++;
-  if (event->type == GDK_MOTION_NOTIFY)
+  if (event->type == GDK_MOTION_NOTIFY) {
     MovedTo = {static_cast<gint>(event->motion.x_root), static_cast<gint>(event->motion.y_root)};
+  }
   gtk_main_do_event(event);
 }
 
@@ -159,11 +161,13 @@ void CloseAllButTheMainWindow() {
   for (GList* link = windows; link != nullptr; link = link->next) {
     auto* window = static_cast<GtkWindow*>(link->data);
     const bool menu = gtk_window_get_window_type(window) == GTK_WINDOW_POPUP;
-    if (!menu && GTK_WIDGET(window) != PtrnWnd && gtk_widget_get_visible(GTK_WIDGET(window)))
+    if (!menu && GTK_WIDGET(window) != PtrnWnd && gtk_widget_get_visible(GTK_WIDGET(window))) {
       gtk_widget_destroy(GTK_WIDGET(window));
+    }
   }
   g_list_free_full(windows, g_object_unref);
 }
+
 }  // namespace
 
 void Post(std::function<void()> task, bool idle) {
@@ -350,9 +354,10 @@ void PressManagersKey(guint key, std::initializer_list<guint> held) {
 void TypeText(const std::string& text) {
   for (const char letter : text) {
     const guint key = gdk_unicode_to_keyval(static_cast<guint32>(letter));
-    if (Hands->NeedsShift(key))
+    if (Hands->NeedsShift(key)) {
       PressKey(key, {GDK_KEY_Shift_L});
-    else
+    } else {
       PressKey(key);
+    }
   }
 }

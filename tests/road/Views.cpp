@@ -3,9 +3,10 @@
 #include "PtrnData.h"
 #include "PtrnMisc.h"
 #include "app/Window.h"
-#include "road/RoadTest.h"
+#include "tests/road/RoadTest.h"
 
 namespace {
+
 class Views : public RoadTest {
  protected:
   void PlayWithBoxes(const std::function<void()>& part) {
@@ -133,4 +134,5 @@ TEST_F(Views, UnpickableTypesLetThePressThrough) {
     EXPECT_TRUE(See([] { return PtrnMode == ModeSelected && PtrnNo == 0; }));
   });
 }
+
 }  // namespace

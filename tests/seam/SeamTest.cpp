@@ -30,12 +30,15 @@ gint Asked() {
 void SetDrawColr() {
   Calls.emplace_back("SetDrawColr");
 }
+
 void SetDrawFont() {
   Calls.emplace_back("SetDrawFont");
 }
+
 void SetDrawMark() {
   Calls.emplace_back("SetDrawMark");
 }
+
 void SetCursor(gint /*no*/) {}
 void DrawRequest(gint /*mode*/) {}
 void SizeRequest(gint /*mode*/, gint /*width*/, gint /*height*/, gint /*zoom*/) {}
@@ -53,22 +56,28 @@ gint Dlg_MessageBox(GtkWidget* /*parent*/, const gchar* title, const gchar* mesg
   Calls.push_back(std::string(title) + "|" + mesg1 + "|" + mesg2 + "|" + std::to_string(butn));
   return 1;
 }
+
 gint Dlg_Copy_Move(GtkWidget* /*parent*/, gint mode, const gchar* title, DLGPARM* parm) {
   Calls.push_back(title + std::string(" ") + std::to_string(mode));
   return parm->code;
 }
+
 gint EditPtrnData(GtkWidget* /*parent*/) {
   return Asked();
 }
+
 gint PtrnFileOpen(GtkWidget* /*parent*/) {
   return Asked();
 }
+
 gint PtrnFileClose(GtkWidget* /*parent*/) {
   return Asked();
 }
+
 gint EditProjData(GtkWidget* /*parent*/, const gchar* /*title*/) {
   return Asked();
 }
+
 gint ProjFileOpen(GtkWidget* /*parent*/) {
   return Asked();
 }

@@ -1,5 +1,3 @@
-#include "support/Files.h"
-
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
@@ -7,7 +5,8 @@
 #include <filesystem>
 #include <string>
 
-#include "common/TempFolder.h"
+#include "support/Files.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "common/TempFolder.h"
 #include "support/FileTools.h"
 #include "support/Files.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "PtrnMisc.h"
-#include "common/TempFolder.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "PtrnMisc.h"
-#include "common/Child.h"
-#include "common/TempFolder.h"
+#include "tests/common/Child.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 

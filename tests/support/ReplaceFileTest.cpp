@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "common/Child.h"
-#include "common/TempFolder.h"
 #include "support/FileTools.h"
+#include "tests/common/Child.h"
+#include "tests/common/TempFolder.h"
 
 namespace {
 

@@ -62,8 +62,9 @@ TEST(CommandLine, MissingFilesAreNamed) {
   const ToolRun run = RunTool({"show", "/nowhere/日本.ptn"});
   EXPECT_EQ(run.Code, 1);
   EXPECT_EQ(run.Err, "varnixtool: /nowhere/日本.ptn: No such file or directory\n");
-  for (const char* command : {"info", "generate"})
+  for (const char* command : {"info", "generate"}) {
     EXPECT_EQ(RunTool({command, "/nowhere/a.prj"}).Code, 1) << command;
+  }
   EXPECT_EQ(RunTool({"hit", "/nowhere/a.prj", "x", "1", "1"}).Code, 1);
   EXPECT_EQ(RunTool({"render", "/nowhere/a.prj", "--out", "/nowhere/out"}).Code, 1);
 }
@@ -128,8 +129,9 @@ TEST(CommandLine, ShowOfBrokenFilesFails) {
     EXPECT_EQ(run.Out, "") << size;
     EXPECT_THAT(run.Err, HasSubstr("a.ptn: not whole")) << size;
   }
-  for (const char* name : {"a.prj", "PtrnColr", "PtrnMark"})
+  for (const char* name : {"a.prj", "PtrnColr", "PtrnMark"}) {
     EXPECT_EQ(RunTool({"show", folder.Write(name, "short")}).Code, 1) << name;
+  }
   EXPECT_EQ(RunTool({"show", folder.Write("PtrnCode", std::string(35, '\0'))}).Code, 1);
   EXPECT_EQ(RunTool({"show", folder.Write("PtrnText1", std::string(101, '\0'))}).Code, 1);
 }

@@ -172,10 +172,11 @@ class SpoiltProject {
   }
   // Puts the one fault in.
   void Spoil(const Case& one) const {
-    if (one.Raw)
+    if (one.Raw) {
       folder_.Write(one.File, Bytes(one));
-    else
+    } else {
       Build(one.File, one.Source);
+    }
   }
   void Build(const std::string& file, const std::string& source) const {
     const ToolRun run =
@@ -214,8 +215,9 @@ class SpoiltProject {
 
 std::vector<json> OfCode(const std::string& code, const std::vector<json>& findings) {
   std::vector<json> found;
-  for (const json& finding : findings)
+  for (const json& finding : findings) {
     if (finding["Code"] == code) found.push_back(finding);
+  }
   return found;
 }
 
@@ -229,12 +231,14 @@ TEST_F(OneFault, IsFoundByItsRuleAlone) {
   BuildPlain();
   EXPECT_THAT(Check(), testing::IsEmpty());
   for (const Case& one : Cases) {
-    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
+    for (const auto& entry : std::filesystem::directory_iterator(folder_.Path())) {
       std::filesystem::remove_all(entry.path());
+    }
     BuildPlain();
     Spoil(one);
-    for (const json& finding : Check())
+    for (const json& finding : Check()) {
       EXPECT_EQ(finding["Code"], one.Code) << one.Fault << ": " << finding;
+    }
   }
 }
 

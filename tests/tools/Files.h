@@ -8,8 +8,9 @@
 // A little-endian number of four bytes.
 inline std::string Int(int number) {
   std::string bytes;
-  for (int shift = 0; shift < 32; shift += 8)
+  for (int shift = 0; shift < 32; shift += 8) {
     bytes += static_cast<char>(static_cast<unsigned>(number) >> shift & 0xff);
+  }
   return bytes;
 }
 

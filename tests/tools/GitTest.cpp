@@ -28,10 +28,11 @@ std::string BlockOfPage(const std::string& beginning) {
   std::string block;
   for (std::string line; std::getline(page, line);) {
     const bool indented = line.starts_with("    ");
-    if (block.empty() ? line.starts_with("    " + beginning) : indented)
+    if (block.empty() ? line.starts_with("    " + beginning) : indented) {
       block += line.substr(4) + "\n";
-    else if (!block.empty())
+    } else if (!block.empty()) {
       return block;
+    }
   }
   if (block.empty()) throw std::runtime_error("docs/varnixtool.md has no block of " + beginning);
   return block;
@@ -95,8 +96,9 @@ TEST_F(Git, ShowsLayoutsAsTextInDiffLogAndShow) {
   const std::string plus = "\n+      \"Text1\": \"停止\"";
   EXPECT_THAT(Run("git diff"), testing::AllOf(HasSubstr(minus), HasSubstr(plus)));
   Commit();
-  for (const char* command : {"git show", "git log -p -1", "git diff HEAD~1"})
+  for (const char* command : {"git show", "git log -p -1", "git diff HEAD~1"}) {
     EXPECT_THAT(Run(command), testing::AllOf(HasSubstr(minus), HasSubstr(plus))) << command;
+  }
 }
 
 TEST_F(Git, ShowsTheOtherFilesAsTextToo) {
@@ -164,8 +166,10 @@ TEST_F(Git, DrawsTheLastChangeAsThePageTells) {
   // The page writes to /tmp, a test to its own folder.
   std::string commands = BlockOfPage("git show HEAD~1:Sample/pump.ptn");
   const std::string own = folder_.Path("home/");
-  for (std::size_t at = 0; (at = commands.find("/tmp/", at)) != std::string::npos; at += own.size())
+  for (std::size_t at = 0; (at = commands.find("/tmp/", at)) != std::string::npos;
+       at += own.size()) {
     commands.replace(at, 5, own);
+  }
   const std::string said = Run(commands);
   EXPECT_EQ(status_, 0) << said;
   EXPECT_EQ(folder_.Read("home/change.png").substr(1, 3), "PNG");

@@ -1,10 +1,9 @@
 // The tool's view of a layout file and the program's own agree.
-#include "layout/LayoutFile.h"
-
 #include <gtest/gtest.h>
 
 #include <cstring>
 
+#include "layout/LayoutFile.h"
 #include "layout/Store.h"
 #include "tests/common/TempFolder.h"
 #include "tests/tools/Files.h"
@@ -38,11 +37,12 @@ void ExpectAgreement(const std::string& bytes) {
   const auto layout = DecodeLayout(bytes);
   ASSERT_TRUE(layout);
   ASSERT_EQ(layout->Items.size(), static_cast<std::size_t>(GetPtrnCount()));
-  for (gint no = 0; no < GetPtrnCount(); ++no)
+  for (gint no = 0; no < GetPtrnCount(); ++no) {
     EXPECT_EQ(std::memcmp(ViewPtrnData(no), &layout->Items[static_cast<std::size_t>(no)],
                           sizeof(PTRNDATA)),
               0)
         << no;
+  }
   ExtPtrnData();
 }
 
@@ -71,8 +71,9 @@ TEST(LayoutFile, UnknownTypesAreDropped) {
 
 TEST(LayoutFile, CutAtEveryPlaceItIsNotWhole) {
   const std::string bytes = SmallLayout();
-  for (std::size_t size = 0; size < bytes.size(); ++size)
+  for (std::size_t size = 0; size < bytes.size(); ++size) {
     EXPECT_FALSE(DecodeLayout(bytes.substr(0, size))) << size;
+  }
   EXPECT_TRUE(DecodeLayout(bytes));
   EXPECT_TRUE(DecodeLayout(bytes + "more"));
 }

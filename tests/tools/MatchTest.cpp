@@ -28,8 +28,9 @@ PTRNDATA Item(gint type, gint x, gint y, const char* text = "", const char* code
 std::vector<std::string> Pairs(const std::vector<PTRNDATA>& before,
                                const std::vector<PTRNDATA>& after) {
   std::vector<std::string> pairs;
-  for (const ItemPair& pair : MatchItems(before, after).Pairs)
+  for (const ItemPair& pair : MatchItems(before, after).Pairs) {
     pairs.push_back(std::to_string(pair.Before) + "-" + std::to_string(pair.After));
+  }
   return pairs;
 }
 
@@ -87,8 +88,9 @@ TEST(Match, OnlyTheItemThatChangedItsPlaceInTheOrder) {
 // "label: before → after" of each change.
 std::vector<std::string> Told(const std::vector<FieldChange>& changes) {
   std::vector<std::string> told;
-  for (const FieldChange& change : changes)
+  for (const FieldChange& change : changes) {
     told.push_back(change.Label + ": " + change.Before + " → " + change.After);
+  }
   return told;
 }
 

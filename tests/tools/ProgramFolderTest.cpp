@@ -33,8 +33,9 @@ TEST_F(ProgramFolder, HoldsProfileTemplatesPicturesAndSample) {
         "Sample/Bitmap/plant.jpg", "Sample/Bitmap/water.bmp", "VarnixData/Bitmap/logo.png",
         // the start screen and the version window by their EUC-JP names
         "Sample/\xc1\xb4\xc2\xce\xb4\xc6\xbb\xeb.ptn",
-        "VarnixData/Ptrn/\xa5\xd0\xa1\xbc\xa5\xb8\xa5\xe7\xa5\xf3\xbe\xf0\xca\xf3.ptn"})
+        "VarnixData/Ptrn/\xa5\xd0\xa1\xbc\xa5\xb8\xa5\xe7\xa5\xf3\xbe\xf0\xca\xf3.ptn"}) {
     EXPECT_TRUE(folder_.Exists(std::string("program/") + file)) << file;
+  }
   EXPECT_TRUE(std::filesystem::is_directory(folder_.Path("program/SampleProgram")));
 }
 

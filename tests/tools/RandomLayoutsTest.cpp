@@ -45,13 +45,14 @@ class Maker {
     std::string texts;
     int count = 0;
     int undefined = 0;
-    for (const int type : FileOrder)
+    for (const int type : FileOrder) {
       for (int left = Below(4); left > 0; --left, ++count) {
         const int flag = Below(3);
         undefined += flag != 0;
         records += Int(type) + Numbers(30) + Numbers(2) + Int(flag);
         for (const std::size_t limit : {100, 100, 100, 80, 20}) texts += Terminated(Text(limit));
       }
+    }
     return Int(1001) + Numbers(40) + Field(Text(80), 82) + Field(Text(80), 82) +
            Field(Text(80), 82) + Field(Text(20), 22) + Field(Text(20), 22) + Int(count) +
            Int(static_cast<int>(texts.size())) + Int(undefined) + records + texts;

@@ -80,13 +80,15 @@ TEST(SourceErrors, WrongTypes) {
 }
 
 TEST(SourceErrors, NumbersThatAreNone) {
-  for (const char* number :
-       {"2147483648", "-2147483649", "18446744073709551615", "1.5", "1e3", "true", "null", "\"1\""})
+  for (const char* number : {"2147483648", "-2147483649", "18446744073709551615", "1.5", "1e3",
+                             "true", "null", "\"1\""}) {
     EXPECT_EQ(LayoutError(std::string("{\"Version\":") + number + "}"),
               "Version: a whole number of 32 bits is expected")
         << number;
-  for (const char* number : {"2147483647", "-2147483648"})
+  }
+  for (const char* number : {"2147483647", "-2147483648"}) {
     EXPECT_TRUE(FileOfJson(FileKind::Layout, std::string("{\"Version\":") + number + "}").Result);
+  }
 }
 
 TEST(SourceErrors, Marks) {
@@ -116,8 +118,9 @@ TEST(SourceErrors, Palette) {
 TEST(SourceErrors, SourceThatIsNoJson) {
   const std::string whole = R"({"PtrnName1":"日本","Items":[{"Type":2,"Parm":{"X1":1}}]})";
   ASSERT_TRUE(FileOfJson(FileKind::Layout, whole).Result);
-  for (std::size_t size = 0; size < whole.size(); ++size)
+  for (std::size_t size = 0; size < whole.size(); ++size) {
     EXPECT_THAT(LayoutError(whole.substr(0, size)), HasSubstr("parse error")) << size;
+  }
   EXPECT_THAT(LayoutError("\xff\xfe"), HasSubstr("parse error"));
   EXPECT_THAT(LayoutError("{\"PtrnName1\":\"\xC6\xFC\"}"), HasSubstr("parse error"));
   EXPECT_THAT(LayoutError(std::string(1'000'000, '[')), HasSubstr("parse error"));

@@ -24,8 +24,9 @@ inline ToolRun RunTool(std::vector<std::string> arguments, const std::string& fo
   gchar* err = nullptr;
   gint status = 0;
   if (!g_spawn_sync(folder.c_str(), argv.data(), nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, &out,
-                    &err, &status, nullptr))
+                    &err, &status, nullptr)) {
     throw std::runtime_error("the tool does not start");
+  }
   ToolRun run{WIFEXITED(status) ? WEXITSTATUS(status) : -1, out, err};
   g_free(out);
   g_free(err);

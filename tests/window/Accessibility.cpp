@@ -8,10 +8,10 @@
 
 #include "Constant.h"
 #include "PtrnData.h"
-#include "window/PopUps.h"
-#include "window/Program.h"
-#include "window/Reader.h"
-#include "window/Widgets.h"
+#include "tests/window/PopUps.h"
+#include "tests/window/Program.h"
+#include "tests/window/Reader.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 
@@ -31,8 +31,9 @@ std::vector<std::string> NamesIn(const std::vector<ReadControl>& controls) {
 
 std::vector<std::string> NamelessIn(const std::vector<ReadControl>& controls) {
   std::vector<std::string> roles;
-  for (const ReadControl& control : controls)
+  for (const ReadControl& control : controls) {
     if (control.Usable && control.Name.empty()) roles.push_back(control.Role);
+  }
   return roles;
 }
 
@@ -107,8 +108,9 @@ class Accessibility : public testing::Test {
   // Leaves one layout in the project, an empty parent window.
   void KeepEmptyLayout() const {
     const std::string project = Folder.Path() + "/Sample";
-    for (const fs::directory_entry& entry : fs::directory_iterator(project))
+    for (const fs::directory_entry& entry : fs::directory_iterator(project)) {
       if (entry.path().extension() == ".ptn") fs::remove(entry.path());
+    }
     IntPtrnData();
     PtrnHedr = {};
     PtrnHedr.Parm1[HedrSlot::Width] = 640;

@@ -4,11 +4,12 @@
 #include "PtrnMisc.h"
 #include "app/Window.h"
 #include "render/LayoutPicture.h"
-#include "window/Exposures.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Exposures.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 enum { Zoom500, Zoom200, Zoom100, Zoom75, Zoom50 };
 
 // The layout as it must look, made as one whole picture.
@@ -22,8 +23,9 @@ std::unique_ptr<Drawable> WholePicture(gint width, gint height, gint percent) {
   const PixbufPtr scaled(
       gdk_pixbuf_scale_simple(picture.get(), zoomedWidth, zoomedHeight, GDK_INTERP_TILES));
   auto whole = std::make_unique<Drawable>(zoomedWidth, zoomedHeight);
-  for (gint y = 0; y < zoomedHeight; y++)
+  for (gint y = 0; y < zoomedHeight; y++) {
     for (gint x = 0; x < zoomedWidth; x++) whole->Row(y)[x] = PixelAt(scaled.get(), x, y);
+  }
   DrawGridData(whole.get(), &gc);
   DrawWindow2(whole.get(), &gc);
   return whole;
@@ -75,10 +77,12 @@ TEST_F(Canvas, OnAScreenOfMoreDotsEachIsABlock) {
   PtrnDraw_Expose(PtrnDraw, cairo, nullptr);
   cairo_destroy(cairo);
   cairo_surface_flush(screen.Cairo());
-  for (gint y = 0; y < 50 * Scale; y++)
-    for (gint x = 0; x < 80 * Scale; x++)
+  for (gint y = 0; y < 50 * Scale; y++) {
+    for (gint x = 0; x < 80 * Scale; x++) {
       ASSERT_EQ(screen.Row(y)[x] & 0xffffff, whole->Row(y / Scale)[x / Scale] & 0xffffff)
           << x << ", " << y;
+    }
+  }
 }
 
 TEST_F(Canvas, SizesTruncate) {
@@ -117,7 +121,7 @@ TEST_F(Canvas, ShowsTheLayoutAtEveryZoomWithAndWithoutGrid) {
   IntPtrnData();
   const PTRNDATA box = BoxItem(33, 21, 260, 190, 1);
   AddPtrnData(&box);
-  for (const gint grid : {0, 1})
+  for (const gint grid : {0, 1}) {
     for (gint zoom = Zoom500; zoom <= Zoom50; zoom++) {
       PtrnHedr.Parm2[ViewSlot::GridShown] = grid;
       PtrnHedr.Parm2[ViewSlot::GridX] = 5;
@@ -127,6 +131,7 @@ TEST_F(Canvas, ShowsTheLayoutAtEveryZoomWithAndWithoutGrid) {
       EXPECT_TRUE(Shows(shot.get(), 0, 0, *WholePicture(321, 243, ZoomFactorData[zoom])))
           << "zoom " << ZoomFactorData[zoom] << " grid " << grid;
     }
+  }
 }
 
 TEST_F(Canvas, TheGridEndsWhereTheLayoutDoes) {
@@ -139,10 +144,12 @@ TEST_F(Canvas, TheGridEndsWhereTheLayoutDoes) {
     const PixbufPtr shot = CanvasShot();
     const gint right = 110 * ZoomFactorData[zoom] / 100;
     const gint bottom = 90 * ZoomFactorData[zoom] / 100;
-    for (gint x = 0; x < right + 5; x++)
+    for (gint x = 0; x < right + 5; x++) {
       ASSERT_EQ(PixelAt(shot.get(), x, bottom), 0xd6d6d6u) << x << " zoom " << zoom;
-    for (gint y = 0; y < bottom + 5; y++)
+    }
+    for (gint y = 0; y < bottom + 5; y++) {
       ASSERT_EQ(PixelAt(shot.get(), right, y), 0xd6d6d6u) << y << " zoom " << zoom;
+    }
   }
 }
 
@@ -161,8 +168,9 @@ TEST_F(Canvas, ScrollingShowsTheSamePicture) {
   const PixbufPtr shot(gdk_pixbuf_get_from_window(window, 611, 417, 700, 500));
   const std::unique_ptr<Drawable> whole = WholePicture(400, 300, 500);
   Drawable part(700, 500);
-  for (gint y = 0; y < 500; y++)
+  for (gint y = 0; y < 500; y++) {
     for (gint x = 0; x < 700; x++) part.Row(y)[x] = whole->Row(y + 417)[x + 611];
+  }
   EXPECT_TRUE(Shows(shot.get(), 0, 0, part));
 }
 
@@ -254,8 +262,9 @@ TEST_F(Canvas, ACommitRepaintsWhatItChangedAlone) {
   OpenWindow();
   for (const gint zoom : {Zoom100, Zoom75, Zoom500}) {
     IntPtrnData();
-    for (const PTRNDATA& box : {BoxItem(5, 5, 400, 300, 1), BoxItem(30, 30, 60, 50, 2)})
+    for (const PTRNDATA& box : {BoxItem(5, 5, 400, 300, 1), BoxItem(30, 30, 60, 50, 2)}) {
       AddPtrnData(&box);
+    }
     ShowLayout(700, 500, zoom);
     FinishFrame(PtrnDraw);
     Exposures exposures;
@@ -273,4 +282,5 @@ TEST_F(Canvas, ACommitRepaintsWhatItChangedAlone) {
     }
   }
 }
+
 }  // namespace

@@ -2,10 +2,11 @@
 
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 class CanvasEvents : public WindowTest {
  protected:
   void SetUp() override {
@@ -20,12 +21,15 @@ class CanvasEvents : public WindowTest {
 bool Open(GtkWidget* menu) {
   return gtk_widget_get_visible(menu) != FALSE;
 }
+
 bool AnyOpen() {
   return Open(PopupMenu[0]) || Open(PopupMenu[1]) || Open(PopupMenu[2]);
 }
+
 void CloseMenus() {
   for (GtkWidget* menu : PopupMenu) gtk_menu_popdown(GTK_MENU(menu));
 }
+
 void RightPress(gint x, gint y) {
   SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_SECONDARY, x, y);
 }
@@ -197,4 +201,5 @@ TEST_F(CanvasEvents, KeysActOnTheArea) {
   EXPECT_EQ(PtrnMode, ModeIdle);
   EXPECT_EQ(GetPtrnCount(), 0);
 }
+
 }  // namespace

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 
-#include "window/Log.h"
+#include "tests/window/Log.h"
 
 namespace {
+
 TEST(Complaints, OfEachKindFailATest) {
   g_warning("a warning");
   EXPECT_NONFATAL_FAILURE(FailOnComplaints(), "a warning");
@@ -23,4 +24,5 @@ TEST(Complaints, MessagesAreNone) {
   g_message("a message");
   FailOnComplaints();
 }
+
 }  // namespace

@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "render/Pictures.h"
-#include "window/PointerImage.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/PointerImage.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 class Cursors : public WindowTest {
  protected:
   void SetUp() override {
@@ -58,7 +59,7 @@ TEST_F(Cursors, AreShownWithTheirHotSpotsAndColours) {
     ASSERT_EQ(pointer.Height, 32 * scale) << no;
     EXPECT_EQ(pointer.HotX, HotSpots[no].x * scale) << no;
     EXPECT_EQ(pointer.HotY, HotSpots[no].y * scale) << no;
-    for (gint y = 0; y < 32 * scale; y++)
+    for (gint y = 0; y < 32 * scale; y++) {
       for (gint x = 0; x < 32 * scale; x++) {
         const POINT dot = {x / scale, y / scale};
         const guint32 colour = Bit(CursorData[no], dot.x, dot.y) ? Foreground : Background;
@@ -66,6 +67,7 @@ TEST_F(Cursors, AreShownWithTheirHotSpotsAndColours) {
                   Bit(CursorMask[no], dot.x, dot.y) ? colour : 0)
             << "cursor " << no << " at " << x << ", " << y;
       }
+    }
   }
 }
 
@@ -77,4 +79,5 @@ TEST_F(Cursors, NumbersOutsideTheTableChangeNothing) {
   SetCursor(8);
   EXPECT_EQ(gdk_window_get_cursor(gtk_widget_get_window(PtrnWnd)), cursor);
 }
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "window/Exposures.h"
+#include "tests/window/Exposures.h"
 
 #include "app/Window.h"
 
@@ -13,11 +13,12 @@ Exposures::~Exposures() {
   g_signal_handler_disconnect(PtrnDraw, handler_);
 }
 
-gboolean Exposures::Note(GtkWidget*, cairo_t* cairo, gpointer self) {
+gboolean Exposures::Note(GtkWidget* /*widget*/, cairo_t* cairo, gpointer self) {
   cairo_rectangle_list_t* clip = cairo_copy_clip_rectangle_list(cairo);
-  for (gint i = 0; i < clip->num_rectangles; i++)
+  for (gint i = 0; i < clip->num_rectangles; i++) {
     static_cast<Exposures*>(self)->pixels_ +=
         clip->rectangles[i].width * clip->rectangles[i].height;
+  }
   cairo_rectangle_list_destroy(clip);
   return FALSE;
 }

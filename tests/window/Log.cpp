@@ -1,4 +1,4 @@
-#include "window/Log.h"
+#include "tests/window/Log.h"
 
 #include <glib.h>
 #include <gtest/gtest.h>
@@ -7,9 +7,11 @@
 #include <vector>
 
 namespace {
+
 std::vector<std::string> Complaints;
 
-GLogWriterOutput Keep(GLogLevelFlags level, const GLogField* fields, gsize count, gpointer) {
+GLogWriterOutput Keep(GLogLevelFlags level, const GLogField* fields, gsize count,
+                      gpointer /*data*/) {
   constexpr gint Bad = G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING;
   if ((level & Bad) != 0) {
     gchar* text = g_log_writer_format_fields(level, fields, count, FALSE);
@@ -18,6 +20,7 @@ GLogWriterOutput Keep(GLogLevelFlags level, const GLogField* fields, gsize count
   }
   return g_log_writer_default(level, fields, count, nullptr);
 }
+
 }  // namespace
 
 void WatchLog() {

@@ -1,8 +1,8 @@
-#include "window/LowScreen.h"
+#include "tests/window/LowScreen.h"
 
 #include <gtest/gtest.h>
 
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 namespace {
 

@@ -4,12 +4,14 @@
 
 #include <cstdio>
 
-#include "window/Log.h"
+#include "tests/window/Log.h"
 
 namespace {
+
 class NoComplaints : public testing::EmptyTestEventListener {
-  void OnTestEnd(const testing::TestInfo&) override { FailOnComplaints(); }
+  void OnTestEnd(const testing::TestInfo& /*info*/) override { FailOnComplaints(); }
 };
+
 }  // namespace
 
 int main(int argc, char** argv) {

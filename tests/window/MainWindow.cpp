@@ -7,10 +7,11 @@
 #include "PtrnMisc.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 class MainWindow : public WindowTest {};
 
 SIZE Allocated(GtkWidget* widget) {
@@ -49,8 +50,9 @@ TEST_F(MainWindow, GivesEveryWindowTheProgramsIcon) {
   g_list_free(icons);
   // A window without an icon of its own takes that one.
   Dlg_ToolBox(PtrnWnd, 2);
-  for (GtkWidget* window : {PtrnWnd, ToolBox})
+  for (GtkWidget* window : {PtrnWnd, ToolBox}) {
     EXPECT_EQ(gtk_window_get_icon(GTK_WINDOW(window)), nullptr);
+  }
   gtk_window_set_default_icon_list(nullptr);
 }
 
@@ -245,4 +247,5 @@ TEST_F(MainWindow, WithoutASlashTheRunningExecutableTells) {
   SetProgramFolder(nullptr);
   EXPECT_EQ(PathName, path.substr(0, path.rfind('/')));
 }
+
 }  // namespace

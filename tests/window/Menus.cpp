@@ -1,13 +1,15 @@
+#include "app/Menus.h"
+
 #include <gtest/gtest.h>
 
 #include "ProjData.h"
 #include "PtrnMisc.h"
-#include "app/Menus.h"
 #include "app/Window.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 using Labels = std::vector<std::string>;
 
 const Labels GroupedTypes = {"矩形枠",
@@ -60,6 +62,7 @@ std::string Marks(GtkWidget* const (&slots)[Size]) {
   for (GtkWidget* slot : slots) marks += Marked(slot) ? '1' : '0';
   return marks;
 }
+
 template <std::size_t Size>
 std::string Enabling(GtkWidget* const (&slots)[Size]) {
   std::string states;
@@ -67,7 +70,7 @@ std::string Enabling(GtkWidget* const (&slots)[Size]) {
   return states;
 }
 
-gboolean IsKeyOf(GtkAccelKey*, GClosure* closure, gpointer entry) {
+gboolean IsKeyOf(GtkAccelKey* /*key*/, GClosure* closure, gpointer entry) {
   GList* closures = gtk_widget_list_accel_closures(GTK_WIDGET(entry));
   const bool found = g_list_find(closures, closure) != nullptr;
   g_list_free(closures);
@@ -96,8 +99,9 @@ TEST_F(Menus, BarHoldsItsEntriesInOrder) {
   EXPECT_EQ(SubMenuLabels(bar, {"表示", "ズーム"}),
             (Labels{"500%", "200%", "100%", " 75%", " 50%"}));
   Labels types;
-  for (const std::string& label : GroupedTypes)
+  for (const std::string& label : GroupedTypes) {
     if (label != "-") types.push_back(label);
+  }
   EXPECT_EQ(SubMenuLabels(bar, {"表示", "非検出"}), types);
   EXPECT_EQ(SubMenuLabels(bar, {"表示", "表示色"}),
             (Labels{"表示色１", "表示色２", "表示色３", "表示色４"}));
@@ -297,4 +301,5 @@ TEST_F(Menus, AltAndALetterOpensAMenu) {
   EXPECT_TRUE(WaitFor([&] { return gtk_widget_get_mapped(menu) != FALSE; }));
   gtk_menu_shell_cancel(GTK_MENU_SHELL(MenuBar()));
 }
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "window/PointerGrab.h"
+#include "tests/window/PointerGrab.h"
 
 #include <X11/Xlib.h>
 

@@ -1,4 +1,4 @@
-#include "window/PointerImage.h"
+#include "tests/window/PointerImage.h"
 
 #include <X11/Xlib.h>
 #include <X11/extensions/Xfixes.h>
@@ -6,12 +6,14 @@
 #include <memory>
 
 namespace {
+
 struct DisplayClose {
   void operator()(Display* display) const { XCloseDisplay(display); }
 };
 struct ImageFree {
   void operator()(XFixesCursorImage* image) const { XFree(image); }
 };
+
 }  // namespace
 
 PointerImage ShownPointer() {
@@ -21,7 +23,8 @@ PointerImage ShownPointer() {
   if (!image) return {};
   PointerImage pointer{image->width, image->height, image->xhot, image->yhot, {}};
   const int count = image->width * image->height;
-  for (int i = 0; i < count; i++)
+  for (int i = 0; i < count; i++) {
     pointer.Pixels.push_back(static_cast<std::uint32_t>(image->pixels[i]));
+  }
   return pointer;
 }

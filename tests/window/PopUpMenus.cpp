@@ -3,11 +3,12 @@
 
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "window/PointerGrab.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/PointerGrab.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 enum { ViewMenu, ItemMenu, AreaMenu, NoMenu };
 
 class PopUpMenus : public WindowTest {
@@ -33,19 +34,23 @@ class PopUpMenus : public WindowTest {
 
 gint OpenMenu() {
   gint open = NoMenu;
-  for (gint no = ViewMenu; no < NoMenu; no++)
+  for (gint no = ViewMenu; no < NoMenu; no++) {
     if (gtk_widget_get_visible(PopupMenu[no])) {
       EXPECT_EQ(open, NoMenu) << "two are open";
       open = no;
     }
+  }
   return open;
 }
+
 void Leave(gint menu) {
   gtk_menu_shell_cancel(GTK_MENU_SHELL(PopupMenu[menu]));
 }
+
 void RightPress(gint x, gint y) {
   SendButton(GDK_BUTTON_PRESS, GDK_BUTTON_SECONDARY, x, y);
 }
+
 void Choose(gint menu, const std::string& label) {
   GtkWidget* entry = MenuEntry(PopupMenu[menu], {label});
   ASSERT_NE(entry, nullptr) << label;
@@ -285,4 +290,5 @@ TEST_F(PopUpMenus, AKeyOpensNoneWhereNoneBelongs) {
     PtrnFlag = 1;
   }
 }
+
 }  // namespace

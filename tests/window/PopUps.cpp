@@ -1,10 +1,11 @@
-#include "window/PopUps.h"
+#include "tests/window/PopUps.h"
 
 #include <X11/Xlib.h>
 
 #include <memory>
 
 namespace {
+
 struct DisplayClose {
   void operator()(Display* display) const { XCloseDisplay(display); }
 };
@@ -13,9 +14,10 @@ struct ListFree {
 };
 
 // A window may go while it is looked at.
-int Ignore(Display*, XErrorEvent*) {
+int Ignore(Display* /*display*/, XErrorEvent* /*event*/) {
   return 0;
 }
+
 }  // namespace
 
 int ShownPopUps() {
@@ -32,8 +34,9 @@ int ShownPopUps() {
   for (unsigned i = 0; i < count; i++) {
     XWindowAttributes attributes{};
     if (XGetWindowAttributes(display.get(), list[i], &attributes) != 0 &&
-        attributes.override_redirect && attributes.map_state == IsViewable)
+        attributes.override_redirect && attributes.map_state == IsViewable) {
       shown++;
+    }
   }
   XSync(display.get(), False);
   XSetErrorHandler(before);

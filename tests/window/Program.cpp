@@ -1,4 +1,4 @@
-#include "window/Program.h"
+#include "tests/window/Program.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -8,16 +8,18 @@
 #include <csignal>
 #include <filesystem>
 
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 namespace fs = std::filesystem;
 
 // The folder's name stands in the profile.
 void ReplaceAll(std::string& text, const std::string& what, const std::string& with) {
   for (std::size_t at = text.find(what); at != std::string::npos;
-       at = text.find(what, at + with.size()))
+       at = text.find(what, at + with.size())) {
     text.replace(at, what.size(), with);
+  }
 }
 
 // The window that gets the keys, "" while none does. The manager's word alone does not tell: it may
@@ -27,6 +29,7 @@ std::string WindowWithKeyboard() {
   const std::string active = XDoTool({"getactivewindow"});
   return active == XDoTool({"getwindowfocus"}) ? active : "";
 }
+
 }  // namespace
 
 ProgramFolder::ProgramFolder() {
@@ -56,9 +59,8 @@ RunningProgram::~RunningProgram() {
     kill(pid_, SIGKILL);
     waitpid(pid_, nullptr, 0);
   }
-  if (!asked_) {
-    EXPECT_EQ(Complaints(), "");
-  }
+  const std::string unexpected = asked_ ? "" : Complaints();
+  EXPECT_EQ(unexpected, "");
 }
 
 bool RunningProgram::Activate(const std::string& title) const {
@@ -76,8 +78,9 @@ bool RunningProgram::Activate(const std::string& title) const {
 std::optional<int> RunningProgram::Wait() {
   WaitFor([this] {
     int status = 0;
-    if (!status_ && waitpid(pid_, &status, WNOHANG) == pid_)
+    if (!status_ && waitpid(pid_, &status, WNOHANG) == pid_) {
       status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
     return status_.has_value();
   });
   return status_;

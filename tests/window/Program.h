@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "common/TempFolder.h"
+#include "tests/common/TempFolder.h"
 
 // A copy of the program folder that the build made, with the sample project in it.
 class ProgramFolder {

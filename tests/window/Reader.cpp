@@ -1,4 +1,4 @@
-#include "window/Reader.h"
+#include "tests/window/Reader.h"
 
 #include <gio/gio.h>
 
@@ -154,23 +154,25 @@ bool VisitTree(const Node& node, const std::function<bool(const Node&)>& visit) 
 std::vector<ReadControl> ReadWindow(const std::string& program, const std::string& title) {
   std::vector<ReadControl> controls;
   const Node window = Window(program, title);
-  if (!window.Path.empty())
+  if (!window.Path.empty()) {
     VisitTree(window, [&controls](const Node& node) {
       controls.push_back({TextOf(Call(Bus(), node, Accessible, "GetRoleName"), "(&s)"),
                           NameOf(node), IsUsable(node)});
       return false;
     });
+  }
   return controls;
 }
 
 bool ActOn(const std::string& program, const std::string& title, const std::string& name) {
   const Node window = Window(program, title);
   bool done = false;
-  if (!window.Path.empty())
+  if (!window.Path.empty()) {
     VisitTree(window, [&](const Node& node) {
       if (NameOf(node).rfind(name, 0) != 0 || !HasActions(node, KindsOf(node))) return false;
       done = Act(node);
       return true;
     });
+  }
   return done;
 }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 
@@ -6,12 +7,13 @@
 #include "PtrnMisc.h"
 #include "render/LayoutPicture.h"
 #include "render/Primitives.h"
-#include "window/PopUps.h"
-#include "window/Program.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/PopUps.h"
+#include "tests/window/Program.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 namespace fs = std::filesystem;
 
 const std::string ProjectTitle = "レイアウト作成  [WaterWorks]";
@@ -24,9 +26,11 @@ PixbufPtr ScreenShot() {
 
 // The first pixel that differs from the corner; few places of a screen have its colour.
 POINT Landmark(const Drawable& picture) {
-  for (gint y = 0; y < picture.Height(); y++)
-    for (gint x = 0; x < picture.Width(); x++)
+  for (gint y = 0; y < picture.Height(); y++) {
+    for (gint x = 0; x < picture.Width(); x++) {
       if (picture.At(x, y) != picture.At(0, 0)) return {x, y};
+    }
+  }
   return {0, 0};
 }
 
@@ -36,11 +40,14 @@ std::optional<POINT> FindOnScreen(const Drawable& picture) {
   const POINT mark = Landmark(picture);
   const gint right = gdk_pixbuf_get_width(shot.get()) - picture.Width();
   const gint bottom = gdk_pixbuf_get_height(shot.get()) - picture.Height();
-  for (gint y = 0; y <= bottom; y++)
-    for (gint x = 0; x <= right; x++)
+  for (gint y = 0; y <= bottom; y++) {
+    for (gint x = 0; x <= right; x++) {
       if (PixelAt(shot.get(), x + mark.x, y + mark.y) == picture.At(mark.x, mark.y) &&
-          Shows(shot.get(), x, y, picture))
+          Shows(shot.get(), x, y, picture)) {
         return POINT{x, y};
+      }
+    }
+  }
   return std::nullopt;
 }
 
@@ -84,9 +91,11 @@ class RealProgram : public WindowTest {
   // Leaves one layout in the project, without a clock and shown at 100 %; opens it in the records.
   void KeepOneLayout(const std::string& name) {
     const std::string record = EucFromUtf8(name).value();
-    for (const fs::directory_entry& entry : fs::directory_iterator(ProjPath))
-      if (entry.path().extension() == ".ptn" && entry.path().stem() != record)
+    for (const fs::directory_entry& entry : fs::directory_iterator(ProjPath)) {
+      if (entry.path().extension() == ".ptn" && entry.path().stem() != record) {
         fs::remove(entry.path());
+      }
+    }
     IntPtrnData();
     ASSERT_EQ(PtrnFileRead(ProjPath, record.c_str()), 1);
     PtrnHedr.Parm1[HedrSlot::DateFormat] = 0;
@@ -217,4 +226,5 @@ TEST_F(RealProgram, SaysInOneLineThatThereIsNoDisplay) {
   const std::string complaint = program.Complaints();
   EXPECT_EQ(std::count(complaint.begin(), complaint.end(), '\n'), 1) << complaint;
 }
+
 }  // namespace

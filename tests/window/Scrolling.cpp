@@ -5,10 +5,11 @@
 #include "PtrnMisc.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 enum { Zoom500, Zoom200, Zoom100, Zoom75, Zoom50 };
 
 GtkAdjustment* Bar(bool horizontal) {
@@ -16,29 +17,36 @@ GtkAdjustment* Bar(bool horizontal) {
   return horizontal ? gtk_scrolled_window_get_hadjustment(scrolled)
                     : gtk_scrolled_window_get_vadjustment(scrolled);
 }
+
 gint X() {
   return static_cast<gint>(gtk_adjustment_get_value(Bar(true)));
 }
+
 gint Y() {
   return static_cast<gint>(gtk_adjustment_get_value(Bar(false)));
 }
+
 gint Seen(bool horizontal) {
   return static_cast<gint>(gtk_adjustment_get_page_size(Bar(horizontal)));
 }
+
 void ScrollTo(gint x, gint y) {
   gtk_adjustment_set_value(Bar(true), x);
   gtk_adjustment_set_value(Bar(false), y);
 }
+
 // Turns the wheel by one step with Control held over a point of what is seen.
 void ZoomAt(gint x, gint y, GdkScrollDirection direction) {
   SendWheel(direction, X() + x, Y() + y, GDK_CONTROL_MASK);
   FinishFrame(PtrnDraw);
 }
+
 // Turns a fine wheel with Control held; the zoom that is then chosen.
 gint ZoomAfter(gdouble steps) {
   SendFineWheel(steps, GDK_CONTROL_MASK);
   return PtrnHedr.Parm2[ViewSlot::Zoom];
 }
+
 bool StandsAt(gint x, gint y) {
   return WaitFor([=] { return X() == x && Y() == y; });
 }
@@ -180,10 +188,10 @@ TEST_F(Scrolling, ThePointUnderThePointerStaysAtEveryZoomInEveryWindow) {
       return gtk_widget_get_allocated_width(PtrnWnd) == window.cx &&
              gtk_widget_get_allocated_height(PtrnWnd) == window.cy;
     }));
-    for (const SIZE layout : {SIZE{90, 70}, SIZE{640, 480}, SIZE{3000, 200}})
+    for (const SIZE layout : {SIZE{90, 70}, SIZE{640, 480}, SIZE{3000, 200}}) {
       for (const POINT seen : {POINT{13, 17}, POINT{250, 180}, POINT{470, 330}}) {
         Show("", Zoom50, layout);
-        for (const GdkScrollDirection turn : {GDK_SCROLL_UP, GDK_SCROLL_DOWN})
+        for (const GdkScrollDirection turn : {GDK_SCROLL_UP, GDK_SCROLL_DOWN}) {
           for (gint step = 0; step < 4; step++) {
             const gdouble zoom = ZoomFactorData[PtrnHedr.Parm2[ViewSlot::Zoom]] / 100.0;
             const gdouble x = (X() + seen.x) / zoom;
@@ -196,7 +204,9 @@ TEST_F(Scrolling, ThePointUnderThePointerStaysAtEveryZoomInEveryWindow) {
             EXPECT_NEAR(Y(), Expected(y, index, seen.y, false), 1)
                 << layout.cy << " at " << seen.y << " zoom " << index << " in " << window.cy;
           }
+        }
       }
+    }
   }
 }
 
@@ -246,4 +256,5 @@ TEST_F(Scrolling, WithoutALayoutKeysAndWheelDoNothing) {
   EXPECT_EQ(Y(), 0);
   EXPECT_EQ(PtrnDraw_Mode, 0);
 }
+
 }  // namespace

@@ -1,6 +1,6 @@
-#include "window/ServerArc.h"
+#include "tests/window/ServerArc.h"
 
-#include "window/ServerPicture.h"
+#include "tests/window/ServerPicture.h"
 
 namespace {
 

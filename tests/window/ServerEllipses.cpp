@@ -5,7 +5,7 @@
 #include <random>
 
 #include "render/Primitives.h"
-#include "window/ServerArc.h"
+#include "tests/window/ServerArc.h"
 
 namespace {
 
@@ -22,9 +22,11 @@ std::string Painted(const ServerArc& arc, gint filled) {
   gc.Foreground = 0xffffff;
   DrawCrcl1(&surface, &gc, filled, 0, 0, arc.Width, arc.Height);
   std::string pixels;
-  for (gint y = 0; y < surface.Height(); ++y)
-    for (gint x = 0; x < surface.Width(); ++x)
+  for (gint y = 0; y < surface.Height(); ++y) {
+    for (gint x = 0; x < surface.Width(); ++x) {
       pixels += surface.Row(y)[x] == 0xff000000 ? '.' : '#';
+    }
+  }
   return pixels;
 }
 
@@ -33,9 +35,11 @@ bool RunsAlong(const std::string& one, const std::string& other, gint rowLength)
   for (gint dot = 0; dot < std::ssize(one); ++dot) {
     if (one[static_cast<gsize>(dot)] == '.') continue;
     bool near = false;
-    for (const gint row : {-rowLength, 0, rowLength})
-      for (const gint column : {-1, 0, 1})
+    for (const gint row : {-rowLength, 0, rowLength}) {
+      for (const gint column : {-1, 0, 1}) {
         near = near || other.at(static_cast<gsize>(dot + row + column)) == '#';
+      }
+    }
     if (!near) return false;
   }
   return true;

@@ -9,7 +9,7 @@
 #include "render/Primitives.h"
 #include "support/Resource.h"
 #include "support/Text.h"
-#include "window/ServerText.h"
+#include "tests/window/ServerText.h"
 
 namespace {
 
@@ -54,8 +54,9 @@ std::string PixelsOf(const std::string& euc) {
   FillPixels(&picture, 0, 0, Width, Height, 0);
   DrawTextOnBaseline(&picture, &gc, X, Baseline, Font, ColourWhite, euc.c_str());
   std::string pixels;
-  for (gint y = 0; y < Height; ++y)
+  for (gint y = 0; y < Height; ++y) {
     for (gint x = 0; x < Width; ++x) pixels += picture.At(x, y) == 0 ? '.' : '#';
+  }
   return pixels;
 }
 

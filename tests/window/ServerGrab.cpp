@@ -1,4 +1,4 @@
-#include "window/ServerGrab.h"
+#include "tests/window/ServerGrab.h"
 
 #include <gdk/gdkx.h>
 

@@ -1,4 +1,4 @@
-#include "window/ServerPicture.h"
+#include "tests/window/ServerPicture.h"
 
 #include <X11/Xutil.h>
 
@@ -35,7 +35,8 @@ std::string ServerPicture::Pixels() const {
                 static_cast<unsigned>(height_), AllPlanes, ZPixmap));
   const unsigned long black = BlackPixel(display_, DefaultScreen(display_));
   std::string pixels;
-  for (int y = 0; y < height_; y++)
+  for (int y = 0; y < height_; y++) {
     for (int x = 0; x < width_; x++) pixels += XGetPixel(image.get(), x, y) == black ? '.' : '#';
+  }
   return pixels;
 }

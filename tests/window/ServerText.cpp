@@ -1,6 +1,6 @@
-#include "window/ServerText.h"
+#include "tests/window/ServerText.h"
 
-#include "window/ServerPicture.h"
+#include "tests/window/ServerPicture.h"
 
 namespace {
 

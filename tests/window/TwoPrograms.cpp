@@ -1,15 +1,17 @@
 // Two programs at once, in one program folder and on one project.
 #include <gtest/gtest.h>
+
 #include <filesystem>
 
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
-#include "window/Program.h"
-#include "window/Widgets.h"
-#include "window/WindowTest.h"
+#include "tests/window/Program.h"
+#include "tests/window/Widgets.h"
+#include "tests/window/WindowTest.h"
 
 namespace {
+
 namespace fs = std::filesystem;
 
 constexpr const gchar* ProjectTitle = "レイアウト作成  \\[WaterWorks\\]";
@@ -20,8 +22,9 @@ class TwoPrograms : public WindowTest {
  protected:
   TwoPrograms() {
     fs::create_directory(Kept);
-    for (const fs::directory_entry& entry : fs::directory_iterator(Sample))
+    for (const fs::directory_entry& entry : fs::directory_iterator(Sample)) {
       if (entry.path().extension() == ".ptn") fs::rename(entry, Kept / entry.path().filename());
+    }
   }
   fs::path LayoutFile(const std::string& name) const {
     return Sample / (EucFromUtf8(name).value() + ".ptn");
@@ -109,4 +112,5 @@ TEST_F(TwoPrograms, KeepTheirStepsBackAndTheProfileApart) {
   // Both opened the project that was current and left windows of the same size.
   EXPECT_EQ(Folder.Profile(), profile);
 }
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 #include <gtest/gtest.h>
 
@@ -7,10 +7,11 @@
 #include "layout/EditWindows.h"
 
 namespace {
+
 constexpr gint64 Patience = 30 * G_USEC_PER_SEC;
 constexpr guint LookInterval = 10;  // milliseconds
 
-gboolean Wake(gpointer) {
+gboolean Wake(gpointer /*data*/) {
   return G_SOURCE_CONTINUE;
 }
 
@@ -19,34 +20,39 @@ using Visit = std::function<bool(GtkWidget*)>;
 // What a container shows, its menus included.
 std::vector<GtkWidget*> ChildrenOf(GtkWidget* widget) {
   std::vector<GtkWidget*> children;
-  if (GTK_IS_CONTAINER(widget))
+  if (GTK_IS_CONTAINER(widget)) {
     gtk_container_forall(
         GTK_CONTAINER(widget),
         [](GtkWidget* child, gpointer list) {
           static_cast<std::vector<GtkWidget*>*>(list)->push_back(child);
         },
         &children);
+  }
   return children;
 }
 
 std::string LabelOf(GtkWidget* widget) {
   const gchar* text = nullptr;
-  if (GTK_IS_LABEL(widget))
+  if (GTK_IS_LABEL(widget)) {
     text = gtk_label_get_text(GTK_LABEL(widget));
-  else if (GTK_IS_BUTTON(widget))
+  } else if (GTK_IS_BUTTON(widget)) {
     text = gtk_button_get_label(GTK_BUTTON(widget));
-  else if (GTK_IS_MENU_ITEM(widget))
+  } else if (GTK_IS_MENU_ITEM(widget)) {
     text = gtk_menu_item_get_label(GTK_MENU_ITEM(widget));
+  }
   return text != nullptr ? text : "";
 }
 
 void CloseOtherWindows() {
   GList* windows = gtk_window_list_toplevels();
-  for (GList* link = windows; link != nullptr; link = link->next)
-    if (link->data != PtrnWnd && gtk_widget_get_visible(GTK_WIDGET(link->data)))
+  for (GList* link = windows; link != nullptr; link = link->next) {
+    if (link->data != PtrnWnd && gtk_widget_get_visible(GTK_WIDGET(link->data))) {
       gtk_widget_destroy(GTK_WIDGET(link->data));
+    }
+  }
   g_list_free(windows);
 }
+
 }  // namespace
 
 bool WaitFor(const std::function<bool()>& reached) {
@@ -78,8 +84,9 @@ void FinishFrame(GtkWidget* widget) {
 
 GtkWidget* FindWidget(GtkWidget* root, const std::function<bool(GtkWidget*)>& matches) {
   if (root == nullptr || matches(root)) return root;
-  for (GtkWidget* child : ChildrenOf(root))
+  for (GtkWidget* child : ChildrenOf(root)) {
     if (GtkWidget* found = FindWidget(child, matches)) return found;
+  }
   return nullptr;
 }
 
@@ -106,8 +113,9 @@ GtkWidget* FindWindow(const std::string& title) {
   GList* windows = gtk_window_list_toplevels();
   for (GList* link = windows; link != nullptr; link = link->next) {
     const gchar* text = gtk_window_get_title(GTK_WINDOW(link->data));
-    if (text != nullptr && title == text && gtk_widget_get_mapped(GTK_WIDGET(link->data)))
+    if (text != nullptr && title == text && gtk_widget_get_mapped(GTK_WIDGET(link->data))) {
       found = GTK_WIDGET(link->data);
+    }
   }
   g_list_free(windows);
   return found;
@@ -116,9 +124,10 @@ GtkWidget* FindWindow(const std::string& title) {
 std::vector<std::string> MenuLabels(GtkWidget* menu) {
   std::vector<std::string> labels;
   GList* entries = gtk_container_get_children(GTK_CONTAINER(menu));
-  for (GList* link = entries; link != nullptr; link = link->next)
+  for (GList* link = entries; link != nullptr; link = link->next) {
     labels.push_back(GTK_IS_SEPARATOR_MENU_ITEM(link->data) ? "-"
                                                             : LabelOf(GTK_WIDGET(link->data)));
+  }
   g_list_free(entries);
   return labels;
 }
@@ -129,8 +138,9 @@ GtkWidget* MenuEntry(GtkWidget* menu, std::initializer_list<std::string> path) {
     if (entry != nullptr) menu = gtk_menu_item_get_submenu(GTK_MENU_ITEM(entry));
     entry = nullptr;
     if (menu == nullptr) return nullptr;
-    for (GtkWidget* child : ChildrenOf(menu))
+    for (GtkWidget* child : ChildrenOf(menu)) {
       if (LabelOf(child) == label) entry = child;
+    }
     if (entry == nullptr) return nullptr;
   }
   return entry;

@@ -1,6 +1,7 @@
-#include "window/WindowTest.h"
+#include "tests/window/WindowTest.h"
 
 #include <gtest/gtest.h>
+
 #include <cstring>
 
 #include "Constant.h"
@@ -8,9 +9,10 @@
 #include "PtrnMisc.h"
 #include "app/Menus.h"
 #include "app/Window.h"
-#include "window/Widgets.h"
+#include "tests/window/Widgets.h"
 
 namespace {
+
 void ClearRecords() {
   ExtPtrnData();
   PtrnFlag = PtrnType = PtrnMode = PtrnUndef = ColorCode = Language = ProjFlag = 0;
@@ -40,6 +42,7 @@ EventPtr NewCanvasEvent(GdkEventType type) {
   gdk_event_set_device(event.get(), gdk_seat_get_pointer(seat));
   return event;
 }
+
 }  // namespace
 
 WindowTest::WindowTest() {
@@ -106,14 +109,16 @@ testing::AssertionResult Shows(GdkPixbuf* shot, gint x, gint y, const Drawable& 
   const gint width = std::min(picture.Width(), gdk_pixbuf_get_width(shot) - x);
   const gint height = std::min(picture.Height(), gdk_pixbuf_get_height(shot) - y);
   if (width <= 0 || height <= 0) return testing::AssertionFailure() << "the shot lies elsewhere";
-  for (gint row = 0; row < height; row++)
+  for (gint row = 0; row < height; row++) {
     for (gint column = 0; column < width; column++) {
       const guint32 seen = PixelAt(shot, x + column, y + row);
       const guint32 wanted = picture.Row(row)[column] & 0xffffff;
-      if (seen != wanted)
+      if (seen != wanted) {
         return testing::AssertionFailure() << std::hex << "at " << std::dec << column << ", " << row
                                            << std::hex << ": shown " << seen << ", not " << wanted;
+      }
     }
+  }
   return testing::AssertionSuccess();
 }
 

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "PtrnData.h"
-#include "common/TempFolder.h"
 #include "render/Surface.h"
+#include "tests/common/TempFolder.h"
 
 class WindowTest : public testing::Test {
  protected:

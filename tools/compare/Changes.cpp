@@ -27,8 +27,9 @@ class ChangeList {
   }
   template <std::size_t Size>
   void Text(const std::string& label, const gchar (&before)[Size], const gchar (&after)[Size]) {
-    if (FieldText(before) != FieldText(after))
+    if (FieldText(before) != FieldText(after)) {
       changes_.push_back({label, Shown(FieldText(before)), Shown(FieldText(after))});
+    }
   }
   void Number(const std::string& label, gint before, gint after) {
     Add(label, std::to_string(before), std::to_string(after));
@@ -54,8 +55,9 @@ std::string ParameterText(const std::array<gint, Count>& parm, const Parameter& 
   const auto first = static_cast<std::size_t>(parameter.Slot);
   const auto count = static_cast<std::size_t>(parameter.Count());
   std::string text;
-  for (std::size_t no = 0; no < count; ++no)
+  for (std::size_t no = 0; no < count; ++no) {
     text += (no == 0 ? "" : ",") + ValueText(parm[first + no], parameter.Range.Values);
+  }
   return text;
 }
 
@@ -70,8 +72,9 @@ void CompareParm(ChangeList& changes, std::span<const Parameter> parameters,
     std::fill_n(named.begin() + parameter.Slot, parameter.Count(), true);
     changes.Add(parameter.Label, ParameterText(before, parameter), ParameterText(after, parameter));
   }
-  for (std::size_t no = 0; no < Count; ++no)
+  for (std::size_t no = 0; no < Count; ++no) {
     if (!named[no]) changes.Number(field + "[" + std::to_string(no) + "]", before[no], after[no]);
+  }
 }
 
 std::string PointText(gint x, gint y) {
@@ -97,15 +100,17 @@ std::string ItemName(const PTRNDATA& item) {
   std::string name = std::string(ItemTypeOf(item.Type).Label) + " " + FirstPoint(item);
   if (HasTwoPoints(item.Type)) name += "-" + SecondPoint(item);
   if (item.Text1[0] != '\0') name += " " + Shown(FieldText(item.Text1));
-  if (item.ID_Code[0] != '\0')
+  if (item.ID_Code[0] != '\0') {
     name += " " + DisplayText(FieldText(item.ID_Code)) + "/" + std::to_string(item.ID_No);
+  }
   return name;
 }
 
 std::string FieldLines(const std::vector<FieldChange>& fields) {
   std::string lines;
-  for (const FieldChange& field : fields)
+  for (const FieldChange& field : fields) {
     lines += "    " + field.Label + ": " + field.Before + " → " + field.After + "\n";
+  }
   return lines;
 }
 
@@ -155,8 +160,9 @@ LayoutChanges CompareLayouts(const Layout& before, const Layout& after) {
   for (const ItemPair& pair : match.Pairs) {
     std::vector<FieldChange> fields =
         ItemChanges(before.Items[pair.Before], after.Items[pair.After]);
-    if (moved.contains(pair.After))
+    if (moved.contains(pair.After)) {
       fields.push_back({"重なり順", std::to_string(pair.Before), std::to_string(pair.After)});
+    }
     if (!fields.empty()) changes.Changed.push_back({pair, std::move(fields)});
   }
   changes.Removed = std::move(match.Removed);
@@ -167,8 +173,9 @@ LayoutChanges CompareLayouts(const Layout& before, const Layout& after) {
 std::string ChangesText(const LayoutChanges& changes, const Layout& before, const Layout& after) {
   std::string text;
   if (!changes.Header.empty()) text += "~ レイアウト情報\n" + FieldLines(changes.Header);
-  for (const ChangedItem& item : changes.Changed)
+  for (const ChangedItem& item : changes.Changed) {
     text += "~ " + ItemName(before.Items[item.Items.Before]) + "\n" + FieldLines(item.Fields);
+  }
   for (const std::size_t no : changes.Removed) text += "- " + ItemName(before.Items[no]) + "\n";
   for (const std::size_t no : changes.Added) text += "+ " + ItemName(after.Items[no]) + "\n";
   return text;

@@ -92,9 +92,11 @@ std::string TypedKey(const PTRNDATA& item, Key key) {
 
 void PairBy(Key key, Side& before, Side& after, std::vector<ItemPair>& pairs) {
   std::unordered_map<std::string, std::deque<std::size_t>> waiting;
-  for (const std::size_t no : before.Left)
-    if (std::string text = TypedKey(before.Items[no], key); !text.empty())
+  for (const std::size_t no : before.Left) {
+    if (std::string text = TypedKey(before.Items[no], key); !text.empty()) {
       waiting[std::move(text)].push_back(no);
+    }
+  }
   std::vector<bool> paired(before.Items.size());
   std::erase_if(after.Left, [&](std::size_t no) {
     const std::string text = TypedKey(after.Items[no], key);
@@ -132,17 +134,20 @@ std::vector<ItemPair> Reordered(const ItemMatch& match) {
         ends.begin(), ends.end(), no,
         [&pairs](std::size_t a, std::size_t b) { return pairs[a].Before < pairs[b].Before; });
     if (place != ends.begin()) previous[no] = static_cast<std::ptrdiff_t>(*(place - 1));
-    if (place == ends.end())
+    if (place == ends.end()) {
       ends.push_back(no);
-    else
+    } else {
       *place = no;
+    }
   }
   std::vector<bool> kept(pairs.size());
   for (std::ptrdiff_t no = ends.empty() ? -1 : static_cast<std::ptrdiff_t>(ends.back()); no >= 0;
-       no = previous[static_cast<std::size_t>(no)])
+       no = previous[static_cast<std::size_t>(no)]) {
     kept[static_cast<std::size_t>(no)] = true;
+  }
   std::vector<ItemPair> moved;
-  for (std::size_t no = 0; no < pairs.size(); ++no)
+  for (std::size_t no = 0; no < pairs.size(); ++no) {
     if (!kept[no]) moved.push_back(pairs[no]);
+  }
   return moved;
 }

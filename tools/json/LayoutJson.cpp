@@ -27,13 +27,15 @@ gint TypeOf(const JsonSource* value, const std::string& place) {
   if (value == nullptr) throw SourceError(place, "missing");
   if (value->is_string()) {
     const auto& name = value->get_ref<const std::string&>();
-    for (const ItemTypeRow& row : ItemTypes())
+    for (const ItemTypeRow& row : ItemTypes()) {
       if (row.Name == name) return row.Type;
+    }
     throw SourceError(place, "unknown item type \"" + name + "\"");
   }
   const gint type = NumberOf(*value, place);
-  if (!IsItemType(type))
+  if (!IsItemType(type)) {
     throw SourceError(place, "an item type is 1 to " + std::to_string(ItemTypeCount));
+  }
   return type;
 }
 
@@ -91,8 +93,9 @@ std::string BuildLayout(const JsonSource& source) {
   for (const char* counted : {"DataCount", "TextSize", "UndfFlag"}) reader.Number(counted);
   if (const JsonSource* items = reader.Find("Items")) {
     std::size_t no = 0;
-    for (const JsonSource& item : ListOf(*items, "Items", ItemLimit))
+    for (const JsonSource& item : ListOf(*items, "Items", ItemLimit)) {
       layout.Items.push_back(BuildItem(item, EntryPlace("Items", no++)));
+    }
   }
   reader.Finish();
   const LayoutBytes bytes = EncodeLayout(header, layout.Items);

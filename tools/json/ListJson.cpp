@@ -14,9 +14,10 @@ constexpr std::size_t EntryLimit = 1'000'000;
 // Stricter than the program, which passes over what is left behind the last whole record.
 template <class Record>
 std::vector<Record> Decode(std::string_view bytes, const char* kind) {
-  if (bytes.size() % sizeof(Record) != 0)
+  if (bytes.size() % sizeof(Record) != 0) {
     throw SourceError(std::string("not a whole ") + kind + ": no multiple of " +
                       std::to_string(sizeof(Record)) + " bytes");
+  }
   return RecordsOf<Record>(bytes);
 }
 
@@ -24,11 +25,12 @@ std::vector<Record> Decode(std::string_view bytes, const char* kind) {
 
 Json ShowRegistry(std::string_view bytes) {
   Json list = Json::array();
-  for (const PTRNCODE& record : Decode<PTRNCODE>(bytes, "code registry"))
+  for (const PTRNCODE& record : Decode<PTRNCODE>(bytes, "code registry")) {
     list.push_back({{"ID_Code", DisplayText(FieldText(record.ID_Code))},
                     {"DataCount", gint{record.DataCount}},
                     {"DataNo", gint{record.DataNo}},
                     {"DispNo", gint{record.DispNo}}});
+  }
   return list;
 }
 
@@ -50,8 +52,9 @@ std::string BuildRegistry(const JsonSource& source) {
 
 Json ShowTexts(std::string_view bytes) {
   Json list = Json::array();
-  for (const PTRNTEXT& record : Decode<PTRNTEXT>(bytes, "string list"))
+  for (const PTRNTEXT& record : Decode<PTRNTEXT>(bytes, "string list")) {
     list.push_back(DisplayText(FieldText(record.text)));
+  }
   return list;
 }
 

@@ -21,9 +21,11 @@ constexpr NamedList ProjectLists[] = {{"Parm1", ProjectParameters},
                                       {"Parm4", CommonParameters}};
 
 bool AllNamed(const Json& numbers, Rows parameters) {
-  for (std::size_t slot = 0; slot < numbers.size(); ++slot)
-    if (numbers[slot] != 0 && FindParameter(parameters, static_cast<gint>(slot)) == nullptr)
+  for (std::size_t slot = 0; slot < numbers.size(); ++slot) {
+    if (numbers[slot] != 0 && FindParameter(parameters, static_cast<gint>(slot)) == nullptr) {
       return false;
+    }
+  }
   return true;
 }
 

@@ -16,8 +16,9 @@ using Marks = std::vector<MARKDATA>;
 // A table of fixed size, as its file holds it.
 template <class Table>
 void Decode(std::string_view bytes, Table& table, const char* kind) {
-  if (!FillRecords(table.data(), table.size(), bytes))
+  if (!FillRecords(table.data(), table.size(), bytes)) {
     throw SourceError(std::string("not a whole ") + kind);
+  }
 }
 
 template <class Table>
@@ -55,8 +56,9 @@ void DrawRows(const JsonSource& rows, const std::string& place, gint no, MARKDAT
     const std::string row =
         BytesOf(rows[y], EntryPlace(place, y), static_cast<std::size_t>(size.cx));
     for (std::size_t x = 0; x < row.size(); ++x) {
-      if (row[x] != '#' && row[x] != '.')
+      if (row[x] != '#' && row[x] != '.') {
         throw SourceError(EntryPlace(place, y), "a row is written in \"#\" and \".\"");
+      }
       if (row[x] == '#') MarkDataSet(no, &mark, static_cast<gint>(x), static_cast<gint>(y), 1);
     }
   }
@@ -66,20 +68,25 @@ void BuildDrawnMark(const JsonSource& source, const std::string& place, Marks& m
                     std::set<gint>& drawn) {
   ObjectReader reader(source, place);
   const gint no = reader.Number("No");
-  if (no < 0 || no >= MarkCount)
+  if (no < 0 || no >= MarkCount) {
     throw SourceError(reader.Place("No"), "a mark number is 0 to " + std::to_string(MarkCount - 1));
-  if (!drawn.insert(no).second)
+  }
+  if (!drawn.insert(no).second) {
     throw SourceError(reader.Place("No"), "mark " + std::to_string(no) + " is there twice");
-  if (const JsonSource* name = reader.Find("Name"); name && !name->is_string())
+  }
+  if (const JsonSource* name = reader.Find("Name"); name && !name->is_string()) {
     throw SourceError(reader.Place("Name"), "a text is expected");
-  if (const JsonSource* rows = reader.Find("Rows"))
+  }
+  if (const JsonSource* rows = reader.Find("Rows")) {
     DrawRows(*rows, reader.Place("Rows"), no, marks[static_cast<std::size_t>(no)]);
+  }
   reader.Finish();
 }
 
 Marks MarksOfHex(const JsonSource& list) {
-  if (list.size() != MarkCount)
+  if (list.size() != MarkCount) {
     throw SourceError("list", std::to_string(MarkCount) + " hexadecimal texts are expected");
+  }
   Marks marks;
   for (const JsonSource& entry : list) {
     const std::string place = EntryPlace("list", marks.size());
@@ -94,8 +101,9 @@ Json ShowPalette(std::string_view bytes) {
   Palette palette{};
   Decode(bytes, palette, "palette");
   Json list = Json::array();
-  for (const COLRDATA& colour : palette)
+  for (const COLRDATA& colour : palette) {
     list.push_back({gint{colour.red}, gint{colour.green}, gint{colour.blue}});
+  }
   return list;
 }
 
@@ -124,7 +132,8 @@ std::string BuildMarks(const JsonSource& source) {
   Marks marks(MarkCount);
   std::set<gint> drawn;
   std::size_t no = 0;
-  for (const JsonSource& entry : source)
+  for (const JsonSource& entry : source) {
     BuildDrawnMark(entry, EntryPlace("list", no++), marks, drawn);
+  }
   return Encode(marks);
 }

@@ -18,9 +18,10 @@ const std::string& TextOf(const JsonSource& value, const std::string& place) {
 
 void CheckLength(const std::string& place, std::size_t length, std::size_t limit,
                  const char* encoding) {
-  if (length > limit)
+  if (length > limit) {
     throw SourceError(place, std::to_string(length) + " bytes" + encoding + ", at most " +
                                  std::to_string(limit) + " fit");
+  }
 }
 
 // The first character that EUC-JP cannot hold; the parser has checked that this is UTF-8.
@@ -47,10 +48,12 @@ void ReadParameter(const JsonSource& value, const std::string& place, const Para
     std::fill_n(parm.begin() + parameter.Slot, count, NumberOf(value, place));
     return;
   }
-  if (value.size() != count)
+  if (value.size() != count) {
     throw SourceError(place, "a number or a list of " + std::to_string(count) + " is expected");
-  for (std::size_t k = 0; k < count; ++k)
+  }
+  for (std::size_t k = 0; k < count; ++k) {
     parm[first + k] = NumberOf(value[k], EntryPlace(place, k));
+  }
 }
 
 void ReadParameters(const JsonSource& value, const std::string& place,
@@ -97,16 +100,18 @@ void ReadParm(const JsonSource& value, const std::string& place,
     ReadParameters(value, place, parameters, parm);
     return;
   }
-  if (!value.is_array() || value.size() != parm.size())
+  if (!value.is_array() || value.size() != parm.size()) {
     throw SourceError(place, "a list of " + std::to_string(parm.size()) + " numbers is expected");
+  }
   for (std::size_t k = 0; k < parm.size(); ++k) parm[k] = NumberOf(value[k], EntryPlace(place, k));
 }
 
 const JsonSource& ListOf(const JsonSource& value, const std::string& place, std::size_t limit) {
   if (!value.is_array()) throw SourceError(place, "a list is expected");
-  if (value.size() > limit)
+  if (value.size() > limit) {
     throw SourceError(place, std::to_string(value.size()) + " entries, at most " +
                                  std::to_string(limit) + " fit");
+  }
   return value;
 }
 
@@ -116,8 +121,9 @@ std::string EntryPlace(const std::string& place, std::size_t index) {
 
 ObjectReader::ObjectReader(const JsonSource& value, std::string place)
     : object_(value), place_(std::move(place)) {
-  if (!value.is_object())
+  if (!value.is_object()) {
     throw SourceError(place_.empty() ? "source" : place_, "an object is expected");
+  }
 }
 
 std::string ObjectReader::Place(const char* key) const {
@@ -146,8 +152,9 @@ std::string ObjectReader::Bytes(const char* key, std::size_t limit) {
 }
 
 void ObjectReader::Finish() const {
-  for (const auto& entry : object_.items())
+  for (const auto& entry : object_.items()) {
     if (!known_.contains(entry.key())) throw SourceError(Place(entry.key().c_str()), "unknown key");
+  }
 }
 
 void ObjectReader::CopyInto(const std::string& text, gchar* field, std::size_t size) {

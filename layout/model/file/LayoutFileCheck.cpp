@@ -11,9 +11,7 @@ LayoutFileState CheckPtrnFile(const gchar* path, const gchar* name, gint* items)
   if (items != nullptr) *items = 0;
   const std::string file = JoinPath(path, name, "ptn");
   struct stat status {};
-  if (stat(file.c_str(), &status) != 0 && errno == ENOENT) {
-    return LayoutFileState::Missing;
-  }
+  if (stat(file.c_str(), &status) != 0 && errno == ENOENT) return LayoutFileState::Missing;
   LayoutInput input(file);
   PTRNHEDR header;
   if (!input.IsOpen() || !input.ReadHeader(header) || !input.HoldsTexts()) {

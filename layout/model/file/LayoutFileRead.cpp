@@ -59,9 +59,7 @@ bool ReadItems(LayoutInput& input, ItemArray& items) {
 }
 
 bool ReadLayout(LayoutInput& input, Layout& layout) {
-  if (!input.IsOpen() || !input.ReadHeader(layout.Header)) {
-    return false;
-  }
+  if (!input.IsOpen() || !input.ReadHeader(layout.Header)) return false;
   OpenHeader(layout.Header);
   return ReadItems(input, layout.Items) && layout.Header.TextSize != 0 && input.HoldsTexts();
 }

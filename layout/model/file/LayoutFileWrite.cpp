@@ -23,10 +23,10 @@ std::array<std::string_view, 5> TextsOf(const PTRNDATA& item) {
 // The items of one type stand together in the file: their number, and where their next record and
 // its texts go.
 struct TypeGroup {
-  std::size_t count = 0;
-  std::size_t textSize = 0;
-  std::size_t nextRecord = 0;
-  std::size_t nextText = 0;
+  std::size_t Count = 0;
+  std::size_t TextSize = 0;
+  std::size_t NextRecord = 0;
+  std::size_t NextText = 0;
 };
 
 // Index = type code.
@@ -41,15 +41,13 @@ TypeGroups CountItems(PTRNHEDR& header, std::span<const PTRNDATA> items) {
   header.UndfFlag = 0;
   for (const PTRNDATA& item : items) {
     std::size_t size = 0;
-    for (const std::string_view text : TextsOf(item)) {
-      size += text.size() + 1;
-    }
+    for (const std::string_view text : TextsOf(item)) size += text.size() + 1;
     textSize += size;
     header.UndfFlag += item.UndfFlag != 0;
     if (IsItemType(item.Type)) {
       TypeGroup& group = groups[static_cast<std::size_t>(item.Type)];
-      ++group.count;
-      group.textSize += size;
+      ++group.Count;
+      group.TextSize += size;
     }
   }
   header.TextSize = static_cast<gint>(textSize);
@@ -61,13 +59,13 @@ std::size_t PlaceGroups(TypeGroups& groups) {
   std::size_t next = sizeof(PTRNHEDR);
   for (const gint type : PtrnTable) {
     TypeGroup& group = groups[static_cast<std::size_t>(type)];
-    group.nextRecord = next;
-    next += group.count * sizeof(PTRNFILE);
+    group.NextRecord = next;
+    next += group.Count * sizeof(PTRNFILE);
   }
   for (const gint type : PtrnTable) {
     TypeGroup& group = groups[static_cast<std::size_t>(type)];
-    group.nextText = next;
-    next += group.textSize;
+    group.NextText = next;
+    next += group.TextSize;
   }
   return next;
 }
@@ -92,15 +90,15 @@ char* PutText(char* to, const gchar (&field)[Size]) {
 }
 
 void PutItem(char* bytes, TypeGroup& group, const PTRNDATA& item) {
-  PutRecord(bytes + group.nextRecord, item);
-  group.nextRecord += sizeof(PTRNFILE);
-  char* to = bytes + group.nextText;
+  PutRecord(bytes + group.NextRecord, item);
+  group.NextRecord += sizeof(PTRNFILE);
+  char* to = bytes + group.NextText;
   to = PutText(to, item.Text1);
   to = PutText(to, item.Text2);
   to = PutText(to, item.Text3);
   to = PutText(to, item.ID_Name);
   to = PutText(to, item.ID_Code);
-  group.nextText = static_cast<std::size_t>(to - bytes);
+  group.NextText = static_cast<std::size_t>(to - bytes);
 }
 
 }  // namespace
@@ -108,7 +106,7 @@ void PutItem(char* bytes, TypeGroup& group, const PTRNDATA& item) {
 LayoutBytes EncodeLayout(PTRNHEDR& header, std::span<const PTRNDATA> items) {
   TypeGroups groups = CountItems(header, items);
   const std::size_t end = PlaceGroups(groups);
-  const std::size_t recordsEnd = groups[static_cast<std::size_t>(PtrnTable[0])].nextText;
+  const std::size_t recordsEnd = groups[static_cast<std::size_t>(PtrnTable[0])].NextText;
   LayoutBytes bytes(recordsEnd + static_cast<std::size_t>(header.TextSize));
   std::memcpy(bytes.data(), &header, sizeof header);
   for (const PTRNDATA& item : items) {
@@ -123,9 +121,7 @@ LayoutBytes EncodeLayout(PTRNHEDR& header, std::span<const PTRNDATA> items) {
 bool WriteLayoutFile(const gchar* path, const gchar* name, PTRNHEDR& header,
                      std::span<const PTRNDATA> items) {
   // A layout without a name would become a hidden file, one without a folder a file somewhere.
-  if (*path == '\0' || *name == '\0') {
-    return false;
-  }
+  if (*path == '\0' || *name == '\0') return false;
   try {
     header.Version = Version;
     const LayoutBytes bytes = EncodeLayout(header, items);

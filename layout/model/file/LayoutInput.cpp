@@ -29,9 +29,7 @@ std::size_t FillField(gchar (&field)[Size], const char* from, std::size_t limit)
     PutWord(field + at, word & (zeros ^ (zeros - 1)) >> 8);  // the bytes before the terminator
     return at + BytesBeforeZero(word);
   }
-  for (; at <= limit && from[at] != '\0'; ++at) {
-    field[at] = from[at];
-  }
+  for (; at <= limit && from[at] != '\0'; ++at) field[at] = from[at];
   return at;
 }
 
@@ -39,13 +37,9 @@ std::size_t FillField(gchar (&field)[Size], const char* from, std::size_t limit)
 template <std::size_t Size>
 const char* TakeText(gchar (&field)[Size], const char* from, std::size_t limit) {
   // Most are empty, and a foreseen branch need not wait for the length.
-  if (*from == '\0') {
-    return from + 1;
-  }
+  if (*from == '\0') return from + 1;
   const std::size_t length = FillField(field, from, limit);
-  if (length <= limit) {
-    return from + length + 1;
-  }
+  if (length <= limit) return from + length + 1;
   CopyText(field, CutEuc({from, length}, limit));
   return from + limit + 1;
 }
@@ -69,9 +63,7 @@ LayoutInput::LayoutInput(const std::string& path) {
 }
 
 std::optional<gint64> LayoutFileSize(const PTRNHEDR& header) {
-  if (header.DataCount < 0 || header.TextSize < 0) {
-    return std::nullopt;
-  }
+  if (header.DataCount < 0 || header.TextSize < 0) return std::nullopt;
   return gint64{sizeof(PTRNHEDR)} + gint64{header.DataCount} * gint64{sizeof(PTRNFILE)} +
          header.TextSize;
 }

@@ -31,16 +31,12 @@ gint CodeSlots(gint no) {
 bool RegisterCode(std::vector<PTRNCODE>& registry, std::string_view code, gint no) {
   const PTRNCODE wanted = NewCode(code, CodeSlots(no));
   const std::string_view text = CodeOf(wanted);
-  if (text.empty()) {
-    return false;
-  }
+  if (text.empty()) return false;
   const auto known = std::find_if(registry.begin(), registry.end(), [text](const PTRNCODE& record) {
     return CodeOf(record) == text;
   });
   if (known != registry.end()) {
-    if (known->DataCount >= wanted.DataCount) {
-      return false;
-    }
+    if (known->DataCount >= wanted.DataCount) return false;
     known->DataCount = wanted.DataCount;
     return true;
   }

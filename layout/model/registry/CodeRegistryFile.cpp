@@ -5,9 +5,7 @@
 std::optional<std::vector<PTRNCODE>> LoadPtrnCode() {
   auto registry = ReadRecords<PTRNCODE>(ProjPath, CodeRegistryName);
   if (registry) {
-    for (PTRNCODE& record : *registry) {
-      record.ID_Code[sizeof record.ID_Code - 1] = '\0';
-    }
+    for (PTRNCODE& record : *registry) record.ID_Code[sizeof record.ID_Code - 1] = '\0';
   }
   return registry;
 }
@@ -22,18 +20,12 @@ gint WritePtrnCode(const std::vector<PTRNCODE>& registry) {
 
 void RegstPtrnCode(const gchar* code, gint no) {
   std::optional<std::vector<PTRNCODE>> registry = LoadPtrnCode();
-  if (!registry) {
-    return;
-  }
+  if (!registry) return;
   bool changed = false;
   if (registry->empty()) {
     registry->push_back(SystemCode());
     changed = true;
   }
-  if (RegisterCode(*registry, code, no)) {
-    changed = true;
-  }
-  if (changed) {
-    WritePtrnCode(*registry);
-  }
+  if (RegisterCode(*registry, code, no)) changed = true;
+  if (changed) WritePtrnCode(*registry);
 }

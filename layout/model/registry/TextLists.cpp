@@ -25,14 +25,10 @@ const gchar* ListName(gint k) {
 void RegstPtrnText(const gchar* text, gint k) {
   PTRNTEXT entry{};
   CopyText(entry.text, text);
-  if (entry.text[0] == '\0') {
-    return;
-  }
+  if (entry.text[0] == '\0') return;
   const gchar* list = ListName(k);
   std::optional<std::vector<PTRNTEXT>> texts = ReadRecords<PTRNTEXT>(ProjPath, list);
-  if (!texts) {
-    return;
-  }
+  if (!texts) return;
   const bool known = std::any_of(texts->begin(), texts->end(), [&entry](const PTRNTEXT& other) {
     return FieldText(other.text) == FieldText(entry.text);
   });

@@ -61,18 +61,22 @@ void CopyParentLook(PTRNHEDR& header, const PROJDATA& project) {
   header.Parm1[HedrSlot::Width] = size.cx;
   header.Parm1[HedrSlot::Height] = size.cy;
   header.Parm1[HedrSlot::DisplaySize] = project.Parm1[ProjectSlot::DisplaySize];
-  for (const FollowedSlot& slot : ParentLook)
+  for (const FollowedSlot& slot : ParentLook) {
     header.Parm1[slot.Header] = project.Parm2[slot.Project];
-  for (const FollowedSlot& slot : PointerAndKeys)
+  }
+  for (const FollowedSlot& slot : PointerAndKeys) {
     header.Parm1[slot.Header] = project.Parm4[slot.Project];
+  }
   CopyText(header.LogoName, FieldText(project.LogoName));
 }
 
 void CopyChildLook(PTRNHEDR& header, const PROJDATA& project) {
-  for (const FollowedSlot& slot : ChildLook)
+  for (const FollowedSlot& slot : ChildLook) {
     header.Parm1[slot.Header] = project.Parm3[slot.Project];
-  for (const FollowedSlot& slot : PointerAndKeys)
+  }
+  for (const FollowedSlot& slot : PointerAndKeys) {
     header.Parm1[slot.Header] = project.Parm4[slot.Project];
+  }
 }
 
 void CopyGridLook(PTRNHEDR& header, const PROJDATA& project) {

@@ -1,9 +1,10 @@
+#include "layout/Snap.h"
+
 #include <algorithm>
 #include <limits>
 
 #include "layout/Guards.h"
 #include "layout/ItemSlots.h"
-#include "layout/Snap.h"
 #include "layout/Store.h"
 
 namespace {
@@ -52,9 +53,7 @@ void NormalizePoint(POINT* point, gint half) {
 }
 
 void NormalizeZahyo(PTRNDATA* item) {
-  if (!IsItemType(item->Type)) {
-    return;
-  }
+  if (!IsItemType(item->Type)) return;
   const ItemTypeRow& type = ItemTypeOf(item->Type);
   const gint half = HasTwoPoints(item->Type) ? 1 : 0;
   NormalizePoint(&item->Point1, half);

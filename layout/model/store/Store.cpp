@@ -28,17 +28,13 @@ gint GetPtrnCount() {
 }
 
 gint GetPtrnData(gint no, PTRNDATA* out) {
-  if (!IsStored(no)) {
-    return 0;
-  }
+  if (!IsStored(no)) return 0;
   *out = PtrnArray[static_cast<std::size_t>(no)];
   return 1;
 }
 
 gint SetPtrnData(gint no, const PTRNDATA* in) {
-  if (!IsStored(no)) {
-    return 0;
-  }
+  if (!IsStored(no)) return 0;
   PtrnArray[static_cast<std::size_t>(no)] = *in;
   return 1;
 }
@@ -48,9 +44,7 @@ void AddPtrnData(const PTRNDATA* in) {
 }
 
 void DelPtrnData(gint no) {
-  if (IsStored(no)) {
-    PtrnArray.erase(PtrnArray.begin() + no);
-  }
+  if (IsStored(no)) PtrnArray.erase(PtrnArray.begin() + no);
 }
 
 gint DelPtrnDataIf(bool (*chosen)(const PTRNDATA* item)) {

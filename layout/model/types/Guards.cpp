@@ -43,8 +43,6 @@ bool IsOnLayout(const PTRNHEDR& header, gint64 x, gint64 y) {
 }
 
 gint GuardedFontHeight(gint font) {
-  if (font < 0 || font >= FontCount || FontHeight[font] < 0) {
-    return 0;
-  }
+  if (font < 0 || font >= FontCount || FontHeight[font] < 0) return 0;
   return FontHeight[font];
 }

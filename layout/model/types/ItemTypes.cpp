@@ -157,13 +157,16 @@ constexpr ItemTypeRow ItemTypeRows[] = {
 };
 
 namespace {
+
 static_assert(std::size(ItemTypeRows) == ItemTypeCount + 1, "each type has a row");
 
 constexpr bool RowsAreInOrder() {
-  for (gint type = 0; type <= ItemTypeCount; ++type)
+  for (gint type = 0; type <= ItemTypeCount; ++type) {
     if (ItemTypeRows[type].Type != type) return false;
+  }
   return true;
 }
+
 static_assert(RowsAreInOrder());
 
 // The type that is painted at a place.
@@ -185,6 +188,7 @@ constexpr bool NeedsTwoPoints(gint type) {
 constexpr gint PointsOf(gint no) {
   return NeedsTwoPoints(no + 1) ? 1 : 0;
 }
+
 constexpr const gchar* LabelAt(gint no) {
   return ItemTypeRows[no + 1].Label;
 }

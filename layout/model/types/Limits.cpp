@@ -8,10 +8,12 @@ bool Counts(const Condition& condition, std::span<const gint> values) {
 }
 
 bool IsOutside(const Parameter& parameter, const Limit& limit, std::span<const gint> values) {
-  for (gint slot = parameter.Slot; parameter.Holds(slot); ++slot)
+  for (gint slot = parameter.Slot; parameter.Holds(slot); ++slot) {
     if (const gint value = values[static_cast<gsize>(slot)];
-        value < limit.Least || value > limit.Most)
+        value < limit.Least || value > limit.Most) {
       return true;
+    }
+  }
   return false;
 }
 
@@ -19,10 +21,13 @@ bool IsOutside(const Parameter& parameter, const Limit& limit, std::span<const g
 
 BrokenLimit FindBrokenLimit(std::span<const Parameter> parameters, std::span<const gint> values) {
   BrokenLimit first;
-  for (const Parameter& parameter : parameters)
-    for (const Limit& limit : parameter.Limits)
+  for (const Parameter& parameter : parameters) {
+    for (const Limit& limit : parameter.Limits) {
       if (limit.IsSet() && (first.By == nullptr || limit.Message < first.By->Message) &&
-          IsOutside(parameter, limit, values) && Counts(limit.Counts, values))
+          IsOutside(parameter, limit, values) && Counts(limit.Counts, values)) {
         first = {&parameter, &limit};
+      }
+    }
+  }
   return first;
 }

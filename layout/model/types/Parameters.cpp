@@ -20,6 +20,7 @@ using Limits = std::array<Limit, 2>;
 constexpr Limits AtLeast(gint least, Message message, Condition counts = {}) {
   return {{{least, message, nullptr, counts}}};
 }
+
 // A movement amount, that of a control which is there not 0.
 constexpr Limits Step(Condition needed = {}) {
   return {{{0, StepRange}, {1, StepMissing, nullptr, needed}}};
@@ -209,12 +210,11 @@ constexpr ParameterTable Tables[] = {
 constexpr bool EachTypeHasParameters() {
   TypeSet types = 1;  // 0 is no type
   for (const ParameterTable& table : Tables) {
-    if (table.Types != AllTypes) {
-      types |= table.Types;
-    }
+    if (table.Types != AllTypes) types |= table.Types;
   }
   return types == (TypeSet{1} << (ItemTypeCount + 1)) - 1;
 }
+
 static_assert(EachTypeHasParameters());
 
 bool IsOfSecondPoint(const Parameter& row) {
@@ -225,11 +225,13 @@ using Parameters = std::vector<Parameter>;
 
 Parameters RowsOf(gint type) {
   Parameters parameters;
-  for (const auto& table : Tables)
-    if ((table.Types >> type & 1u) != 0)
+  for (const auto& table : Tables) {
+    if ((table.Types >> type & 1u) != 0) {
       std::copy_if(
           table.Rows.begin(), table.Rows.end(), std::back_inserter(parameters),
           [type](const Parameter& row) { return !IsOfSecondPoint(row) || HasTwoPoints(type); });
+    }
+  }
   std::sort(parameters.begin(), parameters.end(),
             [](const Parameter& one, const Parameter& other) { return one.Slot < other.Slot; });
   return parameters;

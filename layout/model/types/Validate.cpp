@@ -1,8 +1,9 @@
+#include "layout/Validate.h"
+
 #include <cstring>
 
 #include "layout/ItemTypes.h"
 #include "layout/Parameters.h"
-#include "layout/Validate.h"
 #include "layout/model/types/Messages.h"
 
 namespace {
@@ -10,9 +11,11 @@ namespace {
 bool SameX(const PTRNDATA& item) {
   return item.Point1.x == item.Point2.x;
 }
+
 bool SameY(const PTRNDATA& item) {
   return item.Point1.y == item.Point2.y;
 }
+
 // A line may be level or upright, what lies between corners may not.
 bool HasNoExtent(const PTRNDATA& item) {
   if (!HasTwoPoints(item.Type)) return false;
@@ -26,32 +29,41 @@ bool CrossedLimits(const PTRNDATA& item) {
   const gint upper = item.Parm[BarSlot::UpperLimit];
   return (lower != 0 || upper != 0) && lower >= upper;
 }
+
 static_assert(gint{BarSlot::LowerLimit} == gint{SpinSlot::LowerLimit} &&
               gint{BarSlot::UpperLimit} == gint{SpinSlot::UpperLimit});
 bool OnlyDecimals(const PTRNDATA& item) {
   return item.Parm[TextSlot::Length] <= item.Parm[TextSlot::Decimals];
 }
+
 bool NoText(const PTRNDATA& item) {
   return item.Text1[0] == '\0';
 }
+
 bool NoCode(const PTRNDATA& item) {
   return item.ID_Code[0] == '\0';
 }
+
 bool NoPicture(const PTRNDATA& item) {
   return ItemTypeOf(item.Type).Texts == ItemTexts::Picture && NoText(item);
 }
+
 bool NoNeededCode(const PTRNDATA& item) {
   return ItemTypeOf(item.Type).NeedsCode && NoCode(item);
 }
+
 bool NegativeNumber(const PTRNDATA& item) {
   return item.ID_No < 0;
 }
+
 bool MessageWithoutCode(const PTRNDATA& item) {
   return item.ID_Type >= 1 && item.ID_Type <= 4 && NoCode(item);
 }
+
 bool OpeningWithoutName(const PTRNDATA& item) {
   return item.ID_Type >= 5 && item.ID_Type <= 8 && item.ID_Name[0] == '\0';
 }
+
 // Kept: only the first character counts; "a-b" passes, so message 18 is never shown.
 bool BadCodeStart(const PTRNDATA& item) {
   const gchar first = item.ID_Code[0];
@@ -89,8 +101,9 @@ constexpr Rule Rules[] = {
 };
 
 Message FirstBroken(std::span<const Rule> rules, const PTRNDATA& item) {
-  for (const Rule& rule : rules)
+  for (const Rule& rule : rules) {
     if ((rule.Type == AnyType || rule.Type == item.Type) && rule.IsBroken(item)) return rule.Number;
+  }
   return Valid;
 }
 
