@@ -46,6 +46,11 @@ TEST_F(GenerationTest, WithoutARegistryThereAreNoFlags) {
   ExpectStates({Failed, Failed, Failed, Written, Written, Written});
 }
 
+TEST_F(GenerationTest, FlagsThatCannotBeWrittenHaveFailed) {
+  std::filesystem::create_directory(folder_.Path("project/PtrnFlag"));
+  ExpectStates({Written, Failed, Written, Written, Written, Written});
+}
+
 TEST_F(GenerationTest, AnOpenLayoutStaysAsItIs) {
   WriteLayout("One", PTRNHEDR{}, {{"TEMP", 4}});
   PTRNDATA item{};
