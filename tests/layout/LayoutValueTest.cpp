@@ -65,6 +65,14 @@ TEST_F(LayoutValueTest, DecodedBytesAreEncodedAlike) {
   EXPECT_EQ(std::string_view(encoded.data(), encoded.size()), bytes);
 }
 
+TEST_F(LayoutValueTest, CutBytesAreNoLayout) {
+  const std::string bytes = NumberedFile(1, 2, "Title");
+  ASSERT_EQ(bytes.size(), 748u);
+  EXPECT_TRUE(DecodeLayout(bytes));
+  for (const std::size_t size : {0, 465, 466, 601, 602, 737, 738, 747})
+    EXPECT_FALSE(DecodeLayout(bytes.substr(0, size))) << size;
+}
+
 TEST_F(LayoutValueTest, WhatIsReadIsAppended) {
   folder_.Write("A.ptn", NumberedFile(100, 2, "A"));
   Layout layout;
