@@ -7,6 +7,7 @@
 #include <string>
 
 #include "Constant.h"
+#include "layout/Guards.h"
 #include "layout/ItemSlots.h"
 #include "layout/Parameters.h"
 #include "tests/layout/SlotConstants.h"
@@ -117,6 +118,16 @@ TEST(ParametersTest, ListedValuesFillTheirRange) {
       while (range.Values[count][0] != '\0') ++count;
       EXPECT_EQ(range.Most, count - 1) << parameter.Name;
     }
+  }
+}
+
+TEST(ParametersTest, ZoomsAreListedInTheOrderOfTheirPercents) {
+  const gint percents[] = {500, 200, 100, 75, 50};
+  const ValueRange& range = FindParameter(ViewParameters(), ViewSlot::Zoom)->Range;
+  ASSERT_EQ(range.Most, 4);
+  for (gint index = 0; index <= 4; ++index) {
+    EXPECT_EQ(range.Values[index], std::to_string(percents[index]) + "%");
+    EXPECT_EQ(ZoomPercent(index), percents[index]);
   }
 }
 
