@@ -4,6 +4,7 @@
 #include "ProjData.h"
 #include "PtrnData.h"
 #include "PtrnMisc.h"
+#include "render/Marks.h"
 #include "tests/edit/EditFixture.h"
 
 namespace {
@@ -41,6 +42,19 @@ TEST_F(StartUpTest, TheLastProjectIsReopened) {
   EXPECT_EQ(ProjData.Parm1[0], 3);
   EXPECT_EQ(ColrData[1].red, 9);
   EXPECT_THAT(Screen.Take(), ElementsAre("SetMainMenu", "SetWindTitle [Plant] []"));
+}
+
+TEST_F(StartUpTest, ItsMarksAreReadAndDrawn) {
+  WriteProject("Plant");
+  std::string marks(350 * 512, '\0');
+  marks[9 * 512] = 0x5A;
+  Folder.Write("project/PtrnMark", marks);
+  WriteProfile("[PROJECT]\nPROJECT=Plant," + ProjectFolder + "\n");
+  MarkData[9].mark[0] = 0x0F;
+  SetDrawMark();
+  ProjDataInit();
+  EXPECT_EQ(MarkData[9].mark[0], 0x5A);
+  EXPECT_EQ(std::string(Mark_XPM[9].data[MarkHeaderLines]).substr(0, 8), ".X.XX.X.");
 }
 
 TEST_F(StartUpTest, AProjectThatIsGoneIsForgotten) {
