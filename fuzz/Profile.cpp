@@ -22,16 +22,16 @@ void SetAndDelete(std::string profile, std::string_view section, std::string_vie
   const std::string before = profile;
   SetProfileValue(profile, section, key, "12,ab");
   const bool joined =
-      !before.empty() && before.back() != '\n' && !ProfileValue(before, section, "");
-  if (plain && !joined && ProfileValue(before, section, key)) {
-    Require(ProfileValue(profile, section, key) == "12,ab");
+      !before.empty() && before.back() != '\n' && !ProfileSearch(before, section, "");
+  if (plain && !joined && ProfileSearch(before, section, key)) {
+    Require(ProfileSearch(profile, section, key) == "12,ab");
   }
   std::size_t most = profile.size();
   while (DeleteProfileKey(profile, section, key)) {
     Require(profile.size() < most);
     most = profile.size();
   }
-  Require(!ProfileValue(profile, section, key));
+  Require(!ProfileSearch(profile, section, key));
 }
 
 }  // namespace

@@ -9,3 +9,6 @@
 #include "layout/CopyDialogs.h"
 #include "layout/LayoutSettings.h"
 #include "layout/Screen.h"
+#include "render/FontTable.h"
+#include "render/Marks.h"
+#include "render/Palette.h"

@@ -14,7 +14,7 @@ gchar ResultText[256];
 gint ReadFields(const gchar* profname, const gchar* section, const std::string& key,
                 const gchar* format, va_list args) {
   const std::string profile = LoadProfile(ProfilePath(profname)).value_or("");
-  const std::string value = ProfileValue(profile, section, key).value_or("");
+  const std::string value = ProfileSearch(profile, section, key).value_or("");
   gint count = 0;
   for (std::size_t number = 0;; ++number) {
     const FieldKind kind = FieldKindOf(format[number]);

@@ -89,8 +89,8 @@ bool IsHexDigit(char letter) {
 
 }  // namespace
 
-std::optional<std::string> ProfileValue(std::string_view profile, std::string_view section,
-                                        std::string_view key) {
+std::optional<std::string> ProfileSearch(std::string_view profile, std::string_view section,
+                                         std::string_view key) {
   LineReader reader(profile);
   if (!FindSection(reader, section) || !FindKey(reader, key)) return std::nullopt;
   return std::string(reader.Text().substr(key.size() + 1));

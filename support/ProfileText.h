@@ -8,8 +8,8 @@
 #include <string_view>
 
 // The key's value without comment and trailing blanks, nothing when section or key is missing.
-std::optional<std::string> ProfileValue(std::string_view profile, std::string_view section,
-                                        std::string_view key);
+std::optional<std::string> ProfileSearch(std::string_view profile, std::string_view section,
+                                         std::string_view key);
 // Replaces the key's line, or puts it first into its section, which is made when it is missing.
 void SetProfileValue(std::string& profile, std::string_view section, std::string_view key,
                      std::string_view value);

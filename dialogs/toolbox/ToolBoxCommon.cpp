@@ -1,5 +1,6 @@
 // The section of the tool box that all types share, and the point read-outs.
 #include <map>
+#include <tuple>
 
 #include "dialogs/ToolBox.h"
 #include "dialogs/ToolBoxWindow.h"
@@ -24,7 +25,10 @@ struct CommonVariant {
   bool OnePoint;
   bool Registers;
 
-  auto operator<=>(const CommonVariant&) const = default;
+  bool operator<(const CommonVariant& other) const {
+    return std::tie(Line, OnePoint, Registers) <
+           std::tie(other.Line, other.OnePoint, other.Registers);
+  }
 };
 
 void DescribeCommon(PageRows& rows, const CommonVariant& variant) {

@@ -8,6 +8,7 @@
 #include "layout/Guards.h"
 #include "layout/ItemTypes.h"
 #include "layout/ProjectRecord.h"
+#include "layout/ProjectSlots.h"
 #include "support/Resource.h"
 
 namespace {
@@ -18,7 +19,8 @@ constexpr const gchar* ContentKey = "varnix-content";
 // panel that another one has replaced.
 PageTables& TablesOfType(gint type) {
   static std::map<PageVariant, PageTables> known;
-  const PageVariant variant = {type, TextIndex(Language), ProjData.Parm1[2] != 0};
+  const PageVariant variant = {type, TextIndex(Language),
+                               ProjData.Parm1[ProjectSlot::ColourSystems] != 0};
   const auto [found, isNew] = known.try_emplace(variant);
   PageTables& tables = found->second;
   if (isNew) {
@@ -31,7 +33,7 @@ PageTables& TablesOfType(gint type) {
 
 // Kept: a frame has its sixth column by the number of languages, not of colours.
 gint ColumnsOf(gint type) {
-  return type == TypeFrame && ProjData.Parm1[1] != 0 ? 6 : 5;
+  return type == TypeFrame && ProjData.Parm1[ProjectSlot::Languages] != 0 ? 6 : 5;
 }
 
 // A wider gap after the first column, the labels, than between the others, which are all as wide.

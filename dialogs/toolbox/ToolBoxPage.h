@@ -3,7 +3,7 @@
 
 #include "dialogs/ToolBox.h"
 
-// Builds the page of a type 1..15, for the display language and the project's colour systems, into
+// Builds the page of an item type, for the display language and the project's colour systems, into
 // the window's content box.
 void BuildToolBoxPage(GtkWidget* window, gint type);
 // The box under a tool box window that takes the page.

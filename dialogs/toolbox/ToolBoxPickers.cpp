@@ -49,13 +49,8 @@ std::vector<std::string> ToolBoxList2() {
 
 // The texts of a string list; kinds 2, 3, 4 are languages 1, 2, 3.
 std::vector<std::string> ToolBoxList3(gint kind) {
-  const gchar* file = kind == 2 ? "PtrnText1" : kind == 3 ? "PtrnText2" : "PtrnText3";
   std::vector<std::string> texts;
-  const auto content = ReadWholeFile(JoinPath(ProjPath, file, ""));
-  if (!content) return texts;
-  for (gsize at = 0; at + sizeof(PTRNTEXT) <= content->size(); at += sizeof(PTRNTEXT)) {
-    texts.emplace_back(FieldText(content->data() + at, sizeof(PTRNTEXT)));
-  }
+  for (const PTRNTEXT& text : ReadPtrnText(kind)) texts.emplace_back(FieldText(text.text));
   return texts;
 }
 

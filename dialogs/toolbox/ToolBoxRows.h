@@ -2,9 +2,9 @@
 // they make. Every control is bound to the item in hand, PtrnData.
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <span>
+#include <tuple>
 #include <vector>
 
 #include "dialogs/kit/ControlTables.h"
@@ -57,11 +57,14 @@ struct PageTables {
 
 // What a page's rows depend on.
 struct PageVariant {
-  gint Type = 0;      // 1..15
+  gint Type = 0;      // code
   gint Language = 0;  // 0..2, the last one shown
   bool FourSystems = false;
 
-  auto operator<=>(const PageVariant&) const = default;
+  bool operator<(const PageVariant& other) const {
+    return std::tie(Type, Language, FourSystems) <
+           std::tie(other.Type, other.Language, other.FourSystems);
+  }
 };
 
 // The integer at a byte offset of the item in hand. Formed by bytes, as the record is packed.

@@ -16,6 +16,8 @@ void RegstPtrnCode(const gchar* code, gint no);
 // Appends a text to a string list unless it is there: k = 2 goes to "PtrnText1", 3 to "PtrnText2",
 // any other to "PtrnText3".
 void RegstPtrnText(const gchar* text, gint k);
+// The texts of that list, none of one that is missing or cannot be read.
+std::vector<PTRNTEXT> ReadPtrnText(gint k);
 
 // The same rule on a registry held in memory. True when something changed.
 bool RegisterCode(std::vector<PTRNCODE>& registry, std::string_view code, gint no);

@@ -15,10 +15,6 @@ extern DRAWCOLR DrawColr[103];
 enum { ColourWhite = 100, ColourBlack = 101, ColourRed = 102 };
 // Foreground and background of the mouse cursors, from the profile.
 extern DRAWCOLR CusrColr[2];
-// True of a number that names one.
-inline bool ColourExists(gint colour) {
-  return colour >= 0 && colour <= ColourRed;
-}
 
 // 0xRRGGBB of 16-bit channels.
 guint32 PixelOf(gint red, gint green, gint blue);

@@ -49,7 +49,7 @@ void SetCommented(std::string& profile, std::string_view section, std::string_vi
 // A field of a key, "" when it is missing or not of its kind.
 std::string Field(std::string_view profile, std::string_view section, std::string_view key,
                   std::size_t number, FieldKind kind) {
-  const std::string value = ProfileValue(profile, section, key).value_or("");
+  const std::string value = ProfileSearch(profile, section, key).value_or("");
   return std::string(CheckedField(ProfileField(value, number), kind));
 }
 

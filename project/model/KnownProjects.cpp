@@ -26,7 +26,7 @@ bool IsWhole(const std::string& value) {
 }
 
 std::string ProjectValue(std::string_view profile, std::string_view section, std::string_view key) {
-  return ProfileValue(profile, section, key).value_or("");
+  return ProfileSearch(profile, section, key).value_or("");
 }
 
 std::string NameOf(const std::string& value) {

@@ -1,5 +1,6 @@
 #include "render/fonts/DrawFonts.h"
 
+#include "layout/Guards.h"
 #include "render/FontTable.h"
 #include "support/Resource.h"
 
@@ -21,7 +22,7 @@ std::unique_ptr<FontSet> SmallFontSet() {
 }  // namespace
 
 FontSet* DrawFontOf(gint font) {
-  if (font < 0 || font > SmallFont) return nullptr;
+  if (!IsFont(font)) return nullptr;
   std::unique_ptr<FontSet>& set = DrawFont[static_cast<std::size_t>(font)];
   if (font == SmallFont && !set) set = SmallFontSet();
   return set.get();

@@ -18,7 +18,7 @@ void CopyDisplayText(gchar* field, gsize size, const std::string& utf8) {
 
 void ReadFont(std::string_view profile, gint font) {
   const std::string value =
-      ProfileValue(profile, "FONT", NumberedKey("FONTNAME", Language * FontCount + font))
+      ProfileSearch(profile, "FONT", NumberedKey("FONTNAME", Language * FontCount + font))
           .value_or("");
   const std::string_view name = ProfileTextField(value, 0);
   const std::string descriptor(ProfileTextField(value, 1));

@@ -1,5 +1,6 @@
 #include <cstring>
 
+#include "layout/Guards.h"
 #include "render/Marks.h"
 #include "render/Palette.h"
 #include "render/pictures/KeptPictures.h"
@@ -48,7 +49,7 @@ void DrawMark(Drawable* drawable, DrawGc* /*gc*/, gint x, gint y, gint width, gi
               gint bg, gint mark) {
   const bool transparent = bg < 0;
   const PlaneBox box{x, y, gint64{x} + width, gint64{y} + height};
-  if (mark < 0 || mark > MarkCheckOn || !ColourExists(fg) || (!transparent && !ColourExists(bg)) ||
+  if (!IsMark(mark) || !IsColour(fg) || (!transparent && !IsColour(bg)) ||
       box.Clip(BoxOf(*drawable)).Empty()) {
     return;
   }

@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include "layout/Guards.h"
 #include "render/Primitives.h"
 #include "render/primitives/LineWalk.h"
 #include "render/primitives/Outlines.h"
@@ -33,11 +34,11 @@ void DrawRect1(Drawable* drawable, DrawGc* gc, gint filled, gint x1, gint y1, gi
 void DrawRect(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint width,
               gint position, gint line, gint fill) {
   gc->Dashes = nullptr;
-  if (ColourExists(fill)) {
+  if (IsColour(fill)) {
     gc->Foreground = DrawColr[fill].pixel;
     DrawRect1(drawable, gc, 1, x1, y1, x2, y2);
   }
-  if (width <= 0 || !ColourExists(line)) return;
+  if (width <= 0 || !IsColour(line)) return;
   gc->Foreground = DrawColr[line].pixel;
   const OffsetRange insets = OutlineInsets(width, position);
   for (gint64 inset = insets.Low; inset <= insets.High; ++inset) {

@@ -1,3 +1,4 @@
+#include "layout/Guards.h"
 #include "render/Primitives.h"
 #include "render/fonts/DrawFonts.h"
 #include "render/surface/Paint.h"
@@ -8,11 +9,11 @@ void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg
   if (fonts == nullptr || text == nullptr || text[0] == '\0') return;
   const TextExtents extents = fonts->Measure(text);
   const gint height = LineHeightOf(font);
-  if (ColourExists(bg)) {
+  if (IsColour(bg)) {
     gc->Foreground = DrawColr[bg].pixel;
     FillPixels(drawable, x, y, extents.Width, height, gc->Foreground);
   }
-  if (ColourExists(fg)) {
+  if (IsColour(fg)) {
     gc->Foreground = DrawColr[fg].pixel;
     const gint64 baseline = gint64{y} + (extents.Ascent + height - extents.Descent) / 2;
     const PlaneBox ink{gint64{x} + extents.Left, baseline - extents.Ascent,
@@ -26,7 +27,7 @@ void DrawText(Drawable* drawable, DrawGc* gc, gint x, gint y, gint font, gint fg
 void DrawTextOnBaseline(Drawable* drawable, DrawGc* gc, gint x, gint baseline, gint font, gint fg,
                         const gchar* text) {
   FontSet* fonts = DrawFontOf(font);
-  if (fonts == nullptr || text == nullptr || !ColourExists(fg)) return;
+  if (fonts == nullptr || text == nullptr || !IsColour(fg)) return;
   gc->Foreground = DrawColr[fg].pixel;
   fonts->Draw(*drawable, x, baseline, gc->Foreground, text);
 }

@@ -1,3 +1,4 @@
+#include "layout/Guards.h"
 #include "render/Primitives.h"
 #include "render/primitives/EllipseRows.h"
 #include "render/primitives/Outlines.h"
@@ -77,9 +78,9 @@ void DrawCrcl(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2
   const auto outlineAt = [=](gint64 inset) {
     return Normalised(x1 + inset, y1 + inset, x2 - inset, y2 - inset);
   };
-  const bool outlined = width > 0 && ColourExists(line);
+  const bool outlined = width > 0 && IsColour(line);
   const OffsetRange insets = outlined ? OutlineInsets(width, position) : OffsetRange{0, -1};
-  if (ColourExists(fill)) {
+  if (IsColour(fill)) {
     gc->Foreground = DrawColr[fill].pixel;
     PlaneBox filled = outlineAt(0);
     FillEllipse(*drawable, gc->Foreground, filled);

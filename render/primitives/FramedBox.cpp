@@ -1,10 +1,11 @@
+#include "layout/Guards.h"
 #include "render/Primitives.h"
 #include "render/surface/Paint.h"
 
 namespace {
 
 void FillColour(Drawable& drawable, DrawGc& gc, const PlaneBox& box, gint colour) {
-  if (ColourExists(colour)) {
+  if (IsColour(colour)) {
     gc.Foreground = DrawColr[colour].pixel;
     FillBox(drawable, box, gc.Foreground);
   }

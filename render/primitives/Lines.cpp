@@ -1,3 +1,4 @@
+#include "layout/Guards.h"
 #include "render/Primitives.h"
 #include "render/primitives/LineWalk.h"
 
@@ -23,7 +24,7 @@ OffsetRange SlantedOffsets(gint64 width) {
 
 void DrawLine(Drawable* drawable, DrawGc* gc, gint x1, gint y1, gint x2, gint y2, gint style,
               gint width, gint position, gint colour) {
-  if (!ColourExists(colour) || width <= 0) return;
+  if (!IsColour(colour) || width <= 0) return;
   gc->Foreground = DrawColr[colour].pixel;
   gc->Dashes = style == 0 ? nullptr : style == 1 ? dash1 : dash2;
   const LineEnds line{x1, y1, x2, y2};

@@ -69,8 +69,9 @@ TEST_F(LayoutValueTest, CutBytesAreNoLayout) {
   const std::string bytes = NumberedFile(1, 2, "Title");
   ASSERT_EQ(bytes.size(), 748u);
   EXPECT_TRUE(DecodeLayout(bytes));
-  for (const std::size_t size : {0, 465, 466, 601, 602, 737, 738, 747})
+  for (const std::size_t size : {0, 465, 466, 601, 602, 737, 738, 747}) {
     EXPECT_FALSE(DecodeLayout(bytes.substr(0, size))) << size;
+  }
 }
 
 TEST_F(LayoutValueTest, WhatIsReadIsAppended) {

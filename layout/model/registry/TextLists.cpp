@@ -7,8 +7,9 @@
 
 namespace {
 
-// The list for `k`. Kept: the commit counts its languages from 0, so the first two reach the third
-// list and the third the first; files of existing projects have it so.
+// The list for `k`; the panel's pickers count from 2. Kept: the commit counts its languages from 0,
+// so the first two reach the third list and the third the first; files of existing projects have it
+// so.
 const gchar* ListName(gint k) {
   switch (k) {
     case 2:
@@ -21,6 +22,10 @@ const gchar* ListName(gint k) {
 }
 
 }  // namespace
+
+std::vector<PTRNTEXT> ReadPtrnText(gint k) {
+  return ReadRecords<PTRNTEXT>(ProjPath, ListName(k)).value_or(std::vector<PTRNTEXT>());
+}
 
 void RegstPtrnText(const gchar* text, gint k) {
   PTRNTEXT entry{};
